@@ -1,0 +1,23 @@
+# The platform layer: on Windows the system's own libraries, elsewhere ours on SDL2, FreeType and fontconfig.
+# tervalis_platform_base needs neither window nor sound device; the tests' fake platform stands on it too.
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(SDL2 REQUIRED IMPORTED_TARGET sdl2)
+pkg_check_modules(FREETYPE REQUIRED IMPORTED_TARGET freetype2)
+pkg_check_modules(FONTCONFIG REQUIRED IMPORTED_TARGET fontconfig)
+pkg_check_modules(TURBOJPEG REQUIRED IMPORTED_TARGET libturbojpeg)
+find_package(tomlplusplus REQUIRED)
+
+target_link_libraries(tervalis_game PUBLIC PkgConfig::TURBOJPEG)
+
+file(GLOB BASE_SOURCES CONFIGURE_DEPENDS src/platform/posix/*.cpp)
+add_library(tervalis_platform_base STATIC ${BASE_SOURCES})
+target_include_directories(tervalis_platform_base PUBLIC src)
+target_link_libraries(tervalis_platform_base PRIVATE PkgConfig::FREETYPE PkgConfig::FONTCONFIG tomlplusplus::tomlplusplus)
+
+file(GLOB SDL_SOURCES CONFIGURE_DEPENDS src/platform/sdl/*.cpp)
+list(FILTER SDL_SOURCES EXCLUDE REGEX "/main\\.cpp$")
+add_library(tervalis_platform STATIC ${SDL_SOURCES})
+target_link_libraries(tervalis_platform PUBLIC tervalis_platform_base PkgConfig::SDL2)
+
+add_executable(tervalis src/platform/sdl/main.cpp)
+target_link_libraries(tervalis PRIVATE tervalis_game tervalis_platform)

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/window.h"
+
+#include <cstdint>
+
+/// The application: its window, the frame clock and the switching of scenes. One global object.
+class CGame
+{
+public:
+    CGame(const char* name, int width, int height, bool windowed);
+    /// Saves the settings and closes the instance mutex.
+    virtual ~CGame();
+
+    /// Start-up once the window exists: folder, random seed, log, display, sound, global images. False when the
+    /// display mode or an image cannot be had; `lastError` says why.
+    bool Create();
+    /// The end, run from the window's destroy message.
+    void Destroy();
+    LRESULT WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    /// One pass of the frame clock; does nothing until 40 ms have passed since the last frame.
+    void FrameTick();
+
+    char name[256]; ///< window class, window title and instance mutex
+    bool windowed;  ///< display mode at the start
+    int width;      ///< client size in pixels
+    int height;
+};
+
+/// Makes the instance mutex, the window class, the window and all that CGame::Create makes. False when another copy
+/// runs or a step fails.
+bool CreateGameWindow(HINSTANCE instance);
+
+/// Runs the program until its window is gone; returns the exit code.
+int RunGame(HINSTANCE instance);

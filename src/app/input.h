@@ -1,0 +1,14 @@
+#pragma once
+
+/// Mouse and keyboard as the window procedure last saw them; it alone writes here. Readers consume a key by setting
+/// `lastKeyDown` to 0 and a click by clearing `mouseLeftDown`, so that one press acts once.
+struct InputState {
+    int mouseX = 0; ///< client pixels; negative left of or above the window while a button is held
+    int mouseY = 0;
+    bool mouseLeftDown = false;
+    bool mouseRightDown = false;
+    int lastKeyDown = 0; ///< virtual-key code of the latest key press
+    int lastKeyUp = 0;   ///< virtual-key code of the latest key release
+    char lastChar = 0;   ///< latest character, in the ANSI code page
+    bool hasFocus = true;
+};

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "app/section.h"
+
+/// Loads the settings and the pack, then one step a frame the data of menu, pond and status bar; the screen is
+/// black meanwhile. Then the menu takes over.
+class CSectionLoad : public CSection
+{
+public:
+    bool SectionBegin() override;
+    bool SectionEnd() override;
+    bool SectionProcess() override;
+};

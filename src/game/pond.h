@@ -1,0 +1,156 @@
+#pragma once
+
+#include "actors/snake.h"
+#include "actors/status_bar.h"
+#include "game/geometry.h"
+#include "gfx/image.h"
+
+#include <array>
+#include <cstdint>
+#include <memory>
+
+/// One cell of the pond: nothing, a growing berry, a ripe berry or a stone.
+struct Cell {
+    int32_t x = 0; ///< top-left corner, pond pixels
+    int32_t y = 0;
+    bool occupied = false;
+    bool ripe = false;     ///< with `occupied`: a ripe berry
+    int32_t colour = 0;    ///< of a berry, 0..5
+    int32_t age = 0;       ///< a stone's order number: larger is newer
+    int32_t growth = 0;    ///< frames of growth left, 28..1; 0 when ripe or a stone
+    bool splashed = false; ///< a ripe berry's landing splash has been made
+
+    bool IsStone() const { return occupied && !ripe && growth == 0; }
+    bool IsRipeBerry() const { return occupied && ripe; }
+};
+
+struct Laser {
+    bool active = false;
+    int32_t x = 0; ///< pond pixels
+    int32_t y = 0;
+    int32_t heading = 0;
+    int32_t frame = 0; ///< animation counter
+    bool hit = false;  ///< playing its burst
+};
+
+/// Index into `popupImages`.
+enum PopupKind : int {
+    POPUP_5 = 0,
+    POPUP_10 = 1,
+    POPUP_15 = 2,
+    POPUP_30 = 3,
+    POPUP_35 = 4,
+    POPUP_40 = 5,
+    POPUP_45 = 6,
+    POPUP_LIFE_UP = 7,
+};
+
+struct Popup {
+    bool active = false;
+    int32_t x = 0; ///< pond pixels; rises by 2 a frame
+    int32_t y = 0;
+    int32_t kind = 0;
+    int32_t opacity = 0; ///< 255 falling by 10 a frame
+};
+
+/// An expanding ring; inactive while radius >= maxRadius.
+struct Shockwave {
+    int32_t x = 0;
+    int32_t y = 0;
+    int32_t radius = 0;
+    int32_t maxRadius = 0;
+};
+
+constexpr int OBJECT_IMAGES = 7; ///< six berries, then the stone
+constexpr int STONE_IMAGE = 6;
+constexpr int LASER_IMAGES = 8;
+constexpr int LASER_FLIGHT_IMAGES = 4; ///< then the burst
+constexpr int POPUP_IMAGES = 8;
+constexpr int GROWTH_FRAMES = 14; ///< falling-berry images per colour
+constexpr int GROWTH_IMAGES = GROWTH_FRAMES * ORDINARY_COLOURS;
+constexpr int GROWTH_START = 28; ///< frames of growth of a new berry
+constexpr int HIGHLIGHTS = 5;
+
+/// The state of the moon and of loading, which outlives a game.
+struct SceneryState {
+    int32_t loadStage = 0;
+    bool moonToggle = false; ///< which moon rises this night: set = the first
+    int32_t moonY = 1000;    ///< the moon's top edge, pond pixels
+};
+extern SceneryState scenery;
+
+/// Frames that the start-up highlight has been drawn; it blinks by it. Outlives a game.
+extern int32_t blinkCounter;
+
+/// The game world: cells with berries and stones, lasers, shock wave, popups, the snakes and the status bar, and the
+/// scenery around them. One object lives for the whole run, inside the game scene.
+class CPond
+{
+public:
+    CPond() = default;
+    virtual ~CPond();
+
+    /// Sets up a game of one (0) or two (1) players; keys are virtual-key codes up, down, left, right. False when a
+    /// snake's image cannot be loaded.
+    bool NewGame(int playerMode, const uint32_t* keys1, const uint32_t* keys2);
+    /// One frame of play, composed onto `backBuffer`; `key` is the virtual-key code of this frame's key, 0 for none.
+    /// Always true.
+    bool GameFrame(CImage& pondPicture, int key);
+    /// End of play: frees the snakes' images and stops the pond's sounds.
+    void GameEnd();
+
+    /// One loading step a call, until `done` is set. False when a file cannot be had.
+    bool DataLoad(bool& done);
+    void UnDataLoad();
+
+    // What snakes and status bar ask for. Positions are pond pixels.
+
+    /// A new falling berry on a free cell far from every head, searched from `cell` on; either may be RANDOM.
+    void PlaceBerry(int colour, int cell);
+    /// Its cell becomes the newest stone.
+    void TurnToStone(int x, int y);
+    /// Eats the ripe berry in the head's cell: true, and its colour. Otherwise false. `eyeFrame` is 1 when eating,
+    /// 2..5 with a berry beside the head, else 0.
+    bool EatAt(int x, int y, int& colour, int heading, int& eyeFrame);
+    /// More than one occupant in the cell, counting snake segments and stones.
+    bool IsOccupied(int x, int y);
+    /// The oldest stones become ripe berries of random colour.
+    void FadeStones(int count);
+    /// Starts a laser; dropped when both slots are taken.
+    void FireLaser(int x, int y, int heading);
+    /// Starts a score popup; dropped when all slots are taken.
+    void ShowPopup(int x, int y, int kind);
+    int CountBerries(int colour) const; ///< ripe ones
+    int CountStones() const;
+
+    int32_t players = 0; ///< 0 = one-player game, 1 = two-player game
+    CSnake snake[2];
+    CStatusBar statusBar;
+    bool gameOver = false; ///< the end-of-game fade has finished
+    int32_t fadeOut = 0;   ///< end-of-game fade counter, 125 falling by 2 a frame
+    Cell cells[CELL_COUNT];
+    Shockwave shockwave;
+    CImage dayBackground;
+    CImage nightBackground;
+    std::unique_ptr<CImage[]> objectImages;
+    CImage shadowImage;
+    CImage lightImage;
+    std::unique_ptr<CImage[]> laserImages;
+    std::unique_ptr<CImage[]> popupImages;
+    std::unique_ptr<CImage[]> growthImages; ///< index colour * GROWTH_FRAMES + frame - 1
+    CImage moonImages[2];
+    Laser lasers[2];
+    Popup popups[20];
+    bool isDay = false;
+    int32_t transition = 0;             ///< frames left of a dusk or dawn
+    int32_t dayTimer = 0;               ///< frames since the last change of day and night
+    int32_t highlightNext = 0;          ///< next slot to record into, -1 when recording is over
+    int32_t highlight[HIGHLIGHTS] = {}; ///< cells of the start-up highlight, -1 = empty
+    int32_t introFrames = 0;            ///< frames of the start fade-in, 0..31
+
+private:
+    /// How many occupants each cell has.
+    using CountGrid = std::array<int, CELL_COUNT>;
+
+    int SnakesInPlay() const { return players + 1; }
+};

@@ -1,0 +1,115 @@
+#pragma once
+
+#include "gfx/image.h"
+#include "gfx/text_image.h"
+
+#include <cstdint>
+#include <memory>
+
+/// A click area with up to three pictures. Boxes are relative to the menu.
+struct MenuButton {
+    int32_t id = 0;
+    int32_t x = 0;
+    int32_t y = 0;
+    int32_t width = 0;
+    int32_t height = 0;
+    CImage* image = nullptr;        ///< pictures are not owned; null = none
+    CImage* hoverImage = nullptr;   ///< over it while the mouse is on the box
+    CImage* pressedImage = nullptr; ///< instead, with the left button down
+    int32_t hoverSound = -1;        ///< sound ids, -1 = none
+    int32_t clickSound = -1;
+    bool clicked = false; ///< for the frame of the click
+    bool isVisible = true;
+    bool isEnabled = true;
+};
+
+/// A radio button: a click unchecks its group and checks it.
+struct MenuToggle {
+    int32_t id = 0;
+    int32_t group = 0;
+    int32_t x = 0;
+    int32_t y = 0;
+    int32_t width = 0;
+    int32_t height = 0;
+    CImage* image = nullptr;
+    CImage* hoverImage = nullptr;
+    CImage* checkedImage = nullptr; ///< instead of `image` while checked
+    int32_t hoverSound = -1;
+    int32_t clickSound = -1;
+    bool checked = false;
+    bool isVisible = true;
+    bool isEnabled = true;
+};
+
+enum TextAlign : int { ALIGN_LEFT = 0, ALIGN_CENTRE = 1, ALIGN_RIGHT = 2 };
+enum TextMode : int { TEXT_ENTRY = 0, KEY_CAPTURE = 1 };
+constexpr int MENU_TEXT_SIZE = 256;
+
+/// A label, text-entry field or key-capture field.
+struct MenuText {
+    int32_t id = 0;
+    int32_t x = 0;
+    int32_t y = 0;
+    int32_t width = 0;
+    int32_t height = 0;
+    CImage* image = nullptr;
+    CTextImage* font = nullptr;   ///< not owned
+    uint16_t colour = 0;          ///< RGB565
+    uint16_t focusColour = 0;     ///< of text and cursor while focused
+    std::unique_ptr<char[]> text; ///< MENU_TEXT_SIZE bytes, zero-terminated; the owner may write it
+    int32_t key = 0;              ///< in key capture: the virtual-key code captured last
+    int32_t maxLength = 0;        ///< of typed text
+    int32_t align = ALIGN_LEFT;
+    int32_t mode = TEXT_ENTRY;
+    bool focused = false; ///< takes the keyboard; set and cleared by the owner
+    bool isVisible = true;
+    bool isEnabled = true;
+    bool changed = false; ///< for the frame in which typing or a capture changed the text
+};
+
+/// The one widget: a panel with a background and up to 16 buttons, 16 toggles and 20 texts. The owner calls
+/// MenuProcess once a frame, then reads and writes the items' flags.
+class CMenu
+{
+public:
+    static constexpr int MAX_BUTTONS = 16;
+    static constexpr int MAX_TOGGLES = 16;
+    static constexpr int MAX_TEXTS = 20;
+
+    CMenu() = default;
+    virtual ~CMenu();
+    CMenu(const CMenu&) = delete;
+    CMenu& operator=(const CMenu&) = delete;
+
+    /// Position, background (not owned, may be null) and room for the items. False when memory runs out.
+    bool MenuCreate(int menuX, int menuY, CImage* picture);
+    void MenuFree();
+    /// The Add operations answer false when their list is full.
+    bool AddButton(int id, int boxX, int boxY, int boxWidth, int boxHeight, CImage* image, CImage* hoverImage,
+                   CImage* pressedImage, int hoverSound, int clickSound);
+    bool AddToggle(int id, int group, int boxX, int boxY, int boxWidth, int boxHeight, CImage* image,
+                   CImage* hoverImage, CImage* checkedImage, int hoverSound, int clickSound);
+    bool AddText(int id, int boxX, int boxY, int boxWidth, int boxHeight, CImage* image, CTextImage* font,
+                 uint16_t colour, uint16_t focusColour, int align, int mode, int maxLength);
+    /// The first item with that id, or null.
+    MenuButton* FindButton(int id);
+    MenuToggle* FindToggle(int id);
+    MenuText* FindText(int id);
+    /// One frame: draws the panel onto `target` and handles mouse and keyboard.
+    void MenuProcess(CImage& target);
+
+    int32_t x = 0; ///< pixels of the target
+    int32_t y = 0;
+    CImage* background = nullptr;
+    bool isVisible = false;
+    bool isActive = false; ///< takes mouse and keyboard
+    int32_t buttonCount = 0;
+    int32_t toggleCount = 0;
+    int32_t textCount = 0;
+    std::unique_ptr<MenuButton[]> buttons;
+    std::unique_ptr<MenuToggle[]> toggles;
+    std::unique_ptr<MenuText[]> texts;
+    int32_t hoveredButton = -1; ///< ids under the mouse in the last frame, -1 none
+    int32_t hoveredToggle = -1;
+    int32_t cursorBlink = 1;
+};

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "app/section.h"
+#include "gfx/image.h"
+#include "gfx/text_image.h"
+#include "menu/menu.h"
+#include "menu/settings.h"
+
+#include <array>
+#include <cstdint>
+#include <memory>
+
+constexpr int MENU_IMAGES = 20;
+constexpr int MENU_HELP_PAGES = 4;
+
+/// The main menu and its pages: options, ranking, help. It also carries the settings, so it must outlive the
+/// application object, which saves them.
+class CSectionMenu : public CSection
+{
+public:
+    ~CSectionMenu() override;
+    bool SectionBegin() override;
+    bool SectionEnd() override;
+    bool SectionProcess() override;
+
+    /// One loading step a call, until `done` is set. False when a font or a picture cannot be had.
+    bool DataLoad(bool& done);
+    void UnDataLoad();
+
+    /// Reads every stored value and applies it; an absent one gives its default. Returns the store's result code.
+    int SettingsLoad();
+    int SettingsSave();
+    /// Enters a one-player score that beats the tenth place, and asks for the player's name.
+    void RankingInsert(int32_t score);
+    /// The record into the ranking page's fields, and the typed names back.
+    void RankingPageFill();
+    void RankingPageStore();
+
+    // The options page.
+    void OptionsPageOpen();
+    void OptionsPageProcess();
+    void OptionsApply();
+    void OptionsDefault();
+
+    std::unique_ptr<CImage[]> images;
+    CMenu mainMenu;
+    CMenu optionsMenu;
+    CMenu rankingMenu;
+    CMenu helpMenus[MENU_HELP_PAGES];
+    CTextImage smallFont;
+    CTextImage largeFont;
+    uint32_t twoPlayers = 0; ///< 0 = one-player game, 1 = two-player game
+    char rankNames[RANKING_PLACES][NAME_BYTES] = {};
+    int32_t rankScores[RANKING_PLACES] = {}; ///< descending
+    uint32_t rankEntryPending = 0;           ///< a new score waits for its name
+    std::array<uint32_t, KEY_BINDINGS> keys = std::to_array(DEFAULT_KEYS);
+    bool keyConflict = false; ///< two bindings on the options page are equal
+};

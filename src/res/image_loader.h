@@ -1,0 +1,22 @@
+#pragma once
+
+#include "gfx/image.h"
+
+#include <cstdint>
+
+// The decoders. On success the image is fresh: anchors and opacity 0, BlitCopy, no alpha plane unless a mask was
+// given. On failure `lastError` is ENGINE_LOAD_IMAGE, ENGINE_CREATE_IMAGE or ENGINE_ALLOCATE_MEMORY.
+
+/// A baseline or progressive JPEG file, grey or colour.
+bool LoadJpegImage(CImage& image, const uint8_t* data, uint32_t size);
+
+/// A BMP file of 8, 16 (RGB565) or 24 bits a pixel, and, unless `mask` is null, an equally large one for the alpha
+/// plane. `size` and `maskSize` are the bytes there are: nothing is read beyond them.
+bool LoadBmpImage(CImage& image, const uint8_t* bmp, uint32_t size, const uint8_t* mask, uint32_t maskSize);
+
+// Loading a file and decoding it in one step.
+
+bool LoadJpegFile(CImage& image, const char* path);
+bool LoadBmpFile(CImage& image, const char* path);
+/// A mask file as both the pixels and the alpha plane of `image`.
+bool LoadMaskFile(CImage& image, const char* path);
