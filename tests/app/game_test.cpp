@@ -5,6 +5,7 @@
 #include "gfx/display.h"
 #include "gfx/error.h"
 #include "platform/fake_platform.h"
+#include "platform/kernel.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
