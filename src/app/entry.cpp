@@ -51,10 +51,8 @@ bool CreateGameWindow(HINSTANCE instance)
     return false;
 }
 
-int RunGame(HINSTANCE instance)
+int RunMessageLoop()
 {
-    if (!CreateGameWindow(instance))
-        return 0;
     MSG message = {};
     for (;;) {
         if (!PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE)) {
@@ -66,6 +64,11 @@ int RunGame(HINSTANCE instance)
         TranslateMessage(&message);
         DispatchMessageA(&message);
     }
+}
+
+int RunGame(HINSTANCE instance)
+{
+    return CreateGameWindow(instance) ? RunMessageLoop() : 0;
 }
 
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int)
