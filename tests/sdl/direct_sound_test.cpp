@@ -67,6 +67,13 @@ protected:
         }
         return left;
     }
+    /// Waits until that many more frames have been put out, at most some seconds.
+    void WaitForFrames(uintmax_t frames) const
+    {
+        const uintmax_t wanted = std::filesystem::file_size(output) + frames * 4;
+        for (int i = 0; i < 1000 && std::filesystem::file_size(output) < wanted; ++i)
+            SDL_Delay(5);
+    }
     IDirectSound* device = nullptr;
     std::filesystem::path output;
 };
@@ -111,7 +118,7 @@ TEST_F(DirectSoundTest, PutsOutTheSamplesItWasGiven)
         samples.push_back(static_cast<int16_t>(i * 16));
     IDirectSoundBuffer* const buffer = Add(samples);
     EXPECT_EQ(buffer->Play(0, 0, 0), DS_OK);
-    SDL_Delay(200);
+    WaitForFrames(2 * samples.size());
     buffer->Release();
     std::vector<int16_t> played = CloseAndRead();
     ASSERT_GT(played.size(), samples.size());
@@ -124,7 +131,7 @@ TEST_F(DirectSoundTest, FadesOutWhatIsReleasedWhilePlaying)
 {
     IDirectSoundBuffer* const buffer = Add(std::vector<int16_t>(300, 16000));
     EXPECT_EQ(buffer->Play(0, 0, DSBPLAY_LOOPING), DS_OK);
-    SDL_Delay(100);
+    WaitForFrames(2000);
     buffer->Release();
     const std::vector<int16_t> played = CloseAndRead();
     ASSERT_GT(played.size(), 300u);

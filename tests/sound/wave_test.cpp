@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <filesystem>
 
 namespace
@@ -152,33 +151,5 @@ TEST_F(WaveTest, ReadsAcrossTheFileBuffer)
     EXPECT_EQ(bytes, samples.substr(0, 60000));
     EXPECT_EQ(Read(60000), 0);
     EXPECT_EQ(bytes.substr(0, 40000), samples.substr(60000));
-}
-
-TEST_F(WaveTest, SeeksInsideAndOutsideTheFileBuffer)
-{
-    std::string content(200000, '\0');
-    for (size_t i = 0; i < content.size(); ++i)
-        content[i] = static_cast<char>(i / 777);
-    Write(content);
-    char path[] = "a.wav";
-    file = mmioOpenA(path, nullptr, MMIO_ALLOCBUF | MMIO_READ);
-    ASSERT_NE(file, nullptr);
-    const struct {
-        LONG offset;
-        int origin;
-        LONG position;
-        LONG readable; ///< of the 2 bytes asked for
-    } cases[] = {
-        { 150000, SEEK_SET, 150000, 2 }, { -1, SEEK_CUR, 150001, 2 }, { 3, SEEK_SET, 3, 2 },
-        { 65535, SEEK_SET, 65535, 2 },   { -1, SEEK_END, 199999, 1 }, { 200000, SEEK_SET, 200000, 0 },
-        { 300000, SEEK_SET, 300000, 0 }, { -1, SEEK_SET, -1, 0 },     { 0, SEEK_SET, 0, 2 },
-    };
-    for (const auto& row : cases) {
-        EXPECT_EQ(mmioSeek(file, row.offset, row.origin), row.position);
-        char read[2] = {};
-        ASSERT_EQ(mmioRead(file, read, 2), row.readable) << row.position;
-        for (LONG i = 0; i < row.readable; ++i)
-            EXPECT_EQ(read[i], content[static_cast<size_t>(row.position + i)]) << row.position;
-    }
 }
 }
