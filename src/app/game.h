@@ -31,5 +31,8 @@ public:
 /// runs or a step fails.
 bool CreateGameWindow(HINSTANCE instance);
 
-/// Runs the program until its window is gone; returns the exit code.
+/// Dispatches messages and, whenever none waits, ticks, until the quit message; returns its code.
+int RunMessageLoop();
+
+/// The whole program: window, then message loop. Returns the exit code, also 0 when it could not start.
 int RunGame(HINSTANCE instance);

@@ -37,6 +37,9 @@ DWORD GetLastError();
 /// An existing one is opened and GetLastError gives ERROR_ALREADY_EXISTS. Null on failure.
 HANDLE CreateMutexA(SECURITY_ATTRIBUTES* security, BOOL initialOwner, LPCSTR name);
 
+/// Stores an error for GetLastError.
+void SetLastError(DWORD error);
+
 /// Closes a file or a mutex.
 BOOL CloseHandle(HANDLE handle);
 

@@ -4,6 +4,7 @@
 #include "app/random.h"
 #include "game/geometry.h"
 #include "game/water.h"
+#include "platform/fake_platform.h"
 
 void GameFixture::SetUp()
 {
@@ -17,4 +18,5 @@ void GameFixture::SetUp()
     captureScreen = false;
     requestedSection = nullptr;
     SeedRandom(1);
+    fake.Reset();
 }

@@ -1,0 +1,77 @@
+#include "app/game.h"
+#include "app/globals.h"
+#include "platform/gdi.h"
+#include "platform/kernel.h"
+#include "platform/window.h"
+
+namespace
+{
+constexpr int ICON_ID = 101;
+
+LRESULT CALLBACK ForwardToGame(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return game.WndProc(window, message, wParam, lParam);
+}
+
+/// False when another copy of the program runs.
+bool ClaimInstance()
+{
+    instanceMutex = CreateMutexA(nullptr, FALSE, game.name);
+    return instanceMutex && GetLastError() != ERROR_ALREADY_EXISTS;
+}
+
+void RegisterWindowClass(HINSTANCE instance)
+{
+    WNDCLASSA windowClass = {};
+    windowClass.style = CS_HREDRAW | CS_VREDRAW;
+    windowClass.lpfnWndProc = ForwardToGame;
+    windowClass.hInstance = instance;
+    windowClass.hIcon = LoadIconA(instance, MAKEINTRESOURCEA(ICON_ID));
+    windowClass.hCursor = LoadCursorA(nullptr, IDC_ARROW);
+    windowClass.hbrBackground = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
+    windowClass.lpszClassName = game.name;
+    RegisterClassA(&windowClass);
+}
+}
+
+bool CreateGameWindow(HINSTANCE instance)
+{
+    if (!ClaimInstance())
+        return false;
+    RegisterWindowClass(instance);
+    HWND window = CreateWindowExA(0, game.name, game.name, WS_OVERLAPPEDWINDOW, 0, 0, game.width, game.height, nullptr,
+                                  nullptr, instance, nullptr);
+    if (!window)
+        return false;
+    gameWindow = window;
+    gameInstance = instance;
+    if (game.Create())
+        return true;
+    DestroyWindow(window);
+    return false;
+}
+
+int RunMessageLoop()
+{
+    MSG message = {};
+    for (;;) {
+        if (!PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE)) {
+            game.FrameTick();
+            continue;
+        }
+        if (!GetMessageA(&message, nullptr, 0, 0))
+            return static_cast<int>(message.wParam);
+        TranslateMessage(&message);
+        DispatchMessageA(&message);
+    }
+}
+
+int RunGame(HINSTANCE instance)
+{
+    return CreateGameWindow(instance) ? RunMessageLoop() : 0;
+}
+
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int)
+{
+    return RunGame(instance);
+}

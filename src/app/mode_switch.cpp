@@ -1,0 +1,14 @@
+#include "app/mode_switch.h"
+
+#include "app/log.h"
+#include "gfx/display.h"
+
+void SwitchDisplayMode(HWND window, int width, int height, bool windowed)
+{
+    WriteLog(windowed ? "Full Screen -> Windowed" : "Windowed -> Full Screen");
+    isWindowed = windowed;
+    if (DisplaySetMode(window, width, height, windowed))
+        return;
+    isWindowed = !windowed;
+    DisplaySetMode(window, width, height, !windowed);
+}

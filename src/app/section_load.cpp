@@ -1,0 +1,61 @@
+#include "app/section_load.h"
+
+#include "app/globals.h"
+#include "app/log.h"
+#include "game/section_main.h"
+#include "menu/section_menu.h"
+#include "res/pack_file.h"
+
+namespace
+{
+constexpr uint16_t BLACK = 0;
+
+/// One step of whatever is not loaded yet. False when a step failed.
+bool LoadNext(bool& allLoaded)
+{
+    allLoaded = false;
+    if (!menuLoaded)
+        return sectionMenu.DataLoad(menuLoaded);
+    if (!pondLoaded)
+        return sectionMain.pond.DataLoad(pondLoaded);
+    if (!statusBarLoaded)
+        return sectionMain.pond.statusBar.DataLoad(statusBarLoaded);
+    allLoaded = true;
+    return true;
+}
+
+/// A key or click from while the program loaded is not for the menu.
+void DropPendingInput()
+{
+    input.mouseLeftDown = false;
+    input.lastKeyDown = 0;
+}
+}
+
+bool CSectionLoad::SectionBegin()
+{
+    sectionMenu.SettingsLoad();
+    SetCursor(LoadCursorA(nullptr, IDC_ARROW));
+    OpenPack("Dat\\Image.xpf"); // without a pack every picture must be a loose file; loading tells
+    WriteLog("CSectionLoad::SectionBegin");
+    return true;
+}
+
+bool CSectionLoad::SectionEnd()
+{
+    WriteLog("CSectionLoad::SectionEnd");
+    return true;
+}
+
+bool CSectionLoad::SectionProcess()
+{
+    bool allLoaded = false;
+    if (!LoadNext(allLoaded))
+        return false;
+    if (allLoaded) {
+        requestedSection = &sectionMenu;
+        DropPendingInput();
+    }
+    backBuffer.Fill(BLACK);
+    return true;
+}

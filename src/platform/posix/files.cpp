@@ -1,0 +1,136 @@
+#include "platform/posix/kernel_object.h"
+#include "platform/posix/paths.h"
+
+#include <cerrno>
+#include <cstdint>
+#include <fcntl.h>
+#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+
+constexpr DWORD FAILED = 0xFFFFFFFF; ///< what sizes and positions are on failure
+
+struct OpenFile final : KernelObject {
+    explicit OpenFile(int openDescriptor) : descriptor(openDescriptor) {}
+    ~OpenFile() override { close(descriptor); }
+
+    const int descriptor;
+};
+
+/// Null, with the error set, when the handle is no open file.
+OpenFile* FileOf(HANDLE handle)
+{
+    OpenFile* file = dynamic_cast<OpenFile*>(ObjectOf(handle));
+    if (!file)
+        SetLastError(ERROR_INVALID_HANDLE);
+    return file;
+}
+
+DWORD OpenError()
+{
+    return errno == EACCES || errno == EPERM ? ERROR_ACCESS_DENIED : ERROR_FILE_NOT_FOUND;
+}
+
+bool IsRegularFile(int descriptor)
+{
+    struct stat status = {};
+    return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+}
+
+/// Splits a 64-bit size or position; without room for its high half only the low one is given.
+DWORD LowHalf(int64_t value, DWORD* high)
+{
+    if (high)
+        *high = static_cast<DWORD>(value >> 32);
+    return static_cast<DWORD>(value);
+}
+
+/// The bytes read into the buffer, fewer than `size` only at the file's end; none on a read error.
+std::optional<size_t> ReadFully(int descriptor, char* buffer, size_t size)
+{
+    size_t done = 0;
+    while (done < size) {
+        const ssize_t part = read(descriptor, buffer + done, size - done);
+        if (part == 0)
+            break;
+        if (part > 0)
+            done += static_cast<size_t>(part);
+        else if (errno != EINTR)
+            return std::nullopt;
+    }
+    return done;
+}
+
+} // namespace
+
+HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD, SECURITY_ATTRIBUTES*, DWORD disposition, DWORD, HANDLE)
+{
+    if (access != GENERIC_READ || disposition != OPEN_EXISTING) {
+        SetLastError(ERROR_ACCESS_DENIED);
+        return INVALID_HANDLE_VALUE;
+    }
+    // Without blocking: a pipe that lies under a picture's name must not stop the game.
+    const int descriptor = open(ResolvePath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+    if (descriptor < 0) {
+        SetLastError(OpenError());
+        return INVALID_HANDLE_VALUE;
+    }
+    if (!IsRegularFile(descriptor)) {
+        close(descriptor);
+        SetLastError(ERROR_ACCESS_DENIED);
+        return INVALID_HANDLE_VALUE;
+    }
+    return HandleOf(new OpenFile(descriptor));
+}
+
+BOOL ReadFile(HANDLE handle, LPVOID buffer, DWORD size, LPDWORD bytesRead, OVERLAPPED*)
+{
+    if (bytesRead)
+        *bytesRead = 0;
+    const OpenFile* file = FileOf(handle);
+    if (!file)
+        return FALSE;
+    const std::optional<size_t> done = ReadFully(file->descriptor, static_cast<char*>(buffer), size);
+    if (!done) {
+        SetLastError(ERROR_READ_FAULT);
+        return FALSE;
+    }
+    if (bytesRead)
+        *bytesRead = static_cast<DWORD>(*done);
+    return TRUE;
+}
+
+DWORD SetFilePointer(HANDLE handle, LONG distance, LONG* distanceHigh, DWORD method)
+{
+    const OpenFile* file = FileOf(handle);
+    if (!file)
+        return FAILED;
+    int64_t offset = distance;
+    if (distanceHigh)
+        offset = static_cast<int64_t>(*distanceHigh) << 32 | static_cast<DWORD>(distance);
+    // The three methods (start, current position, end) are numbered as lseek's.
+    const off_t position = lseek(file->descriptor, offset, static_cast<int>(method));
+    if (position < 0) {
+        SetLastError(ERROR_INVALID_HANDLE);
+        return FAILED;
+    }
+    SetLastError(ERROR_SUCCESS);
+    DWORD high = 0;
+    const DWORD low = LowHalf(position, &high);
+    if (distanceHigh)
+        *distanceHigh = static_cast<LONG>(high);
+    return low;
+}
+
+DWORD GetFileSize(HANDLE handle, LPDWORD sizeHigh)
+{
+    const OpenFile* file = FileOf(handle);
+    struct stat status = {};
+    if (!file || fstat(file->descriptor, &status) != 0)
+        return FAILED;
+    SetLastError(ERROR_SUCCESS);
+    return LowHalf(status.st_size, sizeHigh);
+}

@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds and runs all tests: as played, then with the sanitisers.
+# A preset's name as argument (release, debug, asan) runs only that one.
+set -euo pipefail
+cd "$(dirname "$0")"
+. tools/setup.sh
+
+# shellcheck disable=SC2086
+install_packages $BUILD_PACKAGES $TEST_PACKAGES
+for preset in ${1:-release asan}; do
+    cmake --preset "$preset" -DTERVALIS_TESTS=ON >/dev/null
+    cmake --build --preset "$preset"
+    ctest --preset "$preset" -j "$(nproc)"
+done

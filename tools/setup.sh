@@ -1,0 +1,40 @@
+# Sourced by play.sh, test.sh and .ci/run: installs Debian packages that are missing.
+
+BUILD_PACKAGES="g++ cmake ninja-build pkg-config libsdl2-dev libfreetype-dev libfontconfig-dev libturbojpeg0-dev
+    libtomlplusplus-dev libpng-dev fonts-dejavu-core"
+TEST_PACKAGES="libgtest-dev xvfb xdotool imagemagick openbox x11-utils"
+CHECK_PACKAGES="clang-format"
+
+say() { printf '%s\n' "$*" >&2; }
+
+missing_packages() {
+    local package
+    for package in "$@"; do
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q '^install ok installed' || printf '%s ' "$package"
+    done
+}
+
+# install_packages PACKAGE...
+install_packages() {
+    if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
+        say "This is no Debian relative: nothing was installed. The build needs a C++20 compiler, CMake 3.25, Ninja,"
+        say "pkg-config and the development files of SDL2, FreeType, fontconfig, TurboJPEG, toml++ and libpng;"
+        say "the tests also need GoogleTest, Xvfb, xdotool, ImageMagick and openbox."
+        return 0
+    fi
+    local missing
+    missing=$(missing_packages "$@")
+    [ -n "$missing" ] || return 0
+    local as_root=""
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            say "These packages are missing, and only root can install them: $missing"
+            return 1
+        fi
+        as_root="sudo"
+    fi
+    say "Installing: $missing"
+    $as_root apt-get update -q >/dev/null
+    # shellcheck disable=SC2086 # a list of words
+    $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -yq --no-install-recommends $missing >/dev/null
+}
