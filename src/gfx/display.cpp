@@ -39,11 +39,10 @@ void ReleaseObject(Object*& object)
 }
 
 /// Gives up what full screen has so far.
-bool FailFullScreen(int code)
+bool FailFullScreen(EngineError code)
 {
     DisplayRelease();
-    lastError = code;
-    return false;
+    return FailWith(code);
 }
 
 DWORD RestyleWindow(const WindowMode& mode)
@@ -114,7 +113,7 @@ bool CreateSurfaces()
 }
 
 /// Gives the clipper the window and the primary surface the clipper; returns the failed step's code.
-int ConnectClipper(IDirectDrawClipper& clipper)
+EngineError ConnectClipper(IDirectDrawClipper& clipper)
 {
     if (clipper.SetHWnd(0, displayWindow) != DD_OK)
         return ENGINE_CLIPPER_WINDOW;
@@ -128,7 +127,7 @@ bool AttachClipper()
     IDirectDrawClipper* clipper = nullptr;
     if (directDraw->CreateClipper(0, &clipper, nullptr) != DD_OK)
         return FailFullScreen(ENGINE_CREATE_CLIPPER);
-    const int code = ConnectClipper(*clipper);
+    const EngineError code = ConnectClipper(*clipper);
     clipper->Release(); // the primary surface keeps its own reference
     return code == ENGINE_NO_ERROR || FailFullScreen(code);
 }

@@ -38,6 +38,12 @@ constexpr ErrorRow errorTexts[] = {
 };
 }
 
+bool FailWith(EngineError code)
+{
+    lastError = code;
+    return false;
+}
+
 const char* ErrorText(int code)
 {
     for (const ErrorRow& row : errorTexts)

@@ -21,12 +21,6 @@ int64_t PitchOf(int64_t width)
 {
     return (2 * width + 7) & ~int64_t{ 7 };
 }
-
-bool Fail(int code)
-{
-    lastError = code;
-    return false;
-}
 }
 
 CImage::CImage() : blit(BlitCopy) {}
@@ -68,10 +62,10 @@ bool CImage::AllocatePixels(int newWidth, int newHeight)
     const int64_t rowBytes = PitchOf(newWidth);
     const int64_t planeBytes = rowBytes * newHeight;
     if (newWidth < 0 || newHeight < 0 || rowBytes > MAX_PLANE_BYTES || planeBytes > MAX_PLANE_BYTES)
-        return Fail(ENGINE_ALLOCATE_MEMORY);
+        return FailWith(ENGINE_ALLOCATE_MEMORY);
     pixels = new (std::nothrow) uint16_t[static_cast<size_t>(planeBytes / 2 + PIXEL_SLACK)]();
     if (!pixels)
-        return Fail(ENGINE_ALLOCATE_MEMORY);
+        return FailWith(ENGINE_ALLOCATE_MEMORY);
     width = newWidth;
     height = newHeight;
     pitch = static_cast<int32_t>(rowBytes);
@@ -89,19 +83,19 @@ bool CImage::CreateAlpha()
     ReleaseAlpha();
     const int64_t planeBytes = int64_t{ pitch } / 2 * height + ALPHA_SLACK;
     alpha = new (std::nothrow) uint8_t[static_cast<size_t>(planeBytes)]();
-    return alpha || Fail(ENGINE_ALLOCATE_MEMORY);
+    return alpha || FailWith(ENGINE_ALLOCATE_MEMORY);
 }
 
 bool CImage::CreateView(CImage& parent, int viewX, int viewY, int viewWidth, int viewHeight)
 {
     if (viewX >= parent.width || viewY >= parent.height || !parent.pixels)
-        return Fail(ENGINE_CREATE_IMAGE);
+        return FailWith(ENGINE_CREATE_IMAGE);
     const int left = std::max(viewX, 0);
     const int top = std::max(viewY, 0);
     const int64_t right = std::min<int64_t>(int64_t{ viewX } + viewWidth, parent.width);
     const int64_t bottom = std::min<int64_t>(int64_t{ viewY } + viewHeight, parent.height);
     if (right <= left || bottom <= top)
-        return Fail(ENGINE_CREATE_IMAGE);
+        return FailWith(ENGINE_CREATE_IMAGE);
 
     ReleasePixels();
     pixels = parent.Row(top) + left;

@@ -38,8 +38,5 @@ bool CImage::DrawToDC(HDC context, int targetX, int targetY, int sourceX, int so
         SetDIBitsToDevice(context, orDefault(targetX, 0), orDefault(targetY, 0), static_cast<DWORD>(columns),
                           static_cast<DWORD>(rows), firstColumn, 0, 0, static_cast<UINT>(rows), Row(firstRow),
                           reinterpret_cast<const BITMAPINFO*>(&info), DIB_RGB_COLORS);
-    if (rowsSet != 0)
-        return true;
-    lastError = ENGINE_BLIT_GDI;
-    return false;
+    return rowsSet != 0 || FailWith(ENGINE_BLIT_GDI);
 }
