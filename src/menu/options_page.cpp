@@ -87,9 +87,9 @@ void CSectionMenu::AdvanceKeyFocus()
 void CSectionMenu::OptionsApply()
 {
     if (optionsMenu.FindToggle(TOGGLE_WINDOWED)->checked)
-        SwitchDisplayMode(true);
+        ApplyDisplayMode(true);
     else if (optionsMenu.FindToggle(TOGGLE_FULL_SCREEN)->checked)
-        SwitchDisplayMode(false);
+        ApplyDisplayMode(false);
     // While muted, play and stop do nothing: unmute before the music starts, stop it before muting.
     if (optionsMenu.FindToggle(TOGGLE_SOUND_ON)->checked) {
         SoundSetMute(0);

@@ -1,6 +1,6 @@
 #include "menu/settings.h"
 
-#include "app/log.h"
+#include "app/mode_switch.h"
 #include "gfx/display.h"
 #include "menu/section_menu.h"
 #include "platform/registry.h"
@@ -67,16 +67,10 @@ struct PlaceName {
 
 }
 
-void SwitchDisplayMode(bool windowed)
+void ApplyDisplayMode(bool windowed)
 {
-    if (windowed == isWindowed)
-        return;
-    WriteLog(windowed ? "Full Screen -> Windowed" : "Windowed -> Full Screen");
-    isWindowed = windowed;
-    if (DisplaySetMode(displayWindow, displayWidth, displayHeight, isWindowed))
-        return;
-    isWindowed = !windowed;
-    DisplaySetMode(displayWindow, displayWidth, displayHeight, isWindowed);
+    if (windowed != isWindowed)
+        SwitchDisplayMode(displayWindow, displayWidth, displayHeight, windowed);
 }
 
 int CSectionMenu::SettingsLoad()
@@ -84,7 +78,7 @@ int CSectionMenu::SettingsLoad()
     HKEY key = nullptr;
     if (const LONG result = OpenSettings(key); result != static_cast<LONG>(ERROR_SUCCESS))
         return result;
-    SwitchDisplayMode(ReadNumber(key, "Windowed", 1) != 0);
+    ApplyDisplayMode(ReadNumber(key, "Windowed", 1) != 0);
     SoundSetMute(ReadNumber(key, "No Sound", 0) != 0 ? 1 : 0);
     for (size_t i = 0; i < keys.size(); ++i)
         keys[i] = ReadNumber(key, keyBindings[i].valueName, keyBindings[i].defaultKey);

@@ -35,6 +35,6 @@ constexpr std::array<uint32_t, KEY_BINDINGS> DefaultKeys()
     return keys;
 }
 
-/// Switches to a window or to full screen, logging it; nothing when the display is in that mode. A mode that cannot
-/// be had leaves the display in the one it had.
-void SwitchDisplayMode(bool windowed);
+/// Sets the display to a window or to full screen, if it is not in that mode. A mode that cannot be had leaves the
+/// display in the one it had.
+void ApplyDisplayMode(bool windowed);
