@@ -1,0 +1,232 @@
+#include "platform/directsound.h"
+#include "platform/sdl/mixer.h"
+#include "platform/sdl/window_state.h"
+
+#include <SDL.h>
+#include <memory>
+
+namespace
+{
+constexpr int OUTPUT_RATE = 22050;
+constexpr Uint16 OUTPUT_FRAMES = 512; ///< mixed at a time: 23 ms
+constexpr Uint32 LONGEST_FADE_OUT_MS = 100;
+
+constexpr DWORD LARGEST_BUFFER = 0x0FFFFFFF;
+constexpr DWORD LOWEST_RATE = 4000;
+constexpr DWORD HIGHEST_RATE = 192000;
+
+/// The open audio device and its mix. The device object and every buffer hold it; the last one closes it.
+class SoundOutput
+{
+public:
+    SoundOutput() = default;
+    SoundOutput(const SoundOutput&) = delete;
+    SoundOutput& operator=(const SoundOutput&) = delete;
+    ~SoundOutput();
+
+    /// False where there is no audio device.
+    bool Open();
+
+    /// Always at our own rate, so that our own sounds are mixed sample by sample; SDL brings the whole mix to the
+    /// device's rate, with a better filter than the voices have.
+    Mixer mixer{ OUTPUT_RATE };
+
+private:
+    static void SDLCALL Fill(void* output, Uint8* bytes, int byteCount);
+
+    bool initialised = false;
+    SDL_AudioDeviceID device = 0;
+};
+
+bool SoundOutput::Open()
+{
+    initialised = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
+    if (!initialised)
+        return false;
+    SDL_AudioSpec wanted{};
+    wanted.freq = OUTPUT_RATE;
+    wanted.format = AUDIO_S16SYS;
+    wanted.channels = 2;
+    wanted.samples = OUTPUT_FRAMES;
+    wanted.callback = Fill;
+    wanted.userdata = this;
+    device = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
+    if (device == 0)
+        return false;
+    SDL_PauseAudioDevice(device, 0);
+    return true;
+}
+
+SoundOutput::~SoundOutput()
+{
+    if (device != 0) {
+        // Buffers released while they played are still fading out. A device that has stalled does not keep us.
+        for (Uint32 waited = 0; !mixer.IsSilent() && waited < LONGEST_FADE_OUT_MS; waited += 5)
+            SDL_Delay(5);
+        SDL_CloseAudioDevice(device);
+    }
+    if (initialised)
+        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+}
+
+void SoundOutput::Fill(void* output, Uint8* bytes, int byteCount)
+{
+    constexpr size_t FRAME_BYTES = 2 * sizeof(int16_t);
+    static_cast<SoundOutput*>(output)->mixer.Mix(reinterpret_cast<int16_t*>(bytes),
+                                                 static_cast<size_t>(byteCount) / FRAME_BYTES, WindowHasFocus());
+}
+
+bool IsPlayable(const WAVEFORMATEX& format)
+{
+    return format.wFormatTag == WAVE_FORMAT_PCM && (format.nChannels == 1 || format.nChannels == 2) &&
+           (format.wBitsPerSample == 8 || format.wBitsPerSample == 16) &&
+           format.nBlockAlign == format.nChannels * format.wBitsPerSample / 8 && format.nSamplesPerSec >= LOWEST_RATE &&
+           format.nSamplesPerSec <= HIGHEST_RATE;
+}
+
+/// Stands for the mix. It has a format to set, but no samples and no voice.
+class PrimaryBuffer final : public IDirectSoundBuffer
+{
+public:
+    explicit PrimaryBuffer(std::shared_ptr<SoundOutput> soundOutput) : output(std::move(soundOutput)) {}
+
+    ULONG Release() override
+    {
+        delete this;
+        return 0;
+    }
+    HRESULT Lock(DWORD, DWORD, LPVOID*, DWORD*, LPVOID*, DWORD*, DWORD) override { return DSERR_INVALIDCALL; }
+    HRESULT Play(DWORD, DWORD, DWORD) override { return DS_OK; }
+    HRESULT SetCurrentPosition(DWORD) override { return DSERR_INVALIDCALL; }
+    /// The mix keeps its own format, and SDL converts it to what the device takes.
+    HRESULT SetFormat(const WAVEFORMATEX* format) override
+    {
+        return format && IsPlayable(*format) ? DS_OK : DSERR_BADFORMAT;
+    }
+    HRESULT Stop() override { return DS_OK; }
+    HRESULT Unlock(LPVOID, DWORD, LPVOID, DWORD) override { return DSERR_INVALIDCALL; }
+    HRESULT Restore() override { return DS_OK; }
+
+private:
+    std::shared_ptr<SoundOutput> output;
+};
+
+/// One voice of the mix. Its memory is never lost, and it is written while the voice stands still.
+class StaticBuffer final : public IDirectSoundBuffer
+{
+public:
+    StaticBuffer(std::shared_ptr<SoundOutput> soundOutput, Voice* mixerVoice)
+        : output(std::move(soundOutput)), voice(mixerVoice)
+    {
+    }
+
+    ULONG Release() override
+    {
+        output->mixer.RemoveVoice(voice);
+        delete this;
+        return 0;
+    }
+    HRESULT Lock(DWORD offset, DWORD bytes, LPVOID* first, DWORD* firstBytes, LPVOID* second, DWORD* secondBytes,
+                 DWORD flags) override;
+    HRESULT Play(DWORD, DWORD, DWORD flags) override
+    {
+        output->mixer.Play(*voice, (flags & DSBPLAY_LOOPING) != 0);
+        return DS_OK;
+    }
+    HRESULT SetCurrentPosition(DWORD position) override
+    {
+        if (position >= voice->byteCount)
+            return DSERR_INVALIDPARAM;
+        output->mixer.SetPosition(*voice, position);
+        return DS_OK;
+    }
+    HRESULT SetFormat(const WAVEFORMATEX*) override { return DSERR_INVALIDCALL; }
+    HRESULT Stop() override
+    {
+        output->mixer.Stop(*voice);
+        return DS_OK;
+    }
+    HRESULT Unlock(LPVOID, DWORD, LPVOID, DWORD) override { return DS_OK; }
+    HRESULT Restore() override { return DS_OK; }
+
+private:
+    std::shared_ptr<SoundOutput> output;
+    Voice* voice;
+};
+
+/// Always the whole buffer, so that there is never a second region.
+HRESULT StaticBuffer::Lock(DWORD, DWORD, LPVOID* first, DWORD* firstBytes, LPVOID* second, DWORD* secondBytes,
+                           DWORD flags)
+{
+    if (!first || !firstBytes || (flags & DSBLOCK_ENTIREBUFFER) == 0)
+        return DSERR_INVALIDPARAM;
+    *first = voice->bytes.get();
+    *firstBytes = voice->byteCount;
+    if (second)
+        *second = nullptr;
+    if (secondBytes)
+        *secondBytes = 0;
+    return DS_OK;
+}
+
+class SoundDevice final : public IDirectSound
+{
+public:
+    explicit SoundDevice(std::shared_ptr<SoundOutput> soundOutput) : output(std::move(soundOutput)) {}
+
+    ULONG Release() override
+    {
+        delete this;
+        return 0;
+    }
+    HRESULT CreateSoundBuffer(const DSBUFFERDESC* description, IDirectSoundBuffer** buffer, IUnknown*) override;
+    /// Every level is one to us: the mix never takes the device from other programs.
+    HRESULT SetCooperativeLevel(HWND, DWORD) override { return DS_OK; }
+
+private:
+    HRESULT CreateStaticBuffer(const DSBUFFERDESC& description, IDirectSoundBuffer** buffer);
+
+    std::shared_ptr<SoundOutput> output;
+};
+
+HRESULT SoundDevice::CreateSoundBuffer(const DSBUFFERDESC* description, IDirectSoundBuffer** buffer, IUnknown*)
+{
+    if (!description || !buffer || description->dwSize != sizeof *description)
+        return DSERR_INVALIDPARAM;
+    *buffer = nullptr;
+    if ((description->dwFlags & DSBCAPS_PRIMARYBUFFER) == 0)
+        return CreateStaticBuffer(*description, buffer);
+    if (description->dwBufferBytes != 0 || description->lpwfxFormat)
+        return DSERR_INVALIDPARAM;
+    *buffer = new PrimaryBuffer(output);
+    return DS_OK;
+}
+
+HRESULT SoundDevice::CreateStaticBuffer(const DSBUFFERDESC& description, IDirectSoundBuffer** buffer)
+{
+    if (!description.lpwfxFormat)
+        return DSERR_INVALIDPARAM;
+    const WAVEFORMATEX& wave = *description.lpwfxFormat;
+    if (!IsPlayable(wave))
+        return DSERR_BADFORMAT;
+    if (description.dwBufferBytes < wave.nBlockAlign || description.dwBufferBytes > LARGEST_BUFFER)
+        return DSERR_INVALIDPARAM;
+    Voice* const voice =
+        output->mixer.AddVoice({ wave.nChannels, wave.wBitsPerSample, wave.nSamplesPerSec }, description.dwBufferBytes);
+    if (!voice)
+        return DSERR_OUTOFMEMORY;
+    *buffer = new StaticBuffer(output, voice);
+    return DS_OK;
+}
+}
+
+HRESULT DirectSoundCreate(const GUID*, IDirectSound** directSound, IUnknown*)
+{
+    if (!directSound)
+        return DSERR_INVALIDPARAM;
+    auto output = std::make_shared<SoundOutput>();
+    if (!output->Open())
+        return DSERR_NODRIVER;
+    *directSound = new SoundDevice(std::move(output));
+    return DS_OK;
+}
