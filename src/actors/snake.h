@@ -14,6 +14,9 @@ struct Segment {
     int32_t dir = 0; ///< where it goes: one of the player's four key codes
 };
 
+/// A row of the tables that depend on where a segment goes.
+enum class Direction : int { NONE = -1, UP = 0, DOWN = 1, LEFT = 2, RIGHT = 3 };
+
 constexpr int MAX_SEGMENTS = 25;
 constexpr int TURN_QUEUE = 10;
 constexpr int EYE_IMAGES = 24;
@@ -94,4 +97,62 @@ public:
     CPond* pond = nullptr;  ///< not owned
     int32_t player = 0;     ///< 1 or 2
     int32_t startX = 0;
+
+private:
+    bool LoadArrows();
+
+    // Steering: keys in, turns out.
+    Direction DirectionOf(int key) const;
+    bool IsReverse(int key, int otherKey) const;
+    bool AcceptsKey(int key) const;
+    void TakeKey(int key);
+    void MakeWake();
+    void TurnHead();
+
+    // Movement.
+    bool IsHeadOnGrid() const;
+    bool IsCloseToNext(int index) const;
+    bool IsOnHead(int index) const;
+    bool IsStacked(int index) const;
+    void StepSegment(Segment& segment) const;
+    void Move();
+    void Coil();
+
+    // What the head meets on a grid point.
+    void CheckHead();
+    void CheckFreeze();
+    void CheckCollision();
+    void CheckBerry();
+    void ScoreBerry(int colour);
+    void CountStreak(int colour);
+    void Grow();
+
+    // Effects.
+    void RunEffects();
+    void StepShrink();
+    void StepRain();
+    void StepSpeedUp();
+    void EndStreak();
+    void RunPendingEffect();
+
+    // Death.
+    int VanishedSegments() const;
+    void StepDeath();
+    void Respawn();
+    void GoOut();
+
+    // Drawing.
+    void SnakeDraw(CImage& pondPicture);
+    void SnakeDrawHead(CImage& pondPicture);
+    void SplashVanishing();
+    void DrawBody(CImage& pondPicture);
+    void StepEntry();
+    int FirstVisibleSegment() const;
+    int EntryFrames() const;
+
+    bool IsGone() const { return lives == 0 && isOut; }
+    int Heading() const;
+    int RainSound() const;
+    int BeatSound() const;
+    static void Splash(const Segment& segment);
 };

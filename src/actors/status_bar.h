@@ -4,6 +4,7 @@
 #include "gfx/text_image.h"
 #include "menu/menu.h"
 
+#include <array>
 #include <cstdint>
 #include <memory>
 
@@ -11,6 +12,9 @@ class CPond;
 
 constexpr int STATUS_IMAGES = 17;
 constexpr int HELP_PAGES = 4;
+constexpr int STATUS_PANELS = 10;
+constexpr int FIRST_TARGET = 500;   ///< score that clears level 1
+constexpr int COUNT_UP_FRAMES = 75; ///< of the target's figure at a new level
 
 /// The strip left of the pond, the message panels over the game, and the progression of levels. The pond holds it by
 /// value and drives it. Coordinates are the screen's.
@@ -25,20 +29,20 @@ public:
     void DataUnload();
     /// A new game: level 1, only the strip is shown.
     void StatusBarReset(CPond* owner);
-    /// One frame: draws strip and panels onto `target` and handles their keys and buttons.
-    void StatusBarProcess(CImage& target);
+    /// One frame: draws strip and panels onto `screen` and handles their keys and buttons.
+    void StatusBarProcess(CImage& screen);
     /// The level's target score has been reached.
     void StatusBarLevelCleared();
     /// Every snake in play is out.
     void StatusBarGameOver();
 
     int32_t level = 1;
-    int32_t target = 500;       ///< score at which the level is cleared
-    int32_t prevTarget = 0;     ///< the level's before
-    int32_t coilWait = 0;       ///< frames that the level-cleared panel rests
-    int32_t countUp = 0;        ///< frames left of a new level's count-up, 75 at its start
-    bool panelOpen = false;     ///< paused, confirm or help: the mouse cursor stays visible
-    int32_t berryCountdown = 0; ///< frames left of a new level's berry drop
+    int32_t target = FIRST_TARGET; ///< score at which the level is cleared
+    int32_t prevTarget = 0;        ///< the level's before
+    int32_t coilWait = 0;          ///< frames that the level-cleared panel rests
+    int32_t countUp = 0;           ///< frames left of a new level's count-up, COUNT_UP_FRAMES at its start
+    bool panelOpen = false;        ///< paused, confirm or help: the mouse cursor stays visible
+    int32_t berryCountdown = 0;    ///< frames left of a new level's berry drop
     CMenu leftPanel;
     CMenu pausedPanel;
     CMenu confirmPanel;
@@ -50,4 +54,45 @@ public:
     CTextImage font;
     CPond* pond = nullptr;    ///< not owned
     int32_t lifeMark[2] = {}; ///< per player, score at the last extra life
+
+private:
+    std::array<CMenu*, STATUS_PANELS> Panels(); ///< in the order in which they are handled
+    bool LoadFont();
+    bool LoadImages();
+    bool CreatePanels();
+
+    static void ShowPanel(CMenu& panel);
+    static void HidePanel(CMenu& panel);
+    static bool IsOpen(const CMenu& panel) { return panel.isVisible && panel.isActive; }
+    bool IsAnyCoiling() const;
+    bool IsHelpVisible() const;
+    bool IsInGame(int player) const; ///< players count from 0
+    void SetPaused(bool paused);
+    void ResumeGame(CMenu& panel);
+    void ProcessStripButtons();
+    void ProcessPausedPanel();
+    void ProcessConfirmPanel();
+    void ProcessLevelClearedPanel();
+    void ProcessNextLevelPanel();
+    void ProcessHelpPages();
+    void ProcessGameOverPanel();
+    void ClearBerries();
+    void StatusBarNextLevel();
+    void DropLevelBerries();
+
+    void StatusBarDraw(CImage& screen);
+    void DrawPlayer(CImage& screen, int player);
+    void DrawStreak(CImage& screen, int player);
+    void DrawCensus(CImage& screen);
+    void AwardExtraLives();
+    int ShownTarget() const;
+    int ProgressHeight() const;
+    void DrawProgress(CImage& screen);
+    void DrawNumber(CImage& screen, int x, int y, uint16_t colour, int value);
+    void DrawNumberCentred(CImage& screen, int centreX, int y, int value);
+
+    int32_t loadStep = 0;       ///< of DataLoad
+    HFONT fontHandle = nullptr; ///< selected into `font`
+    int32_t lengthBlink = 0;    ///< frames that the strip has been drawn; lengths and streaks blink by them
+    int32_t streakBlink = 0;
 };

@@ -60,7 +60,8 @@ CGame::CGame(const char* windowName, int clientWidth, int clientHeight, bool sta
 
 CGame::~CGame()
 {
-    sectionMenu.SettingsSave();
+    if (sectionMenu.settingsRead) // a copy that stopped before that holds nothing but defaults
+        sectionMenu.SettingsSave();
     if (instanceMutex)
         CloseHandle(instanceMutex);
 }

@@ -6,8 +6,10 @@
 #include "gfx/image.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 
 /// One cell of the pond: nothing, a growing berry, a ripe berry or a stone.
 struct Cell {
@@ -22,6 +24,8 @@ struct Cell {
 
     bool IsStone() const { return occupied && !ripe && growth == 0; }
     bool IsRipeBerry() const { return occupied && ripe; }
+    /// A stone or a ripe berry: what lasers and shock wave strike.
+    bool IsLanded() const { return occupied && growth == 0; }
 };
 
 struct Laser {
@@ -152,5 +156,64 @@ private:
     /// How many occupants each cell has.
     using CountGrid = std::array<int, CELL_COUNT>;
 
-    int SnakesInPlay() const { return players + 1; }
+    std::span<CSnake> SnakesInPlay() { return { snake, static_cast<size_t>(players) + 1 }; }
+    CountGrid CountSnakes();
+    bool InitSnakes(const uint32_t* keys1, const uint32_t* keys2);
+    void ClearCells();
+
+    // The steps of a frame. Those with `pondPicture` draw below the water, those with `screen` above it.
+    void DrawPausedFrame();
+    void CheckLevel();
+    void DrawSnakeShadows(CImage& pondPicture);
+    void ProcessSnakes(CImage& pondPicture, int key);
+    void DrawArrows(CImage& screen);
+
+    // Cells
+    int FindBerryCell(int start);
+    bool IsFarFromHeads(int cell);
+    void RecordHighlight(int cell);
+    void ClearHighlight(int cell);
+    bool HasRipeBerry(int column, int row) const;
+    int EyeFrameBeside(int cell, int heading) const;
+
+    // Lasers and shock wave
+    void StartShockwave(int x, int y, int maxRadius);
+    void StepShockwave();
+    void StrikeRingPoint(int x, int y, int radius);
+    void StepLasers(CImage& pondPicture);
+    void StepFlight(Laser& laser, CImage& pondPicture);
+    void StepBurst(Laser& laser, CImage& pondPicture);
+    void HitCell(Cell& cell);
+
+    // Objects
+    void DrawPondObjects(CImage& pondPicture);
+    void DrawObjectShadows(CImage& pondPicture);
+    void DrawLandedObjects(CImage& pondPicture);
+    void DrawRipeBerry(Cell& cell, CImage& pondPicture);
+    void DrawStartHighlight(CImage& pondPicture);
+    void DrawGrowingBerries(CImage& screen);
+    void DrawPopups(CImage& screen);
+
+    // Scenery
+    void DrawBackground(CImage& pondPicture);
+    void DrawDusk(CImage& pondPicture);
+    void DrawNight(CImage& pondPicture);
+    void DrawDawn(CImage& pondPicture);
+    bool MakeNightBackground();
+    void DrawDarkenedDay(CImage& target, int opacity);
+    void DrawSnakeLights(CImage& pondPicture);
+    bool DimLight(CImage& light) const;
+    void DrawEndFade(CImage& pondPicture);
+    bool DrawIntro(CImage& pondPicture);
+    void DrawMoon(CImage& pondPicture);
+
+    // Resources
+    bool LoadBackgrounds();
+    bool LoadPictures();
+    bool LoadObjectImages();
+    bool LoadLaserImages();
+    bool LoadPopupImages();
+    bool LoadGrowthImages();
+    bool LoadGrowthFrame(int frame);
+    bool LoadMoonImages();
 };

@@ -28,6 +28,9 @@ enum EngineError : int {
 /// The latest failure; never cleared, shown when the program ends.
 extern int lastError;
 
+/// Stores the code; always false, for the failed operation to return.
+bool FailWith(EngineError code);
+
 /// The text of an error code; that of ENGINE_UNKNOWN for a code out of range.
 const char* ErrorText(int code);
 

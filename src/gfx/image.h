@@ -1,5 +1,6 @@
 #pragma once
 
+#include "gfx/rgb565.h"
 #include "platform/gdi.h"
 
 #include <cstddef>
@@ -12,15 +13,6 @@ using BlitRoutine = void (*)(CImage& target, const CImage& source);
 
 /// As a position or size argument: the value stored in the image.
 constexpr int KEEP = static_cast<int>(0x80000000);
-
-/// Transparent for the colour-keyed routines: pure white.
-constexpr uint16_t COLOR_KEY = 0xFFFF;
-
-/// RGB565 from 8-bit channels, by truncation.
-constexpr uint16_t Rgb565(int red, int green, int blue)
-{
-    return static_cast<uint16_t>((red >> 3) << 11 | (green >> 2) << 5 | blue >> 3);
-}
 
 /// A plane of RGB565 pixels with an optional plane of alpha values 0 to 31, and the way it is drawn.
 /// Rows are padded to whole groups of four pixels, and owned planes have slack behind the last row, so that groups
@@ -49,7 +41,7 @@ public:
     /// Sets every pixel, padding excluded.
     void Fill(uint16_t colour);
     /// Draws this image onto `target` with its blit routine. Any argument may be KEEP. The anchor is the point of
-    /// this image that lands on (targetX, targetY); the size must not exceed the image's own.
+    /// this image that lands on (targetX, targetY); a size beyond the image's own is cut to it.
     void Draw(CImage& target, int targetX = KEEP, int targetY = KEEP, int anchorX = KEEP, int anchorY = KEEP,
               int drawWidth = KEEP, int drawHeight = KEEP);
     /// Copies this image to a device context. x and y KEEP mean 0, the rest the image's own values. False:
@@ -71,10 +63,16 @@ public:
     int32_t width = 0;
     int32_t height = 0;
     int32_t pitch = 0;           ///< bytes from row to row, a multiple of 8; a view keeps its parent's
-    uint16_t* pixels = nullptr;  ///< red in bits 11-15, green in 5-10, blue in 0-4
+    uint16_t* pixels = nullptr;  ///< RGB565
     uint8_t* alpha = nullptr;    ///< 0 transparent to 31 opaque, rows of pitch / 2; null when absent
     uint32_t opacity = 0;        ///< 0 to 255, for the routines that use it
     bool pixelsBorrowed = false; ///< the plane belongs to another image
     bool alphaBorrowed = false;
     BlitRoutine blit; ///< used when this image is the source; BlitCopy until set
+
+private:
+    /// Replaces the pixel plane by a black one; on failure the size is 0.
+    bool AllocatePixels(int newWidth, int newHeight);
+    void ReleasePixels();
+    void ReleaseAlpha();
 };

@@ -54,4 +54,11 @@ public:
     int32_t height = 0; ///< line height in pixels
     uint32_t clock = 0; ///< advanced by every glyph request
     int32_t levels = 0;
+
+private:
+    bool Acquire(HFONT font, int slots);
+    void Release();
+    CGlyph& TakeFreeSlot(uint32_t code, int place);
+    CGlyph& ReplaceOldest(uint32_t code, int place);
+    int OldestKey() const;
 };

@@ -112,4 +112,14 @@ public:
     int32_t hoveredButton = -1; ///< ids under the mouse in the last frame, -1 none
     int32_t hoveredToggle = -1;
     int32_t cursorBlink = 1;
+
+private:
+    void DrawButtons(CImage& target) const;
+    void DrawToggles(CImage& target) const;
+    void DrawTexts(CImage& target) const;
+    void ProcessButtons(CImage& target);
+    void ProcessToggles(CImage& target);
+    void ProcessTexts(CImage& target);
+    /// Draws the item's text at its place in the box; returns where it ends and its top.
+    POINT DrawTextItem(CImage& target, const MenuText& item, uint16_t colour) const;
 };

@@ -8,10 +8,17 @@
 
 #include <array>
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
 
 constexpr int MENU_IMAGES = 20;
 constexpr int MENU_HELP_PAGES = 4;
+
+/// The product's page, relative to the program's folder, which is the current one.
+constexpr char HOME_PAGE[] = "docs\\index.html";
+
+/// Consumes the last key pressed when it is one of these.
+bool TakeKey(std::initializer_list<int> wanted);
 
 /// The main menu and its pages: options, ranking, help. It also carries the settings, so it must outlive the
 /// application object, which saves them.
@@ -53,6 +60,39 @@ public:
     char rankNames[RANKING_PLACES][NAME_BYTES] = {};
     int32_t rankScores[RANKING_PLACES] = {}; ///< descending
     uint32_t rankEntryPending = 0;           ///< a new score waits for its name
-    std::array<uint32_t, KEY_BINDINGS> keys = std::to_array(DEFAULT_KEYS);
-    bool keyConflict = false; ///< two bindings on the options page are equal
+    std::array<uint32_t, KEY_BINDINGS> keys = DefaultKeys();
+    bool keyConflict = false;  ///< two bindings on the options page are equal
+    bool settingsRead = false; ///< until then the record holds defaults, which must not replace what is stored
+
+private:
+    bool LoadFonts();
+    bool LoadPictures();
+    void BuildMainMenu();
+    void BuildOptionsPage();
+    void BuildRankingPage();
+    void BuildHelpPages();
+
+    void DrawBackground();
+    bool MainMenuProcess();
+    void OpenHomePage();
+    void StartOnePlayer();
+    void StartTwoPlayers();
+    void StartGame(uint32_t secondPlayer);
+    void OpenRanking();
+    void OpenOptions();
+    void OpenHelp();
+    void OpenPage(CMenu& page);
+    void ClosePage(CMenu& page);
+    void HelpPageProcess(int page);
+    void PlayAmbience();
+
+    MenuText* FocusedName();
+    void RankingPageProcess();
+
+    MenuText& KeyField(int binding);
+    void ShowOptions(bool windowed, bool soundOn, const std::array<uint32_t, KEY_BINDINGS>& shownKeys);
+    void MarkKeyConflicts();
+    void AdvanceKeyFocus();
+
+    int loadStep = 0; ///< the next step of DataLoad
 };

@@ -1,10 +1,40 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 
 constexpr int KEY_BINDINGS = 8;
 constexpr int RANKING_PLACES = 10;
 constexpr int NAME_BYTES = 256;
 
-/// Up, down, left, right of player 1, then of player 2: the arrows, and W, S, A, D.
-constexpr uint32_t DEFAULT_KEYS[KEY_BINDINGS] = { 38, 40, 37, 39, 87, 83, 65, 68 };
+/// A steering key: the name of its stored value, its virtual-key code until the player changes it, and its field on
+/// the options page.
+struct KeyBinding {
+    const char* valueName;
+    uint32_t defaultKey;
+    int field; ///< id of the text item
+    int x;     ///< of the field, relative to the page
+    int y;
+};
+
+/// Player 1, then player 2; each player's four fields form a cross.
+constexpr KeyBinding keyBindings[KEY_BINDINGS] = {
+    { "Up 1", 38, 16, 78, 88 },     { "Down 1", 40, 17, 78, 128 },   // the arrows
+    { "Left 1", 37, 18, 38, 128 },  { "Right 1", 39, 19, 118, 128 }, //
+    { "Up 2", 87, 20, 208, 88 },    { "Down 2", 83, 21, 208, 128 },  // W, S, A, D
+    { "Left 2", 65, 22, 168, 128 }, { "Right 2", 68, 23, 248, 128 },
+};
+
+/// A virtual-key code for each binding, in the order of `keyBindings`.
+constexpr std::array<uint32_t, KEY_BINDINGS> DefaultKeys()
+{
+    std::array<uint32_t, KEY_BINDINGS> keys{};
+    for (size_t i = 0; i < keys.size(); ++i)
+        keys[i] = keyBindings[i].defaultKey;
+    return keys;
+}
+
+/// Sets the display to a window or to full screen, if it is not in that mode. A mode that cannot be had leaves the
+/// display in the one it had.
+void ApplyDisplayMode(bool windowed);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/types.h"
+
 #include <cstdint>
 #include <memory>
 
@@ -14,4 +16,7 @@ public:
     uint32_t offset = 0; ///< in the pack; 0 for a loose file
     uint32_t size = 0;   ///< bytes in `data`
     std::unique_ptr<uint8_t[]> data;
+
+private:
+    bool ReadFrom(HANDLE file, uint32_t memberOffset, uint32_t memberSize);
 };

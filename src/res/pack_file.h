@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 
 /// One member of a pack: the hash of its name and where its bytes lie.
 struct PackEntry {
@@ -30,6 +31,9 @@ public:
     HANDLE handle = INVALID_HANDLE_VALUE; ///< stays open; invalid = free slot
     uint32_t count = 0;
     std::unique_ptr<PackEntry[]> index;
+
+private:
+    bool ReadHeaderAndIndex();
 };
 
 constexpr int PACK_SLOTS = 32;
@@ -41,6 +45,9 @@ bool OpenPack(const char* path);
 /// The 32-bit hash by which a pack knows its members, over the text without its terminating zero.
 uint32_t HashName(const char* text);
 
-/// The hash of the member that a request path names: from its first '/' on, in lower case, with '\' for '/'.
-/// 0 for a path without '/'.
+/// The member that a request path names: from its first '/' on, 'A' to 'Z' in lower case, with '\' for '/'. Empty for
+/// a path without '/'.
+std::string MemberName(const char* path);
+
+/// The hash of the member that a request path names; 0 for a path without '/'.
 uint32_t HashMember(const char* path);

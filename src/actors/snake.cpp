@@ -1,0 +1,172 @@
+#include "actors/snake.h"
+
+#include "actors/snake_rules.h"
+#include "game/geometry.h"
+#include "game/pond.h"
+#include "game/water.h"
+#include "sound/sound.h"
+
+#include <cstdlib>
+
+namespace
+{
+constexpr int START_LIVES = 2;
+constexpr int BERRY_DISTANCE = 6; ///< cells that new berries keep from a head, in columns and in rows
+
+constexpr int SPLASH_RADIUS = 4;
+constexpr int SPLASH_DEPTH = 102;
+}
+
+CSnake::~CSnake() = default;
+
+bool CSnake::SnakeInit(int enterX, CPond* owner, int playerNumber, int up, int down, int left, int right)
+{
+    const int32_t previousPlayer = player;
+    player = playerNumber; // decides which body is loaded
+    if (!SnakeLoadImage()) {
+        player = previousPlayer;
+        return false;
+    }
+    pond = owner;
+    startX = enterX;
+    keyUp = up;
+    keyDown = down;
+    keyLeft = left;
+    keyRight = right;
+    turnCount = 0;
+
+    length = START_LENGTH;
+    for (int i = 0; i < length; ++i)
+        segments[i] = { .x = startX, .y = POND_SIZE, .dir = keyUp };
+    speed = NORMAL_SPEED;
+    lives = START_LIVES;
+    isPaused = false;
+    isWaiting = false;
+    startPressed = false;
+    slowDownPending = false;
+    isActive = true;
+    isOut = false;
+    frameCount = 0;
+    eyeFrame = 0;
+    isDying = false;
+    deathFrames = 0;
+    movedFrames = 0;
+    score = 0;
+    lastColour = NO_COLOUR;
+    streak = 0;
+    pendingEffect = NO_EFFECT;
+    rainTimer = 0;
+    shrinkCount = 0;
+    speedUpTimer = 0;
+    return true;
+}
+
+void CSnake::SnakeClear()
+{
+    for (Segment& segment : segments)
+        segment = {};
+}
+
+bool CSnake::SnakeProcess(CImage& pondPicture, int key)
+{
+    if (isPaused) {
+        SnakeDraw(pondPicture);
+        return true;
+    }
+    if (!isActive && !isDying && IsHeadOnGrid()) {
+        Coil();
+        SnakeDraw(pondPicture);
+        return true;
+    }
+    if (isDying) {
+        StepDeath();
+        SnakeDraw(pondPicture);
+        return true;
+    }
+    if (!isWaiting)
+        ++movedFrames;
+    ++frameCount;
+    TakeKey(key);
+    MakeWake();
+    TurnHead();
+    if (!isWaiting)
+        Move();
+    SnakeDraw(pondPicture);
+    if (isActive && !isWaiting)
+        CheckHead();
+    RunEffects();
+    return true;
+}
+
+void CSnake::SnakeCountCells(int* grid) const
+{
+    for (int i = 0; i < length; ++i) {
+        const int cell = CellAt(segments[i].x, segments[i].y);
+        if (IsCell(cell)) // a snake that enters starts below the pond's edge
+            ++grid[cell];
+    }
+}
+
+bool CSnake::SnakeGetHead(int& headX, int& headY) const
+{
+    if (isDying && length == 0)
+        return false;
+    headX = segments[0].x;
+    headY = segments[0].y;
+    return true;
+}
+
+bool CSnake::SnakeIsFarFrom(int cell) const
+{
+    const int head = CellAt(segments[0].x, segments[0].y);
+    if (!IsCell(head))
+        return true;
+    return std::abs(cell % CELL_COLUMNS - head % CELL_COLUMNS) > BERRY_DISTANCE ||
+           std::abs(cell / CELL_COLUMNS - head / CELL_COLUMNS) > BERRY_DISTANCE;
+}
+
+void CSnake::SnakeGather()
+{
+    if (IsGone())
+        return;
+    isActive = false;
+    shrinkCount = 0;
+    speedUpTimer = 0;
+    rainTimer = 0;
+    turnCount = 0;
+    eyeFrame = 0;
+    movedFrames = 0;
+    streak = 0;
+    speed = NORMAL_SPEED;
+    lastColour = NO_COLOUR;
+    pendingEffect = NO_EFFECT;
+    SoundStop(BeatSound());
+    SoundStop(RainSound());
+}
+
+void CSnake::SnakeRestart()
+{
+    if (IsGone())
+        return;
+    // A snake shorter than at the start gets its missing segments where the others lie, on the head.
+    for (int i = length; i < START_LENGTH; ++i)
+        segments[i] = segments[0];
+    length = START_LENGTH;
+    isActive = true;
+    isWaiting = true;
+}
+
+int CSnake::RainSound() const
+{
+    return player == 1 ? SOUND_RAIN_1 : SOUND_RAIN_2;
+}
+
+int CSnake::BeatSound() const
+{
+    return player == 1 ? SOUND_BEAT_1 : SOUND_BEAT_2;
+}
+
+void CSnake::Splash(const Segment& segment)
+{
+    DisturbWater(segment.x + CELL_SIZE / 2, segment.y + CELL_SIZE / 2, SPLASH_RADIUS, SPLASH_DEPTH);
+}

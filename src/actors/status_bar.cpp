@@ -1,0 +1,243 @@
+#include "actors/status_bar.h"
+
+#include "actors/status_bar_items.h"
+#include "app/log.h"
+#include "game/geometry.h"
+#include "gfx/error.h"
+#include "res/image_loader.h"
+#include "sound/sound.h"
+
+#include <iterator>
+#include <new>
+
+namespace
+{
+
+constexpr int FONT_HEIGHT = 13;
+constexpr int FONT_WIDTH = 5;
+constexpr int FONT_LEVELS = 16;
+constexpr int FONT_SLOTS = 128;
+
+struct ImageFile {
+    const char* path;
+    bool (*load)(CImage& image, const char* path);
+    BlitRoutine blit;
+};
+
+/// By StatusImage.
+constexpr ImageFile imageFiles[] = {
+    { "Dat\\Image/LeftPanel.bmp", LoadBmpFile, BlitCopy },
+    { "Dat\\Image/beanred.bmp", LoadBmpFile, BlitColorKey },
+    { "Dat\\Image/beangreen.bmp", LoadBmpFile, BlitColorKey },
+    { "Dat\\Image/beanblue.bmp", LoadBmpFile, BlitColorKey },
+    { "Dat\\Image/beanorange.bmp", LoadBmpFile, BlitColorKey },
+    { "Dat\\Image/beanpurple.bmp", LoadBmpFile, BlitColorKey },
+    { "Dat\\Image/heart.bmp", LoadBmpFile, BlitColorKey },
+    { "Dat\\Image/Progress.jpg", LoadJpegFile, BlitCopy },
+    { "Dat\\Image/MessagePaused.jpg", LoadJpegFile, BlitCopy },
+    { "Dat\\Image/MessageConfirm.jpg", LoadJpegFile, BlitCopy },
+    { "Dat\\Image/MessageLevelCleared.jpg", LoadJpegFile, BlitCopy },
+    { "Dat\\Image/MessageNextLevel.jpg", LoadJpegFile, BlitCopy },
+    { "Dat\\Image/Help1.jpg", LoadJpegFile, BlitCopy },
+    { "Dat\\Image/Help2.jpg", LoadJpegFile, BlitCopy },
+    { "Dat\\Image/Help3.jpg", LoadJpegFile, BlitCopy },
+    { "Dat\\Image/Help4.jpg", LoadJpegFile, BlitCopy },
+    { "Dat\\Image/MessageGameOver.jpg", LoadJpegFile, BlitCopy },
+};
+static_assert(std::size(imageFiles) == STATUS_IMAGES);
+
+enum class Place { CORNER, SCREEN_CENTRE, POND_CENTRE };
+
+struct PanelRow {
+    int image;
+    Place place;
+};
+
+/// By PanelId.
+constexpr PanelRow panelRows[] = {
+    { IMAGE_STRIP, Place::CORNER },           { IMAGE_PAUSED, Place::SCREEN_CENTRE },
+    { IMAGE_CONFIRM, Place::SCREEN_CENTRE },  { IMAGE_LEVEL_CLEARED, Place::POND_CENTRE },
+    { IMAGE_NEXT_LEVEL, Place::POND_CENTRE }, { IMAGE_HELP, Place::SCREEN_CENTRE },
+    { IMAGE_HELP + 1, Place::SCREEN_CENTRE }, { IMAGE_HELP + 2, Place::SCREEN_CENTRE },
+    { IMAGE_HELP + 3, Place::SCREEN_CENTRE }, { IMAGE_GAME_OVER, Place::POND_CENTRE },
+};
+static_assert(std::size(panelRows) == STATUS_PANELS);
+
+/// Pixels of the panel.
+struct Box {
+    int x;
+    int y;
+    int width;
+    int height;
+};
+
+/// A button lies over one that is part of the panel's picture.
+struct ButtonRow {
+    int panel;
+    int id;
+    Box box;
+};
+
+constexpr ButtonRow buttonRows[] = {
+    { PANEL_LEFT, BUTTON_PAUSE, { 10, 433, 39, 14 } }, { PANEL_LEFT, BUTTON_HELP, { 61, 433, 39, 14 } },
+    { PANEL_LEFT, BUTTON_QUIT, { 112, 433, 39, 14 } }, { PANEL_PAUSED, BUTTON_RESUME, { 18, 63, 54, 14 } },
+    { PANEL_PAUSED, BUTTON_HELP, { 88, 63, 54, 14 } }, { PANEL_CONFIRM, BUTTON_YES, { 18, 63, 54, 14 } },
+    { PANEL_CONFIRM, BUTTON_NO, { 88, 63, 54, 14 } },
+};
+
+constexpr Box helpClose = { 223, 363, 54, 14 };
+constexpr Box helpTabs[HELP_PAGES] = {
+    { 3, 3, 123, 32 },
+    { 126, 3, 123, 32 },
+    { 249, 3, 123, 32 },
+    { 372, 3, 123, 32 },
+};
+
+constexpr int NUMBER_LENGTH = 6; ///< digits of a level or a target
+
+struct TextRow {
+    int id;
+    Box box;
+};
+
+/// On the next-level panel.
+constexpr TextRow textRows[] = {
+    { TEXT_LEVEL, { 4, 25, 152, 14 } },
+    { TEXT_TARGET, { 4, 70, 152, 14 } },
+};
+
+POINT PanelPosition(const CImage& picture, Place place)
+{
+    switch (place) {
+    case Place::SCREEN_CENTRE:
+        return { (SCREEN_WIDTH - picture.width) / 2, (SCREEN_HEIGHT - picture.height) / 2 };
+    case Place::POND_CENTRE:
+        return { (POND_SIZE - picture.width) / 2 + POND_LEFT, (POND_SIZE - picture.height) / 2 };
+    case Place::CORNER:
+        break;
+    }
+    return { 0, 0 };
+}
+
+bool AddPlainButton(CMenu& panel, int id, const Box& box)
+{
+    return panel.AddButton(id, box.x, box.y, box.width, box.height, nullptr, nullptr, nullptr, SOUND_NONE, SOUND_NONE);
+}
+
+bool AddHelpButtons(CMenu& panel, int page)
+{
+    bool ok = AddPlainButton(panel, HelpCloseId(page), helpClose);
+    for (int other = 0; other < HELP_PAGES; ++other) {
+        if (other != page)
+            ok = ok && AddPlainButton(panel, HelpTabId(page, other), helpTabs[other]);
+    }
+    return ok;
+}
+
+} // namespace
+
+CStatusBar::~CStatusBar()
+{
+    DataUnload();
+}
+
+std::array<CMenu*, STATUS_PANELS> CStatusBar::Panels()
+{
+    return { &leftPanel,     &pausedPanel,   &confirmPanel,  &levelClearedPanel, &nextLevelPanel,
+             &helpPanels[0], &helpPanels[1], &helpPanels[2], &helpPanels[3],     &gameOverPanel };
+}
+
+bool CStatusBar::DataLoad(bool& done)
+{
+    struct Step {
+        bool (CStatusBar::*load)();
+        const char* logLine;
+    };
+    static constexpr Step steps[] = {
+        { &CStatusBar::LoadFont, "CStatusBar::DataLoad 0" },
+        { &CStatusBar::LoadImages, "CStatusBar::DataLoad 1" },
+        { &CStatusBar::CreatePanels, "CStatusBar::DataLoad 2" },
+    };
+    constexpr int stepCount = static_cast<int>(std::size(steps));
+    if (loadStep < stepCount) {
+        if (!(this->*steps[loadStep].load)())
+            return false;
+        WriteLog(steps[loadStep].logLine);
+        ++loadStep;
+    }
+    if (loadStep == stepCount)
+        done = true;
+    return true;
+}
+
+bool CStatusBar::LoadFont()
+{
+    fontHandle = CreateFontA(FONT_HEIGHT, FONT_WIDTH, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0,
+                             PROOF_QUALITY, 0, "Verdana");
+    return font.TextImageCreate(fontHandle, FONT_LEVELS, FONT_SLOTS);
+}
+
+bool CStatusBar::LoadImages()
+{
+    images.reset(new (std::nothrow) CImage[STATUS_IMAGES]);
+    if (images == nullptr) {
+        lastError = ENGINE_ALLOCATE_MEMORY;
+        return false;
+    }
+    for (int i = 0; i < STATUS_IMAGES; ++i) {
+        if (!imageFiles[i].load(images[i], imageFiles[i].path))
+            return false;
+        images[i].blit = imageFiles[i].blit;
+    }
+    return true;
+}
+
+bool CStatusBar::CreatePanels()
+{
+    const auto panels = Panels();
+    bool ok = true;
+    for (int i = 0; i < STATUS_PANELS; ++i) {
+        CImage& picture = images[panelRows[i].image];
+        const POINT position = PanelPosition(picture, panelRows[i].place);
+        ok = ok && panels[i]->MenuCreate(static_cast<int>(position.x), static_cast<int>(position.y), &picture);
+    }
+    for (const ButtonRow& row : buttonRows)
+        ok = ok && AddPlainButton(*panels[row.panel], row.id, row.box);
+    for (int page = 0; page < HELP_PAGES; ++page)
+        ok = ok && AddHelpButtons(helpPanels[page], page);
+    for (const auto& [id, box] : textRows)
+        ok = ok && nextLevelPanel.AddText(id, box.x, box.y, box.width, box.height, nullptr, &font, 0xFFFF, 0x0000,
+                                          ALIGN_CENTRE, TEXT_ENTRY, NUMBER_LENGTH);
+    if (!ok)
+        lastError = ENGINE_ALLOCATE_MEMORY;
+    return ok;
+}
+
+void CStatusBar::DataUnload()
+{
+    font.TextImageFree();
+    if (fontHandle != nullptr)
+        DeleteObject(fontHandle);
+    fontHandle = nullptr;
+    images.reset();
+    for (CMenu* panel : Panels())
+        panel->MenuFree();
+    loadStep = 0;
+    WriteLog("CStatusBar::DataUnload");
+}
+
+void CStatusBar::StatusBarReset(CPond* owner)
+{
+    pond = owner;
+    level = 1;
+    target = FIRST_TARGET;
+    prevTarget = 0;
+    coilWait = 0;
+    countUp = 0;
+    panelOpen = false;
+    berryCountdown = 0;
+    lifeMark[0] = lifeMark[1] = 0;
+    for (CMenu* panel : Panels())
+        HidePanel(*panel);
+    ShowPanel(leftPanel);
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "actors/status_bar.h"
+
+// How the status bar's own files number its pictures, panels, buttons and texts.
+
+/// Index into the status bar's `images`.
+enum StatusImage : int {
+    IMAGE_STRIP = 0,
+    IMAGE_STREAK = 1, ///< the first of five, by berry colour
+    IMAGE_HEART = 6,
+    IMAGE_PROGRESS = 7,
+    IMAGE_PAUSED = 8,
+    IMAGE_CONFIRM = 9,
+    IMAGE_LEVEL_CLEARED = 10,
+    IMAGE_NEXT_LEVEL = 11,
+    IMAGE_HELP = 12, ///< the first page
+    IMAGE_GAME_OVER = IMAGE_HELP + HELP_PAGES,
+};
+
+/// The panels in the order in which they are drawn and handled.
+enum PanelId : int {
+    PANEL_LEFT,
+    PANEL_PAUSED,
+    PANEL_CONFIRM,
+    PANEL_LEVEL_CLEARED,
+    PANEL_NEXT_LEVEL,
+    PANEL_HELP,
+    PANEL_GAME_OVER = PANEL_HELP + HELP_PAGES,
+};
+
+/// Buttons and texts of the panels.
+enum PanelItemId : int {
+    BUTTON_PAUSE = 0,
+    BUTTON_HELP = 1, ///< on the strip and on the paused panel
+    BUTTON_QUIT = 2,
+    BUTTON_RESUME = 3,
+    BUTTON_YES = 4,
+    BUTTON_NO = 5,
+    TEXT_LEVEL = 6,
+    TEXT_TARGET = 7,
+    BUTTON_HELP_FIRST = 8,
+};
+
+/// A help page, counted from 0, has a close button and then a tab for each other page.
+constexpr int HelpCloseId(int page)
+{
+    return BUTTON_HELP_FIRST + page * HELP_PAGES;
+}
+constexpr int HelpTabId(int page, int otherPage)
+{
+    return HelpCloseId(page) + otherPage + (otherPage < page ? 1 : 0);
+}

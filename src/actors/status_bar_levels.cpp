@@ -1,0 +1,151 @@
+#include "actors/status_bar_items.h"
+
+#include "game/geometry.h"
+#include "game/pond.h"
+#include "game/water.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace
+{
+
+constexpr int SLIDE_SPEED = 20; ///< pixels a frame, downward
+constexpr int END_FADE_FRAMES = 125;
+constexpr int SPLASH_RADIUS = 8; ///< of a berry that a level's end takes away
+constexpr int SPLASH_DEPTH = 170;
+constexpr int GATHER_SPEED = 2;    ///< of coiling snakes, pixels a frame
+constexpr int FRESH_BERRIES = 5;   ///< at a level's start
+constexpr int BERRY_INTERVAL = 10; ///< frames between them
+
+int RestingY(const CMenu& panel)
+{
+    return (POND_SIZE - panel.background->height) / 2;
+}
+
+/// Puts the panel just above the screen.
+void PlaceAbove(CMenu& panel)
+{
+    panel.y = -panel.background->height;
+}
+
+/// Moves the panel down to the middle of the pond; true in the frame in which it arrives.
+bool SlideIn(CMenu& panel)
+{
+    const int rest = RestingY(panel);
+    if (panel.y >= rest)
+        return false;
+    panel.y = std::min(panel.y + SLIDE_SPEED, rest);
+    return panel.y == rest;
+}
+
+/// Moves the panel down; true when it has left the screen.
+bool SlideOut(CMenu& panel)
+{
+    panel.y += SLIDE_SPEED;
+    return panel.y >= POND_SIZE;
+}
+
+void ShowNumber(CMenu& panel, int textId, int number)
+{
+    std::snprintf(panel.FindText(textId)->text.get(), MENU_TEXT_SIZE, "%d", number);
+}
+
+} // namespace
+
+bool CStatusBar::IsAnyCoiling() const
+{
+    return !std::ranges::all_of(pond->snake, pond->snake + pond->players + 1, &CSnake::isActive);
+}
+
+void CStatusBar::StatusBarLevelCleared()
+{
+    ++level;
+    prevTarget = target;
+    target += FIRST_TARGET * level; // every level asks for FIRST_TARGET more points than the one before
+
+    int longest = 0;
+    for (int i = 0; i <= pond->players; ++i)
+        longest = std::max(longest, pond->snake[i].length);
+    coilWait = longest * CELL_SIZE / GATHER_SPEED;
+
+    ClearBerries();
+    for (int i = 0; i <= pond->players; ++i)
+        pond->snake[i].SnakeGather();
+
+    leftPanel.isActive = false;
+    for (CMenu* panel : { &levelClearedPanel, &nextLevelPanel }) {
+        ShowPanel(*panel);
+        PlaceAbove(*panel);
+    }
+    ShowNumber(nextLevelPanel, TEXT_LEVEL, level);
+    ShowNumber(nextLevelPanel, TEXT_TARGET, target);
+}
+
+/// Stones stay for the next level.
+void CStatusBar::ClearBerries()
+{
+    for (Cell& cell : pond->cells) {
+        if (!cell.occupied || cell.IsStone())
+            continue;
+        cell.occupied = false;
+        if (cell.growth == 0)
+            DisturbWater(cell.x + CELL_SIZE / 2, cell.y + CELL_SIZE / 2, SPLASH_RADIUS, SPLASH_DEPTH);
+    }
+}
+
+void CStatusBar::ProcessLevelClearedPanel()
+{
+    if (!IsOpen(levelClearedPanel))
+        return;
+    SlideIn(levelClearedPanel);
+    if (coilWait > 0)
+        --coilWait;
+    if (coilWait == 0 && SlideOut(levelClearedPanel))
+        HidePanel(levelClearedPanel);
+}
+
+void CStatusBar::ProcessNextLevelPanel()
+{
+    if (!IsOpen(nextLevelPanel))
+        return;
+    if (!levelClearedPanel.isVisible && IsAnyCoiling() && SlideIn(nextLevelPanel))
+        countUp = COUNT_UP_FRAMES;
+    if (nextLevelPanel.y == RestingY(nextLevelPanel) && countUp == 0)
+        StatusBarNextLevel();
+    if (!IsAnyCoiling() && SlideOut(nextLevelPanel)) {
+        HidePanel(nextLevelPanel);
+        leftPanel.isActive = true;
+    }
+}
+
+void CStatusBar::StatusBarNextLevel()
+{
+    for (int i = 0; i <= pond->players; ++i)
+        pond->snake[i].SnakeRestart();
+    berryCountdown = FRESH_BERRIES * BERRY_INTERVAL;
+}
+
+void CStatusBar::DropLevelBerries()
+{
+    if (berryCountdown < 1)
+        return;
+    if (berryCountdown % BERRY_INTERVAL == 0)
+        pond->PlaceBerry(RANDOM, RANDOM);
+    --berryCountdown;
+}
+
+void CStatusBar::StatusBarGameOver()
+{
+    if (gameOverPanel.isVisible)
+        return;
+    leftPanel.isActive = false;
+    ShowPanel(gameOverPanel);
+    PlaceAbove(gameOverPanel);
+}
+
+void CStatusBar::ProcessGameOverPanel()
+{
+    if (IsOpen(gameOverPanel) && SlideIn(gameOverPanel))
+        pond->fadeOut = END_FADE_FRAMES;
+}

@@ -1,0 +1,155 @@
+#include "game/pond.h"
+
+#include "game/water.h"
+#include "sound/sound.h"
+
+#include <algorithm>
+#include <numbers>
+
+namespace
+{
+constexpr int FLIGHT_OFFSET = 7; ///< flight pictures are 30 pixels wide, a cell 16
+constexpr int BURST_FRAMES = 20;
+constexpr int GOLDEN_RING_RADIUS = 64;
+constexpr int RING_STEP = 3; ///< pixels a frame
+
+struct Move {
+    int heading;
+    int x;
+    int y;
+};
+constexpr Move laserMoves[] = {
+    { HEADING_LEFT, -CELL_SIZE, 0 },
+    { HEADING_UP, 0, -CELL_SIZE },
+    { HEADING_RIGHT, CELL_SIZE, 0 },
+    { HEADING_DOWN, 0, CELL_SIZE },
+};
+
+void MoveLaser(Laser& laser)
+{
+    const Move* move = std::ranges::find(laserMoves, laser.heading, &Move::heading);
+    if (move == std::end(laserMoves))
+        return;
+    laser.x += move->x;
+    laser.y += move->y;
+}
+
+struct RingPoint {
+    int x;
+    int y;
+    int waterRadius;
+};
+
+/// In the order in which they strike. The diagonal's single precision decides which pixel, so which cell, is struck.
+std::array<RingPoint, 8> RingPoints(const Shockwave& ring)
+{
+    const float diagonal = static_cast<float>(std::numbers::sqrt2 * ring.radius * 0.5);
+    const auto x = static_cast<float>(ring.x);
+    const auto y = static_cast<float>(ring.y);
+    const int east = static_cast<int>(x + diagonal);
+    const int west = static_cast<int>(x - diagonal);
+    const int north = static_cast<int>(y - diagonal);
+    const int south = static_cast<int>(y + diagonal);
+    return { {
+        { ring.x, ring.y - ring.radius, 4 },
+        { ring.x, ring.y + ring.radius, 4 },
+        { ring.x - ring.radius, ring.y, 2 },
+        { ring.x + ring.radius, ring.y, 2 },
+        { east, north, 2 },
+        { east, south, 2 },
+        { west, south, 2 },
+        { west, north, 2 },
+    } };
+}
+
+constexpr bool IsOnPond(int x, int y)
+{
+    return x >= 0 && x < POND_SIZE && y >= 0 && y < POND_SIZE;
+}
+}
+
+void CPond::FireLaser(int x, int y, int heading)
+{
+    Laser* slot = std::ranges::find(lasers, false, &Laser::active);
+    if (slot != std::end(lasers))
+        *slot = { .active = true, .x = x, .y = y, .heading = heading };
+}
+
+void CPond::StepLasers(CImage& pondPicture)
+{
+    for (Laser& laser : lasers) {
+        if (!laser.active)
+            continue;
+        if (laser.hit)
+            StepBurst(laser, pondPicture);
+        else
+            StepFlight(laser, pondPicture);
+    }
+}
+
+/// One cell further. Lasers do not wrap around the pond's edges, and fly over growing berries.
+void CPond::StepFlight(Laser& laser, CImage& pondPicture)
+{
+    laserImages[static_cast<size_t>(laser.frame)].Draw(pondPicture, laser.x - FLIGHT_OFFSET, laser.y - FLIGHT_OFFSET);
+    laser.frame = (laser.frame + 1) % LASER_FLIGHT_IMAGES;
+    MoveLaser(laser);
+    if (!IsOnPond(laser.x, laser.y)) {
+        laser.active = false;
+        return;
+    }
+    Cell& cell = cells[CellAt(laser.x, laser.y)];
+    if (!cell.IsLanded())
+        return;
+    laser.hit = true;
+    HitCell(cell);
+}
+
+/// A golden berry goes up in a ring; anything else becomes one, and splashes anew.
+void CPond::HitCell(Cell& cell)
+{
+    SoundPlay(SOUND_WARP, false);
+    if (cell.ripe && cell.colour == GOLDEN) {
+        cell.occupied = false;
+        StartShockwave(cell.x + CELL_SIZE / 2, cell.y + CELL_SIZE / 2, GOLDEN_RING_RADIUS);
+        return;
+    }
+    cell.ripe = true;
+    cell.splashed = false;
+    cell.colour = GOLDEN;
+}
+
+/// The counter runs on from the flight's, so a burst is up to three frames shorter than BURST_FRAMES.
+void CPond::StepBurst(Laser& laser, CImage& pondPicture)
+{
+    constexpr int burstImages = LASER_IMAGES - LASER_FLIGHT_IMAGES;
+    CImage& image = laserImages[static_cast<size_t>(LASER_FLIGHT_IMAGES + laser.frame % burstImages)];
+    image.Draw(pondPicture, laser.x - (image.width - CELL_SIZE) / 2, laser.y - (image.height - CELL_SIZE) / 2);
+    ++laser.frame;
+    if (laser.frame == BURST_FRAMES)
+        laser.active = false;
+}
+
+void CPond::StartShockwave(int x, int y, int maxRadius)
+{
+    shockwave = { x, y, 0, maxRadius };
+}
+
+/// Eight points of the ring travel outward.
+void CPond::StepShockwave()
+{
+    if (shockwave.radius >= shockwave.maxRadius)
+        return;
+    for (const RingPoint& point : RingPoints(shockwave))
+        StrikeRingPoint(point.x, point.y, point.waterRadius);
+    shockwave.radius += RING_STEP;
+}
+
+void CPond::StrikeRingPoint(int x, int y, int radius)
+{
+    DisturbWater(x, y, radius, 255);
+    const int index = CellAt(x, y);
+    if (!IsCell(index) || !cells[index].IsLanded())
+        return;
+    cells[index].occupied = false;
+    DisturbWater(cells[index].x + CELL_SIZE / 2, cells[index].y + CELL_SIZE / 2, 4, 102);
+}

@@ -1,0 +1,169 @@
+#include "app/globals.h"
+#include "game/pond.h"
+#include "gfx/blit.h"
+
+SceneryState scenery;
+
+namespace
+{
+constexpr int DAY_FRAMES = 100 * FRAMES_PER_SECOND; ///< from dusk to dawn, from dawn to dusk
+constexpr int TRANSITION_FRAMES = 50;               ///< of a dusk or dawn
+constexpr int NIGHT_OPACITY = 50;                   ///< of the day picture, darkened to night
+constexpr int FADE_OUT_START = 125;                 ///< the value of `fadeOut` as the end of a game begins
+constexpr int INTRO_FRAMES = 31;
+
+constexpr int MOON_SIZE = 130;
+constexpr int MOON_OPACITY = 80;
+constexpr int MOON_FADE_Y = 101; ///< above it the moon fades out
+
+/// Darkens `light` by that grey.
+bool SubtractGrey(CImage& light, int grey)
+{
+    CImage shade;
+    if (!shade.Create(light.width, light.height))
+        return false;
+    shade.Fill(Rgb565(grey, grey, grey));
+    shade.blit = BlitSub;
+    shade.Draw(light);
+    return true;
+}
+
+/// The pond wraps around: a light near an edge also shines in from the opposite one.
+void DrawWrapped(CImage& light, CImage& target, int x, int y)
+{
+    for (const int offsetY : { -POND_SIZE, 0, POND_SIZE })
+        for (const int offsetX : { -POND_SIZE, 0, POND_SIZE })
+            light.Draw(target, x + offsetX, y + offsetY);
+}
+}
+
+void CPond::DrawBackground(CImage& pondPicture)
+{
+    ++dayTimer;
+    if (dayTimer == DAY_FRAMES) {
+        transition = TRANSITION_FRAMES;
+        dayTimer = 0;
+    }
+    if (transition != 0 && isDay)
+        DrawDusk(pondPicture);
+    else if (transition != 0)
+        DrawDawn(pondPicture);
+    else if (isDay)
+        dayBackground.Draw(pondPicture);
+    else
+        DrawNight(pondPicture);
+}
+
+/// Darkens frame by frame to the night picture. The lights are those of the frame's end: undimmed in the last.
+void CPond::DrawDusk(CImage& pondPicture)
+{
+    DrawDarkenedDay(pondPicture, NIGHT_OPACITY + 4 * transition);
+    --transition;
+    DrawSnakeLights(pondPicture);
+    if (transition == 0)
+        isDay = false;
+}
+
+void CPond::DrawNight(CImage& pondPicture)
+{
+    nightBackground.Draw(pondPicture);
+    DrawSnakeLights(pondPicture);
+}
+
+/// Brightens from the night picture. The lights are those of the frame's start: undimmed in the first.
+void CPond::DrawDawn(CImage& pondPicture)
+{
+    DrawDarkenedDay(pondPicture, NIGHT_OPACITY + 4 * (TRANSITION_FRAMES - transition));
+    DrawSnakeLights(pondPicture);
+    --transition;
+    if (transition == 0)
+        isDay = true;
+}
+
+bool CPond::MakeNightBackground()
+{
+    if (!nightBackground.Create(backBuffer.width, backBuffer.height))
+        return false;
+    nightBackground.blit = BlitCopy;
+    DrawDarkenedDay(nightBackground, NIGHT_OPACITY);
+    return true;
+}
+
+void CPond::DrawDarkenedDay(CImage& target, int opacity)
+{
+    dayBackground.blit = BlitFadeToBlack;
+    dayBackground.opacity = static_cast<uint32_t>(opacity);
+    dayBackground.Draw(target);
+    dayBackground.blit = BlitCopy;
+}
+
+void CPond::DrawSnakeLights(CImage& pondPicture)
+{
+    CImage light;
+    if (!light.Copy(lightImage) || !DimLight(light))
+        return;
+    light.blit = BlitAdd;
+    for (const CSnake& each : SnakesInPlay()) {
+        int x = 0;
+        int y = 0;
+        if (each.SnakeGetHead(x, y))
+            DrawWrapped(light, pondPicture, x - (light.width - CELL_SIZE) / 2, y - (light.height - CELL_SIZE) / 2);
+    }
+}
+
+/// The lights grow during a dusk and wane during a dawn.
+bool CPond::DimLight(CImage& light) const
+{
+    if (transition == 0)
+        return true;
+    return SubtractGrey(light, 5 * (isDay ? transition : TRANSITION_FRAMES - transition));
+}
+
+/// The end of a game: the background sinks into black, by night from the night picture.
+void CPond::DrawEndFade(CImage& pondPicture)
+{
+    if (gameOver || fadeOut <= 0)
+        return;
+    DrawDarkenedDay(pondPicture, isDay ? 2 * fadeOut : NIGHT_OPACITY * fadeOut / FADE_OUT_START);
+    fadeOut -= 2;
+    if (fadeOut < 0) {
+        fadeOut = 0;
+        gameOver = true;
+    }
+}
+
+/// The start of a game: the pond brightens out of black and nothing moves. True while it does.
+bool CPond::DrawIntro(CImage& pondPicture)
+{
+    if (introFrames >= INTRO_FRAMES)
+        return false;
+    ++introFrames;
+    CImage faded;
+    if (faded.Copy(pondPicture)) {
+        faded.blit = BlitFadeToBlack;
+        faded.opacity = static_cast<uint32_t>(8 * introFrames);
+        faded.Draw(backBuffer, POND_LEFT, 0);
+    }
+    statusBar.StatusBarProcess(backBuffer);
+    return true;
+}
+
+/// The moon rises at night from below the pond, fades in, stays, and fades out near the top. The two take turns.
+void CPond::DrawMoon(CImage& pondPicture)
+{
+    if (isDay)
+        return;
+    if (transition == 1) { // the frame before dawn ends: ready for the next night
+        scenery.moonToggle = !scenery.moonToggle;
+        scenery.moonY = POND_SIZE + MOON_SIZE;
+        moonImages[0].opacity = 0;
+        moonImages[1].opacity = 0;
+    }
+    CImage& moon = moonImages[scenery.moonToggle ? 0 : 1];
+    if (scenery.moonY >= POND_SIZE / 2 && scenery.moonY <= POND_SIZE && moon.opacity < MOON_OPACITY)
+        ++moon.opacity;
+    else if (scenery.moonY < MOON_FADE_Y && moon.opacity >= 1)
+        --moon.opacity;
+    moon.Draw(pondPicture, (POND_SIZE - MOON_SIZE) / 2, scenery.moonY);
+    scenery.moonY -= 2;
+}

@@ -1,0 +1,86 @@
+#include "game/section_main.h"
+
+#include "app/globals.h"
+#include "app/log.h"
+#include "game/water.h"
+#include "menu/section_menu.h"
+#include "platform/kernel.h"
+#include "platform/window.h"
+
+namespace
+{
+constexpr int DAMPING_SHIFT = 5;
+constexpr int REFRACTION_SHIFT = 3;
+constexpr int MOUSE_REST_FRAMES = 5 * FRAMES_PER_SECOND;
+
+/// Where the mouse was last seen, and for how many frames it has rested there.
+int32_t lastMouseX = -1;
+int32_t lastMouseY = -1;
+int32_t mouseIdleFrames = 0;
+
+void CountMouseRest()
+{
+    if (input.mouseX == lastMouseX && input.mouseY == lastMouseY) {
+        ++mouseIdleFrames;
+        return;
+    }
+    lastMouseX = input.mouseX;
+    lastMouseY = input.mouseY;
+    mouseIdleFrames = 0;
+}
+
+/// Hides the cursor of a resting mouse, except while there are buttons to click.
+void ShowOrHideCursor(bool panelOpen)
+{
+    CountMouseRest();
+    if (mouseIdleFrames >= MOUSE_REST_FRAMES && !panelOpen)
+        SetCursor(nullptr);
+    else
+        SetCursor(LoadCursorA(nullptr, IDC_ARROW));
+}
+
+/// Only a player alone enters the ranking.
+void LeaveForMenu(const CPond& pond)
+{
+    if (pond.players == 0)
+        sectionMenu.RankingInsert(pond.snake[0].score);
+    requestedSection = &sectionMenu;
+    input.mouseLeftDown = false;
+    input.lastKeyDown = 0;
+}
+}
+
+bool CSectionMain::SectionBegin()
+{
+    waterBufferA.Fill(0);
+    waterBufferB.Fill(0);
+    WaterInit(waterBufferA, waterBufferB, DAMPING_SHIFT, REFRACTION_SHIFT);
+    const uint32_t* keys = sectionMenu.keys.data();
+    if (!pond.NewGame(static_cast<int>(sectionMenu.twoPlayers), keys, keys + KEY_BINDINGS / 2))
+        return false;
+    input.lastKeyDown = 0; // the key that started the game is not a turn
+    WriteLog("CSectionMain::SectionBegin");
+    return true;
+}
+
+bool CSectionMain::SectionEnd()
+{
+    pond.GameEnd();
+    WriteLog("CSectionMain::SectionEnd");
+    return true;
+}
+
+bool CSectionMain::SectionProcess()
+{
+    if (!input.hasFocus) {
+        Sleep(100);
+        return true;
+    }
+    pond.GameFrame(pondImage, input.lastKeyDown);
+    input.lastKeyDown = 0;
+    input.lastKeyUp = 0;
+    if (pond.gameOver)
+        LeaveForMenu(pond);
+    ShowOrHideCursor(pond.statusBar.panelOpen);
+    return true;
+}

@@ -1,0 +1,98 @@
+#include "gfx/blit.h"
+
+#include "gfx/clip.h"
+#include "gfx/row_kernels.h"
+
+namespace
+{
+SourceBox BoxOf(const CImage& image)
+{
+    return { image.x, image.y, image.width, image.height };
+}
+
+/// Applies kernel(source pixels, target pixels, count) to each visible row.
+template <typename Kernel>
+void DrawRows(CImage& target, const CImage& source, Kernel kernel)
+{
+    ForEachVisibleRow(target, BoxOf(source), [&](int row, int column, uint16_t* pixels, size_t count) {
+        kernel(source.Row(row) + column, pixels, count);
+    });
+}
+
+/// Applies kernel(source pixels, source alpha, target pixels, count) to each visible row. A kernel may read three
+/// values past the row's end: behind the last row lies the plane's slack.
+template <typename Kernel>
+void DrawAlphaRows(CImage& target, const CImage& source, Kernel kernel)
+{
+    ForEachVisibleRow(target, BoxOf(source), [&](int row, int column, uint16_t* pixels, size_t count) {
+        kernel(source.Row(row) + column, source.AlphaRow(row) + column, pixels, count);
+    });
+}
+
+/// The weight, out of 32, of what an image of that opacity is blended with.
+int OtherWeight(uint32_t opacity)
+{
+    return static_cast<int>((256 - opacity) >> 3);
+}
+}
+
+void BlitCopy(CImage& target, const CImage& source)
+{
+    DrawRows(target, source, CopyRow);
+}
+
+void BlitColorKey(CImage& target, const CImage& source)
+{
+    DrawRows(target, source, ColorKeyRow);
+}
+
+void BlitAdd(CImage& target, const CImage& source)
+{
+    DrawRows(target, source, AddRow);
+}
+
+void BlitSub(CImage& target, const CImage& source)
+{
+    DrawRows(target, source, SubRow);
+}
+
+void BlitAlpha(CImage& target, const CImage& source)
+{
+    DrawAlphaRows(target, source, AlphaRow);
+}
+
+void BlitAlphaOpacity(CImage& target, const CImage& source)
+{
+    const int scale = static_cast<int>(source.opacity >> 3) + 1;
+    DrawAlphaRows(target, source,
+                  [scale](const uint16_t* pixels, const uint8_t* alpha, uint16_t* targetPixels, size_t count) {
+                      AlphaOpacityRow(pixels, alpha, targetPixels, count, scale);
+                  });
+}
+
+void BlitOpacityColorKey(CImage& target, const CImage& source)
+{
+    if (source.opacity < 8)
+        return;
+    const int targetWeight = OtherWeight(source.opacity);
+    DrawRows(target, source, [targetWeight](const uint16_t* pixels, uint16_t* targetPixels, size_t count) {
+        OpacityColorKeyRow(pixels, targetPixels, count, targetWeight);
+    });
+}
+
+void BlitFadeToBlack(CImage& target, const CImage& source)
+{
+    const int blackWeight = OtherWeight(source.opacity);
+    DrawRows(target, source, [blackWeight](const uint16_t* pixels, uint16_t* targetPixels, size_t count) {
+        FadeToBlackRow(pixels, targetPixels, count, blackWeight);
+    });
+}
+
+void BlitGlyphSmooth(CImage& target, const GlyphView& glyph)
+{
+    const SourceBox box{ glyph.offsetX, glyph.offsetY, glyph.width, glyph.height };
+    ForEachVisibleRow(target, box, [&](int row, int column, uint16_t* pixels, size_t count) {
+        const uint8_t* coverage = glyph.bits + static_cast<ptrdiff_t>(row) * glyph.width + column;
+        GlyphRow(coverage, pixels, count, glyph.colour);
+    });
+}

@@ -1,0 +1,188 @@
+#include "gfx/image.h"
+
+#include "gfx/blit.h"
+#include "gfx/error.h"
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+#include <new>
+
+namespace
+{
+/// What a group of four pixels may reach past the end of the last row.
+constexpr int64_t PIXEL_SLACK = 4;
+constexpr int64_t ALPHA_SLACK = 3;
+
+/// Offsets into a plane fit into an int.
+constexpr int64_t MAX_PLANE_BYTES = std::numeric_limits<int32_t>::max() - 7;
+
+int64_t PitchOf(int64_t width)
+{
+    return (2 * width + 7) & ~int64_t{ 7 };
+}
+}
+
+CImage::CImage() : blit(BlitCopy) {}
+
+CImage::~CImage()
+{
+    Free();
+}
+
+void CImage::Free()
+{
+    ReleasePixels();
+    ReleaseAlpha();
+    x = y = width = height = pitch = 0;
+    opacity = 0;
+    blit = BlitCopy;
+}
+
+void CImage::ReleasePixels()
+{
+    if (!pixelsBorrowed)
+        delete[] pixels;
+    pixels = nullptr;
+    pixelsBorrowed = false;
+}
+
+void CImage::ReleaseAlpha()
+{
+    if (!alphaBorrowed)
+        delete[] alpha;
+    alpha = nullptr;
+    alphaBorrowed = false;
+}
+
+bool CImage::AllocatePixels(int newWidth, int newHeight)
+{
+    ReleasePixels();
+    width = height = pitch = 0; // an image without a plane must have nothing to draw
+    const int64_t rowBytes = PitchOf(newWidth);
+    const int64_t planeBytes = rowBytes * newHeight;
+    if (newWidth < 0 || newHeight < 0 || rowBytes > MAX_PLANE_BYTES || planeBytes > MAX_PLANE_BYTES)
+        return FailWith(ENGINE_ALLOCATE_MEMORY);
+    pixels = new (std::nothrow) uint16_t[static_cast<size_t>(planeBytes / 2 + PIXEL_SLACK)]();
+    if (!pixels)
+        return FailWith(ENGINE_ALLOCATE_MEMORY);
+    width = newWidth;
+    height = newHeight;
+    pitch = static_cast<int32_t>(rowBytes);
+    return true;
+}
+
+bool CImage::Create(int newWidth, int newHeight)
+{
+    x = y = 0;
+    return AllocatePixels(newWidth, newHeight);
+}
+
+bool CImage::CreateAlpha()
+{
+    ReleaseAlpha();
+    const int64_t planeBytes = int64_t{ pitch } / 2 * height + ALPHA_SLACK;
+    alpha = new (std::nothrow) uint8_t[static_cast<size_t>(planeBytes)]();
+    return alpha || FailWith(ENGINE_ALLOCATE_MEMORY);
+}
+
+bool CImage::CreateView(CImage& parent, int viewX, int viewY, int viewWidth, int viewHeight)
+{
+    if (viewX >= parent.width || viewY >= parent.height || !parent.pixels)
+        return FailWith(ENGINE_CREATE_IMAGE);
+    const int left = std::max(viewX, 0);
+    const int top = std::max(viewY, 0);
+    const int64_t right = std::min<int64_t>(int64_t{ viewX } + viewWidth, parent.width);
+    const int64_t bottom = std::min<int64_t>(int64_t{ viewY } + viewHeight, parent.height);
+    if (right <= left || bottom <= top)
+        return FailWith(ENGINE_CREATE_IMAGE);
+
+    ReleasePixels();
+    pixels = parent.Row(top) + left;
+    pixelsBorrowed = true;
+    if (parent.alpha) {
+        ReleaseAlpha();
+        alpha = parent.AlphaRow(top) + left;
+        alphaBorrowed = true;
+    }
+    x = std::min(viewX, 0);
+    y = std::min(viewY, 0);
+    width = static_cast<int32_t>(right - left);
+    height = static_cast<int32_t>(bottom - top);
+    pitch = parent.pitch;
+    return true;
+}
+
+bool CImage::Copy(CImage& source)
+{
+    x = source.x;
+    y = source.y;
+    opacity = source.opacity;
+    if (!AllocatePixels(source.width, source.height))
+        return false;
+
+    const BlitRoutine sourceBlit = source.blit;
+    source.blit = BlitCopy;
+    source.Draw(*this, 0, 0, 0, 0);
+    source.blit = sourceBlit;
+
+    if (!source.alpha)
+        return true;
+    if (!alpha && !CreateAlpha())
+        return false;
+    // Whole rows with their padding, which decides over the copying of each row's last group.
+    for (int row = 0; row < height; ++row)
+        std::memcpy(AlphaRow(row), source.AlphaRow(row), static_cast<size_t>(pitch / 2));
+    blit = source.blit;
+    return true;
+}
+
+void CImage::CopyAlpha(const CImage& source)
+{
+    if (!alpha && !CreateAlpha())
+        return;
+    if (!source.alpha)
+        return;
+    const size_t columns = static_cast<size_t>(std::min(width, source.width));
+    const int rows = std::min(height, source.height);
+    for (int row = 0; row < rows; ++row)
+        std::memcpy(AlphaRow(row), source.AlphaRow(row), columns);
+}
+
+void CImage::Fill(uint16_t colour)
+{
+    for (int row = 0; row < height; ++row)
+        std::fill_n(Row(row), width, colour);
+}
+
+void CImage::Draw(CImage& target, int targetX, int targetY, int anchorX, int anchorY, int drawWidth, int drawHeight)
+{
+    const int32_t savedTarget[] = { target.x, target.y };
+    const int32_t savedSource[] = { x, y, width, height };
+    if (targetX != KEEP)
+        target.x = targetX;
+    if (targetY != KEEP)
+        target.y = targetY;
+    if (anchorX != KEEP)
+        x = anchorX;
+    if (anchorY != KEEP)
+        y = anchorY;
+    // A picture replaced by a smaller file must not be read past its end.
+    if (drawWidth != KEEP)
+        width = std::min(drawWidth, width);
+    if (drawHeight != KEEP)
+        height = std::min(drawHeight, height);
+
+    if (!alpha && blit == BlitAlpha)
+        blit = BlitColorKey;
+    if (!alpha && blit == BlitAlphaOpacity)
+        blit = BlitOpacityColorKey;
+    blit(target, *this);
+
+    x = savedSource[0];
+    y = savedSource[1];
+    width = savedSource[2];
+    height = savedSource[3];
+    target.x = savedTarget[0];
+    target.y = savedTarget[1];
+}

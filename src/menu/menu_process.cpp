@@ -1,0 +1,141 @@
+#include "menu/menu.h"
+
+#include "app/globals.h"
+#include "sound/sound.h"
+
+#include <span>
+
+namespace
+{
+
+// What buttons and toggles have in common.
+
+template <typename Item>
+std::span<Item> ItemsOf(const std::unique_ptr<Item[]>& items, int count)
+{
+    return { items.get(), static_cast<size_t>(count) };
+}
+
+/// The box's edges belong to it.
+template <typename Item>
+bool IsUnderMouse(const CMenu& menu, const Item& item)
+{
+    const int left = menu.x + item.x;
+    const int top = menu.y + item.y;
+    return input.mouseX >= left && input.mouseX <= left + item.width && input.mouseY >= top &&
+           input.mouseY <= top + item.height;
+}
+
+template <typename Item>
+void DrawAt(CImage& target, const CMenu& menu, const Item& item, CImage* image)
+{
+    if (image != nullptr)
+        image->Draw(target, menu.x + item.x, menu.y + item.y);
+}
+
+/// From its start, even when it still plays.
+void PlayAnew(int sound)
+{
+    if (sound == SOUND_NONE)
+        return;
+    SoundStop(sound);
+    SoundPlay(sound, false);
+}
+
+CImage* PressedPicture(const MenuButton& button)
+{
+    return button.pressedImage;
+}
+
+CImage* PressedPicture(const MenuToggle& toggle)
+{
+    return toggle.checkedImage;
+}
+
+/// Lights what the mouse is on. Returns the item hovered, the last of several, after its hover sound when the mouse
+/// has just come onto it; `hoveredId` remembers it between frames.
+template <typename Item>
+Item* Hover(CImage& target, const CMenu& menu, std::span<Item> items, int32_t& hoveredId)
+{
+    Item* hovered = nullptr;
+    for (Item& item : items) {
+        if (!item.isVisible || !item.isEnabled || !IsUnderMouse(menu, item))
+            continue;
+        hovered = &item;
+        const bool isPressed = input.mouseLeftDown && PressedPicture(item) != nullptr;
+        DrawAt(target, menu, item, isPressed ? PressedPicture(item) : item.hoverImage);
+    }
+    const int32_t id = hovered != nullptr ? hovered->id : -1;
+    if (hovered != nullptr && id != hoveredId)
+        PlayAnew(hovered->hoverSound);
+    hoveredId = id;
+    return hovered;
+}
+
+/// Takes the mouse press for the item, so that it acts once.
+template <typename Item>
+bool TakeClick(const Item* hovered)
+{
+    if (hovered == nullptr || !input.mouseLeftDown)
+        return false;
+    PlayAnew(hovered->clickSound);
+    input.mouseLeftDown = false;
+    return true;
+}
+
+} // namespace
+
+void CMenu::MenuProcess(CImage& target)
+{
+    for (MenuButton& button : ItemsOf(buttons, buttonCount))
+        button.clicked = false;
+    for (MenuText& item : ItemsOf(texts, textCount))
+        item.changed = false;
+    if (!isVisible)
+        return;
+    if (background != nullptr)
+        background->Draw(target, x, y);
+    DrawButtons(target);
+    DrawToggles(target);
+    DrawTexts(target);
+    if (!isActive)
+        return;
+    ProcessButtons(target);
+    ProcessToggles(target);
+    ProcessTexts(target);
+}
+
+void CMenu::DrawButtons(CImage& target) const
+{
+    for (const MenuButton& button : ItemsOf(buttons, buttonCount)) {
+        if (button.isVisible)
+            DrawAt(target, *this, button, button.image);
+    }
+}
+
+void CMenu::DrawToggles(CImage& target) const
+{
+    for (const MenuToggle& toggle : ItemsOf(toggles, toggleCount)) {
+        if (toggle.isVisible)
+            DrawAt(target, *this, toggle, toggle.checked && toggle.checkedImage ? toggle.checkedImage : toggle.image);
+    }
+}
+
+void CMenu::ProcessButtons(CImage& target)
+{
+    MenuButton* hovered = Hover(target, *this, ItemsOf(buttons, buttonCount), hoveredButton);
+    if (TakeClick(hovered))
+        hovered->clicked = true;
+}
+
+void CMenu::ProcessToggles(CImage& target)
+{
+    MenuToggle* hovered = Hover(target, *this, ItemsOf(toggles, toggleCount), hoveredToggle);
+    if (!TakeClick(hovered))
+        return;
+    for (MenuToggle& toggle : ItemsOf(toggles, toggleCount)) {
+        if (toggle.group == hovered->group)
+            toggle.checked = false;
+    }
+    hovered->checked = true;
+}

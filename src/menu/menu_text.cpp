@@ -1,0 +1,140 @@
+#include "menu/menu.h"
+
+#include "app/globals.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace
+{
+
+// The cursor shows in the first frames of each period.
+constexpr int CURSOR_PERIOD = 10;
+constexpr int CURSOR_SHOWN = 6;
+
+/// The codes that a key-capture field takes besides letters and the numeric keypad's digits.
+struct NamedKey {
+    int code;
+    const char* name;
+};
+constexpr NamedKey namedKeys[] = {
+    { VK_UP, "Up" },
+    { VK_DOWN, "Down" },
+    { VK_LEFT, "Left" },
+    { VK_RIGHT, "Right" },
+};
+
+bool IsCharacterKey(int key)
+{
+    return (key >= 'A' && key <= 'Z') || (key >= VK_NUMPAD0 && key <= VK_NUMPAD9);
+}
+
+/// Writes the key's name into the field; false for a key that has none, and the text stays.
+bool ShowKey(const MenuText& item, int key)
+{
+    if (IsCharacterKey(key)) {
+        item.text[0] = static_cast<char>(key);
+        item.text[1] = 0;
+        return true;
+    }
+    for (const NamedKey& named : namedKeys) {
+        if (named.code == key) {
+            std::strcpy(item.text.get(), named.name);
+            return true;
+        }
+    }
+    return false;
+}
+
+void CaptureKey(MenuText& item)
+{
+    if (!ShowKey(item, input.lastKeyDown))
+        return;
+    item.key = input.lastKeyDown;
+    item.changed = true;
+    input.lastKeyDown = 0;
+}
+
+bool IsNameCharacter(char c)
+{
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' || c == '_' ||
+           c == '\'' || c == '.';
+}
+
+void DeleteLast(MenuText& item)
+{
+    const size_t length = std::strlen(item.text.get());
+    if (length == 0)
+        return;
+    item.text[length - 1] = 0;
+    item.changed = true;
+    input.lastKeyDown = 0;
+}
+
+/// A full field leaves key and character to others.
+void Append(MenuText& item, char c)
+{
+    const size_t length = std::strlen(item.text.get());
+    if (static_cast<int>(length) >= std::min(item.maxLength, MENU_TEXT_SIZE - 1))
+        return;
+    item.text[length] = c;
+    item.text[length + 1] = 0;
+    item.changed = true;
+    input.lastKeyDown = 0;
+    input.lastChar = 0;
+}
+
+void TypeText(MenuText& item)
+{
+    if (input.lastKeyDown == VK_BACK)
+        DeleteLast(item);
+    else if (IsNameCharacter(input.lastChar) || input.lastKeyDown == VK_SPACE)
+        Append(item, input.lastChar);
+}
+
+} // namespace
+
+POINT CMenu::DrawTextItem(CImage& target, const MenuText& item, uint16_t colour) const
+{
+    const int textWidth = item.font->TextWidth(item.text.get());
+    int left = x + item.x;
+    if (item.align == ALIGN_CENTRE)
+        left += (item.width - textWidth) / 2;
+    else if (item.align != ALIGN_LEFT)
+        left += item.width - textWidth;
+    const int top = y + item.y + (item.height - item.font->height) / 2;
+    item.font->TextDraw(target, left, top, colour, item.text.get());
+    return { left + textWidth, top };
+}
+
+void CMenu::DrawTexts(CImage& target) const
+{
+    for (int i = 0; i < textCount; ++i) {
+        const MenuText& item = texts[i];
+        if (!item.isVisible)
+            continue;
+        if (item.image != nullptr)
+            item.image->Draw(target, x + item.x, y + item.y);
+        if (item.mode != TEXT_ENTRY)
+            ShowKey(item, item.key);
+        if (!item.focused || !isActive)
+            DrawTextItem(target, item, item.colour);
+    }
+}
+
+void CMenu::ProcessTexts(CImage& target)
+{
+    for (int i = 0; i < textCount; ++i) {
+        MenuText& item = texts[i];
+        if (!item.focused || !item.isVisible)
+            continue;
+        if (item.isEnabled && item.mode != TEXT_ENTRY)
+            CaptureKey(item);
+        else if (item.isEnabled)
+            TypeText(item);
+        const POINT end = DrawTextItem(target, item, item.focusColour);
+        if (item.mode == TEXT_ENTRY && cursorBlink % CURSOR_PERIOD < CURSOR_SHOWN)
+            item.font->TextDraw(target, end.x, end.y, item.focusColour, "|");
+        ++cursorBlink;
+    }
+}

@@ -1,0 +1,227 @@
+#include "menu/section_menu.h"
+
+#include "app/globals.h"
+#include "app/log.h"
+#include "app/random.h"
+#include "game/section_main.h"
+#include "gfx/blit.h"
+#include "menu/menu_items.h"
+#include "platform/kernel.h"
+#include "platform/shell.h"
+#include "platform/window.h"
+#include "sound/sound.h"
+
+#include <algorithm>
+#include <initializer_list>
+
+namespace
+{
+
+constexpr DWORD NO_FOCUS_SLEEP_MS = 100;
+constexpr uint32_t STILL_OPACITY = 128; // half brightness
+constexpr int AMBIENCE_FRAMES = 1000;   // each ambience sound comes once in as many frames, on average
+
+void Show(CMenu& page)
+{
+    page.isVisible = true;
+    page.isActive = true;
+}
+
+void Hide(CMenu& page)
+{
+    page.isVisible = false;
+    page.isActive = false;
+}
+
+bool IsOpen(const CMenu& page)
+{
+    return page.isVisible && page.isActive;
+}
+
+}
+
+bool TakeKey(std::initializer_list<int> wanted)
+{
+    if (std::find(wanted.begin(), wanted.end(), input.lastKeyDown) == wanted.end())
+        return false;
+    input.lastKeyDown = 0;
+    return true;
+}
+
+CSectionMenu::~CSectionMenu()
+{
+    UnDataLoad();
+}
+
+bool CSectionMenu::SectionBegin()
+{
+    Show(mainMenu);
+    Hide(optionsMenu);
+    Hide(rankingMenu);
+    for (CMenu& page : helpMenus)
+        Hide(page);
+    if (rankEntryPending != 0)
+        OpenPage(rankingMenu);
+    SetCursor(LoadCursorA(nullptr, IDC_ARROW));
+    SoundPlay(SOUND_MUSIC, true);
+    WriteLog("CSectionMenu::SectionBegin");
+    return true;
+}
+
+bool CSectionMenu::SectionEnd()
+{
+    // The music goes on under the game.
+    for (int id = SOUND_MENU_ENV_FIRST; id <= SOUND_MENU_ENV_LAST; ++id)
+        SoundStop(id);
+    WriteLog("CSectionMenu::SectionEnd");
+    return true;
+}
+
+bool CSectionMenu::SectionProcess()
+{
+    if (!input.hasFocus) {
+        Sleep(NO_FOCUS_SLEEP_MS);
+        return true;
+    }
+    DrawBackground();
+    optionsMenu.MenuProcess(backBuffer);
+    rankingMenu.MenuProcess(backBuffer);
+    for (CMenu& page : helpMenus)
+        page.MenuProcess(backBuffer);
+
+    if (IsOpen(mainMenu) && !MainMenuProcess())
+        return true;
+    if (IsOpen(optionsMenu))
+        OptionsPageProcess();
+    if (IsOpen(rankingMenu))
+        RankingPageProcess();
+    for (int page = 0; page < MENU_HELP_PAGES; ++page) {
+        if (IsOpen(helpMenus[page]))
+            HelpPageProcess(page);
+    }
+    PlayAmbience();
+    return true;
+}
+
+void CSectionMenu::DrawBackground()
+{
+    if (mainMenu.isActive) {
+        mainMenu.MenuProcess(backBuffer);
+        return;
+    }
+    screenCopy.blit = BlitFadeToBlack;
+    screenCopy.opacity = STILL_OPACITY;
+    screenCopy.Draw(backBuffer);
+}
+
+/// False once the window is gone: nothing of the scene may be touched any more in this frame.
+bool CSectionMenu::MainMenuProcess()
+{
+    struct Row {
+        int button;
+        void (CSectionMenu::*act)();
+    };
+    static constexpr Row actions[] = {
+        { BUTTON_HOME_PAGE, &CSectionMenu::OpenHomePage },      { BUTTON_ONE_PLAYER, &CSectionMenu::StartOnePlayer },
+        { BUTTON_TWO_PLAYERS, &CSectionMenu::StartTwoPlayers }, { BUTTON_RANKING, &CSectionMenu::OpenRanking },
+        { BUTTON_OPTIONS, &CSectionMenu::OpenOptions },         { BUTTON_HELP, &CSectionMenu::OpenHelp },
+    };
+
+    const auto isVisible = [](const CMenu& page) { return page.isVisible; };
+    if (std::none_of(std::begin(helpMenus), std::end(helpMenus), isVisible) && TakeKey({ VK_F1 }))
+        mainMenu.FindButton(BUTTON_HELP)->clicked = true;
+    for (const Row& row : actions) {
+        if (mainMenu.FindButton(row.button)->clicked) {
+            (this->*row.act)();
+            return true;
+        }
+    }
+    if (!mainMenu.FindButton(BUTTON_QUIT)->clicked)
+        return true;
+    DestroyWindow(gameWindow);
+    return false;
+}
+
+void CSectionMenu::OpenHomePage()
+{
+    ShowWindow(gameWindow, SW_MINIMIZE);
+    ShellExecuteA(gameWindow, nullptr, HOME_PAGE, nullptr, nullptr, SW_SHOWNORMAL);
+}
+
+void CSectionMenu::StartOnePlayer()
+{
+    StartGame(0);
+}
+
+void CSectionMenu::StartTwoPlayers()
+{
+    StartGame(1);
+}
+
+void CSectionMenu::StartGame(uint32_t secondPlayer)
+{
+    mainMenu.isVisible = false;
+    twoPlayers = secondPlayer;
+    requestedSection = &sectionMain;
+}
+
+void CSectionMenu::OpenRanking()
+{
+    OpenPage(rankingMenu);
+    RankingPageFill();
+    captureScreen = true;
+}
+
+void CSectionMenu::OpenOptions()
+{
+    OpenPage(optionsMenu);
+    OptionsPageOpen();
+    captureScreen = true;
+}
+
+void CSectionMenu::OpenHelp()
+{
+    OpenPage(helpMenus[0]);
+    captureScreen = true;
+}
+
+/// The main menu stays visible, dimmed: a still of the frame that is being drawn.
+void CSectionMenu::OpenPage(CMenu& page)
+{
+    mainMenu.isActive = false;
+    Show(page);
+}
+
+void CSectionMenu::ClosePage(CMenu& page)
+{
+    page.isVisible = false;
+    Show(mainMenu);
+}
+
+void CSectionMenu::HelpPageProcess(int page)
+{
+    const bool leave = TakeKey({ VK_SPACE, VK_RETURN, VK_ESCAPE });
+    for (const HelpButton& row : helpButtons) {
+        if (row.page != page)
+            continue;
+        MenuButton* button = helpMenus[page].FindButton(row.id);
+        if (row.opens == HELP_BACK && leave)
+            button->clicked = true;
+        if (!button->clicked)
+            continue;
+        if (row.opens == HELP_BACK) {
+            ClosePage(helpMenus[page]);
+        } else {
+            helpMenus[page].isVisible = false;
+            Show(helpMenus[row.opens]);
+        }
+        return;
+    }
+}
+
+void CSectionMenu::PlayAmbience()
+{
+    const int id = Random() % AMBIENCE_FRAMES;
+    if (id >= SOUND_MENU_ENV_FIRST && id <= SOUND_MENU_ENV_LAST)
+        SoundPlay(id, false);
+}

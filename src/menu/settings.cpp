@@ -1,0 +1,107 @@
+#include "menu/settings.h"
+
+#include "app/mode_switch.h"
+#include "gfx/display.h"
+#include "menu/section_menu.h"
+#include "platform/registry.h"
+#include "sound/sound.h"
+
+#include <cstdio>
+#include <cstring>
+
+namespace
+{
+
+constexpr char SETTINGS_KEY[] = "Software\\Tervalis";
+
+LONG OpenSettings(HKEY& key)
+{
+    return RegCreateKeyExA(HKEY_CURRENT_USER, SETTINGS_KEY, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_ALL_ACCESS,
+                           nullptr, &key, nullptr);
+}
+
+/// A stored number, whatever its type: its first bytes replace those of the default. A value longer than a number
+/// counts as absent.
+uint32_t ReadNumber(HKEY key, const char* name, uint32_t absent)
+{
+    BYTE bytes[sizeof(uint32_t)];
+    memcpy(bytes, &absent, sizeof bytes);
+    DWORD type = REG_DWORD;
+    DWORD size = sizeof bytes;
+    if (RegQueryValueExA(key, name, nullptr, &type, bytes, &size) != static_cast<LONG>(ERROR_SUCCESS))
+        return absent;
+    uint32_t value;
+    memcpy(&value, bytes, sizeof value);
+    return value;
+}
+
+void WriteNumber(HKEY key, const char* name, uint32_t value)
+{
+    BYTE bytes[sizeof value];
+    memcpy(bytes, &value, sizeof bytes);
+    RegSetValueExA(key, name, 0, REG_DWORD, bytes, sizeof bytes);
+}
+
+/// A stored text, empty when it is absent or does not fit. It is stored without its terminating zero.
+void ReadName(HKEY key, const char* valueName, char (&name)[NAME_BYTES])
+{
+    BYTE bytes[NAME_BYTES] = {};
+    DWORD type = REG_SZ;
+    DWORD size = sizeof bytes;
+    const LONG result = RegQueryValueExA(key, valueName, nullptr, &type, bytes, &size);
+    if (result != static_cast<LONG>(ERROR_SUCCESS) || memchr(bytes, 0, sizeof bytes) == nullptr)
+        bytes[0] = 0;
+    memcpy(name, bytes, sizeof bytes);
+}
+
+void WriteName(HKEY key, const char* valueName, const char* name)
+{
+    RegSetValueExA(key, valueName, 0, REG_SZ, reinterpret_cast<const BYTE*>(name), static_cast<DWORD>(strlen(name)));
+}
+
+/// The value name of a ranking place, counted from 0: "Name 1" to "Name 10".
+struct PlaceName {
+    PlaceName(const char* kind, int place) { snprintf(text, sizeof text, "%s %d", kind, place + 1); }
+    char text[16];
+};
+
+}
+
+void ApplyDisplayMode(bool windowed)
+{
+    if (windowed != isWindowed)
+        SwitchDisplayMode(displayWindow, displayWidth, displayHeight, windowed);
+}
+
+int CSectionMenu::SettingsLoad()
+{
+    HKEY key = nullptr;
+    if (const LONG result = OpenSettings(key); result != static_cast<LONG>(ERROR_SUCCESS))
+        return result;
+    ApplyDisplayMode(ReadNumber(key, "Windowed", 1) != 0);
+    SoundSetMute(ReadNumber(key, "No Sound", 0) != 0 ? 1 : 0);
+    for (size_t i = 0; i < keys.size(); ++i)
+        keys[i] = ReadNumber(key, keyBindings[i].valueName, keyBindings[i].defaultKey);
+    for (int place = 0; place < RANKING_PLACES; ++place)
+        ReadName(key, PlaceName("Name", place).text, rankNames[place]);
+    for (int place = 0; place < RANKING_PLACES; ++place)
+        rankScores[place] = static_cast<int32_t>(ReadNumber(key, PlaceName("Rank", place).text, 0));
+    settingsRead = true;
+    return RegCloseKey(key);
+}
+
+int CSectionMenu::SettingsSave()
+{
+    HKEY key = nullptr;
+    if (const LONG result = OpenSettings(key); result != static_cast<LONG>(ERROR_SUCCESS))
+        return result;
+    WriteNumber(key, "Windowed", isWindowed ? 1 : 0);
+    WriteNumber(key, "No Sound", SoundGetMute() != 0 ? 1 : 0);
+    for (size_t i = 0; i < keys.size(); ++i)
+        WriteNumber(key, keyBindings[i].valueName, keys[i]);
+    for (int place = 0; place < RANKING_PLACES; ++place)
+        WriteName(key, PlaceName("Name", place).text, rankNames[place]);
+    for (int place = 0; place < RANKING_PLACES; ++place)
+        WriteNumber(key, PlaceName("Rank", place).text, static_cast<uint32_t>(rankScores[place]));
+    return RegCloseKey(key);
+}

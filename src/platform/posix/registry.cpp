@@ -1,0 +1,247 @@
+#include "platform/registry.h"
+
+#include "platform/posix/safe_file.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <optional>
+#include <pwd.h>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <toml++/toml.h>
+#include <unistd.h>
+
+/// An open key: the values of its file, and whether they differ from it.
+struct HKEY__ {
+    std::string path;
+    toml::table values;
+    bool changed = false;
+};
+
+namespace
+{
+
+constexpr size_t MAX_FILE_BYTES = 1 << 20; // a hundred times what the game stores
+constexpr char HEX_DIGITS[] = "0123456789abcdef";
+
+struct Value {
+    DWORD type;
+    std::string bytes;
+};
+
+LONG Code(DWORD code)
+{
+    return static_cast<LONG>(code);
+}
+
+bool IsOpenKey(HKEY key)
+{
+    return key != nullptr && key != HKEY_CURRENT_USER;
+}
+
+bool IsAbsolute(const char* path)
+{
+    return path != nullptr && path[0] == '/';
+}
+
+/// Where programs of this user keep their settings; empty when the user has no home.
+std::string ConfigFolder()
+{
+    if (const char* folder = getenv("XDG_CONFIG_HOME"); IsAbsolute(folder))
+        return folder;
+    const char* home = getenv("HOME");
+    if (!IsAbsolute(home)) {
+        const passwd* user = getpwuid(getuid());
+        home = user != nullptr ? user->pw_dir : nullptr;
+    }
+    return IsAbsolute(home) ? std::string(home) + "/.config" : "";
+}
+
+/// The folder of a key's file: "Software\Tervalis" lies in "Tervalis". Empty when there is none.
+std::string KeyFolder(LPCSTR subKey)
+{
+    std::string_view name = subKey != nullptr ? subKey : "";
+    name.remove_prefix(name.find_last_of("\\/") + 1); // nothing found is -1
+    const std::string config = ConfigFolder();
+    if (config.empty() || name.empty() || name == "." || name == "..")
+        return "";
+    return config + "/" + std::string(name);
+}
+
+std::string Format(const toml::table& table)
+{
+    // Neither literal nor multi-line strings: both drop bytes.
+    constexpr auto flags = toml::format_flags::allow_unicode_strings | toml::format_flags::allow_binary_integers |
+                           toml::format_flags::allow_octal_integers | toml::format_flags::allow_hexadecimal_integers;
+    std::ostringstream text;
+    text << toml::toml_formatter(table, flags) << "\n";
+    return text.str();
+}
+
+std::optional<toml::table> Parse(std::string_view text)
+{
+    try {
+        return toml::parse(text);
+    } catch (const std::exception&) {
+        return std::nullopt;
+    }
+}
+
+/// Whether a string comes back from a file byte for byte.
+bool SurvivesAsText(const std::string& bytes)
+{
+    const auto copy = Parse(Format(toml::table{ { "value", bytes } }));
+    return copy && (*copy)["value"].value_exact<std::string>() == bytes;
+}
+
+std::string ToHex(std::string_view bytes)
+{
+    std::string hex;
+    for (const char c : bytes) {
+        hex += HEX_DIGITS[static_cast<uint8_t>(c) >> 4];
+        hex += HEX_DIGITS[static_cast<uint8_t>(c) & 15];
+    }
+    return hex;
+}
+
+std::optional<std::string> FromHex(const std::string& hex)
+{
+    if (hex.size() % 2 != 0 || hex.find_first_not_of(HEX_DIGITS) != std::string::npos)
+        return std::nullopt;
+    std::string bytes;
+    for (size_t i = 0; i < hex.size(); i += 2) {
+        const size_t high = std::string_view(HEX_DIGITS).find(hex[i]);
+        const size_t low = std::string_view(HEX_DIGITS).find(hex[i + 1]);
+        bytes += static_cast<char>(high << 4 | low);
+    }
+    return bytes;
+}
+
+std::string NumberBytes(DWORD number)
+{
+    std::string bytes(sizeof number, '\0');
+    memcpy(bytes.data(), &number, sizeof number);
+    return bytes;
+}
+
+/// Numbers and texts are TOML's own. What these cannot hold is { type = 1, hex = "0a41" }.
+void Store(toml::table& values, std::string_view name, const Value& value)
+{
+    if (value.type == REG_DWORD && value.bytes.size() == sizeof(DWORD)) {
+        DWORD number;
+        memcpy(&number, value.bytes.data(), sizeof number);
+        values.insert_or_assign(name, static_cast<int64_t>(number));
+    } else if (value.type == REG_SZ && SurvivesAsText(value.bytes)) {
+        values.insert_or_assign(name, value.bytes);
+    } else {
+        toml::table encoded{ { "type", static_cast<int64_t>(value.type) }, { "hex", ToHex(value.bytes) } };
+        encoded.is_inline(true);
+        values.insert_or_assign(name, std::move(encoded));
+    }
+}
+
+std::optional<DWORD> AsNumber(const toml::node* node)
+{
+    const auto number = node != nullptr ? node->value_exact<int64_t>() : std::nullopt;
+    if (!number || *number < 0 || *number > UINT32_MAX)
+        return std::nullopt;
+    return static_cast<DWORD>(*number);
+}
+
+/// Nothing for a missing value and for what a hand may have written there: a fraction, a list, a number out of range.
+std::optional<Value> Fetch(const toml::table& values, std::string_view name)
+{
+    const toml::node* node = values.get(name);
+    if (node == nullptr)
+        return std::nullopt;
+    if (const auto number = AsNumber(node))
+        return Value{ REG_DWORD, NumberBytes(*number) };
+    if (const auto text = node->value_exact<std::string>())
+        return Value{ REG_SZ, *text };
+    const toml::table* encoded = node->as_table();
+    if (encoded == nullptr)
+        return std::nullopt;
+    const auto type = AsNumber(encoded->get("type"));
+    const auto hex = (*encoded)["hex"].value_exact<std::string>();
+    const auto bytes = hex ? FromHex(*hex) : std::nullopt;
+    if (!type || !bytes)
+        return std::nullopt;
+    return Value{ *type, *bytes };
+}
+
+/// A missing file has no values. A damaged one is set aside for its owner; one that cannot be read, or cannot be set
+/// aside, is an error, so that no save replaces it.
+LONG LoadValues(const std::string& path, toml::table& values)
+{
+    std::string text;
+    const LONG result = ReadSmallFile(path, MAX_FILE_BYTES + 1, text);
+    if (result == Code(ERROR_FILE_NOT_FOUND))
+        return Code(ERROR_SUCCESS);
+    if (result != Code(ERROR_SUCCESS))
+        return result;
+    auto parsed = text.size() <= MAX_FILE_BYTES ? Parse(text) : std::nullopt;
+    if (!parsed)
+        return SetFileAside(path);
+    values = std::move(*parsed);
+    return Code(ERROR_SUCCESS);
+}
+
+}
+
+LONG RegCreateKeyExA(HKEY parent, LPCSTR subKey, DWORD, LPSTR, DWORD, DWORD, SECURITY_ATTRIBUTES*, HKEY* key, DWORD*)
+{
+    if (parent != HKEY_CURRENT_USER || key == nullptr)
+        return Code(ERROR_INVALID_HANDLE);
+    const std::string folder = KeyFolder(subKey);
+    if (folder.empty())
+        return Code(ERROR_FILE_NOT_FOUND);
+    if (const LONG result = MakeFolders(folder); result != Code(ERROR_SUCCESS))
+        return result;
+    auto opened = std::make_unique<HKEY__>();
+    opened->path = folder + "/settings.toml";
+    if (const LONG result = LoadValues(opened->path, opened->values); result != Code(ERROR_SUCCESS))
+        return result;
+    *key = opened.release();
+    return Code(ERROR_SUCCESS);
+}
+
+LONG RegQueryValueExA(HKEY key, LPCSTR name, DWORD*, DWORD* type, BYTE* data, DWORD* size)
+{
+    if (!IsOpenKey(key) || (data != nullptr && size == nullptr))
+        return Code(ERROR_INVALID_HANDLE);
+    const auto value = Fetch(key->values, name != nullptr ? name : "");
+    if (!value)
+        return Code(ERROR_FILE_NOT_FOUND);
+    if (type != nullptr)
+        *type = value->type;
+    if (size == nullptr)
+        return Code(ERROR_SUCCESS);
+    const DWORD room = *size;
+    *size = static_cast<DWORD>(value->bytes.size());
+    if (data == nullptr)
+        return Code(ERROR_SUCCESS);
+    if (room < *size)
+        return Code(ERROR_MORE_DATA);
+    memcpy(data, value->bytes.data(), value->bytes.size());
+    return Code(ERROR_SUCCESS);
+}
+
+LONG RegSetValueExA(HKEY key, LPCSTR name, DWORD, DWORD type, const BYTE* data, DWORD size)
+{
+    if (!IsOpenKey(key) || (data == nullptr && size != 0))
+        return Code(ERROR_INVALID_HANDLE);
+    const std::string bytes = size != 0 ? std::string(reinterpret_cast<const char*>(data), size) : "";
+    Store(key->values, name != nullptr ? name : "", Value{ type, bytes });
+    key->changed = true;
+    return Code(ERROR_SUCCESS);
+}
+
+LONG RegCloseKey(HKEY key)
+{
+    if (!IsOpenKey(key))
+        return Code(ERROR_INVALID_HANDLE);
+    const std::unique_ptr<HKEY__> closing(key);
+    return closing->changed ? ReplaceSmallFile(closing->path, Format(closing->values)) : Code(ERROR_SUCCESS);
+}

@@ -1,0 +1,173 @@
+#include "platform/posix/safe_file.h"
+
+#include "platform/kernel.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <memory>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+
+constexpr mode_t USER_FILE = 0600;
+constexpr mode_t USER_FOLDER = 0700;
+constexpr int ASIDE_NAMES = 1000;
+
+/// An open file, closed at the end of its scope.
+struct Descriptor {
+    explicit Descriptor(int opened) : fd(opened) {}
+    ~Descriptor()
+    {
+        if (fd >= 0)
+            close(fd);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    int fd;
+};
+
+LONG Code(DWORD code)
+{
+    return static_cast<LONG>(code);
+}
+
+/// What `errno` is among the system's error codes.
+LONG LastCode(DWORD otherwise)
+{
+    switch (errno) {
+    case ENOENT:
+        return Code(ERROR_FILE_NOT_FOUND);
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return Code(ERROR_ACCESS_DENIED);
+    default:
+        return Code(otherwise);
+    }
+}
+
+/// The file itself where `path` is a link to one.
+std::string ResolveLink(const std::string& path)
+{
+    const std::unique_ptr<char, decltype(&free)> resolved(realpath(path.c_str(), nullptr), free);
+    return resolved ? resolved.get() : path;
+}
+
+std::string FolderOf(const std::string& path)
+{
+    const size_t slash = path.rfind('/');
+    return slash == std::string::npos ? "." : path.substr(0, slash + 1);
+}
+
+bool WriteAll(int fd, const std::string& content)
+{
+    size_t done = 0;
+    while (done < content.size()) {
+        const ssize_t count = write(fd, content.data() + done, content.size() - done);
+        if (count < 0 && errno != EINTR)
+            return false;
+        done += count > 0 ? static_cast<size_t>(count) : 0;
+    }
+    return true;
+}
+
+/// A new file with that content, on the disk when the call returns.
+LONG WriteNewFile(const std::string& path, const std::string& content)
+{
+    const Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, USER_FILE));
+    if (file.fd < 0 || !WriteAll(file.fd, content) || fsync(file.fd) != 0)
+        return LastCode(ERROR_WRITE_FAULT);
+    return Code(ERROR_SUCCESS);
+}
+
+}
+
+LONG ReadSmallFile(const std::string& path, size_t limit, std::string& content)
+{
+    // Without O_NONBLOCK a pipe in the file's place would stop the program here.
+    const Descriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    struct stat status = {};
+    if (file.fd < 0 || fstat(file.fd, &status) != 0)
+        return LastCode(ERROR_READ_FAULT);
+    if (!S_ISREG(status.st_mode))
+        return Code(ERROR_READ_FAULT);
+    content.resize(limit);
+    size_t size = 0;
+    while (size < limit) {
+        const ssize_t count = read(file.fd, content.data() + size, limit - size);
+        if (count == 0)
+            break;
+        if (count < 0 && errno != EINTR)
+            return LastCode(ERROR_READ_FAULT);
+        size += count > 0 ? static_cast<size_t>(count) : 0;
+    }
+    content.resize(size);
+    return Code(ERROR_SUCCESS);
+}
+
+LONG ReplaceSmallFile(const std::string& path, const std::string& content)
+{
+    const std::string target = ResolveLink(path);
+    if (access(target.c_str(), W_OK) != 0 && errno != ENOENT)
+        return LastCode(ERROR_WRITE_FAULT); // renaming would replace a write-protected file all the same
+    const Descriptor folder(open(FolderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (folder.fd < 0)
+        return LastCode(ERROR_WRITE_FAULT);
+    // One writer at a time, where folders can be locked. The system drops the lock of a program that dies.
+    flock(folder.fd, LOCK_EX);
+
+    const std::string draft = target + ".tmp";
+    unlink(draft.c_str()); // left by a program that died while it saved
+    LONG result = WriteNewFile(draft, content);
+    if (result == Code(ERROR_SUCCESS) && rename(draft.c_str(), target.c_str()) != 0)
+        result = LastCode(ERROR_WRITE_FAULT);
+    if (result != Code(ERROR_SUCCESS)) {
+        unlink(draft.c_str());
+        return result;
+    }
+    // Some file systems have nothing to flush for a folder and say so.
+    if (fsync(folder.fd) != 0 && errno != EINVAL)
+        return LastCode(ERROR_WRITE_FAULT);
+    return Code(ERROR_SUCCESS);
+}
+
+LONG SetFileAside(const std::string& path)
+{
+    for (int number = 1; number <= ASIDE_NAMES; ++number) {
+        const std::string aside = path + ".damaged" + (number == 1 ? "" : "." + std::to_string(number));
+        // Making the name first, and only if it is new, keeps rename() from replacing what was set aside before.
+        const Descriptor reserved(open(aside.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, USER_FILE));
+        if (reserved.fd < 0 && errno == EEXIST)
+            continue;
+        if (reserved.fd < 0)
+            return LastCode(ERROR_ACCESS_DENIED);
+        if (rename(path.c_str(), aside.c_str()) == 0)
+            return Code(ERROR_SUCCESS);
+        const LONG result = LastCode(ERROR_ACCESS_DENIED);
+        unlink(aside.c_str());
+        return result;
+    }
+    return Code(ERROR_ALREADY_EXISTS);
+}
+
+LONG MakeFolders(const std::string& path)
+{
+    for (size_t slash = path.find('/', 1);; slash = path.find('/', slash + 1)) {
+        const std::string folder = path.substr(0, slash);
+        if (mkdir(folder.c_str(), USER_FOLDER) != 0 && errno != EEXIST) {
+            const int error = errno;
+            struct stat status = {};
+            if (stat(folder.c_str(), &status) != 0) { // an existing folder of a read-only disk is not an error
+                errno = error;
+                return LastCode(ERROR_ACCESS_DENIED);
+            }
+        }
+        if (slash == std::string::npos)
+            return Code(ERROR_SUCCESS);
+    }
+}

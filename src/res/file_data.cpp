@@ -1,0 +1,78 @@
+#include "res/file_data.h"
+
+#include "gfx/error.h"
+#include "platform/kernel.h"
+#include "res/pack_file.h"
+
+#include <new>
+
+namespace
+{
+/// Far more than any picture needs: a damaged pack must not ask for gigabytes.
+constexpr uint32_t MAX_FILE_BYTES = 256u << 20;
+
+/// A file on disk, closed when it goes out of scope.
+struct LooseFile {
+    explicit LooseFile(const char* path)
+        : handle(
+              CreateFileA(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr))
+    {
+    }
+    ~LooseFile()
+    {
+        if (IsOpen())
+            CloseHandle(handle);
+    }
+    LooseFile(const LooseFile&) = delete;
+    LooseFile& operator=(const LooseFile&) = delete;
+
+    bool IsOpen() const { return handle != INVALID_HANDLE_VALUE; }
+
+    HANDLE handle;
+};
+
+void SeekTo(HANDLE file, uint32_t position)
+{
+    LONG high = 0; // with it the position counts as unsigned
+    SetFilePointer(file, static_cast<LONG>(position), &high, FILE_BEGIN);
+}
+}
+
+bool CFileData::Load(const char* path)
+{
+    const LooseFile loose(path);
+    if (loose.IsOpen())
+        return ReadFrom(loose.handle, 0, GetFileSize(loose.handle, nullptr));
+
+    const CPackFile& pack = packTable[0];
+    const PackEntry* entry = pack.Find(HashMember(path));
+    if (!entry)
+        return FailWith(ENGINE_LOAD_FILE);
+    SeekTo(pack.handle, entry->offset);
+    return ReadFrom(pack.handle, entry->offset, entry->size);
+}
+
+bool CFileData::ReadFrom(HANDLE file, uint32_t memberOffset, uint32_t memberSize)
+{
+    Free();
+    // Zeros stand for what a file that is cut short lacks.
+    if (memberSize <= MAX_FILE_BYTES)
+        data.reset(new (std::nothrow) uint8_t[memberSize]());
+    if (!data)
+        return FailWith(ENGINE_ALLOCATE_MEMORY);
+    DWORD bytesRead = 0;
+    if (!ReadFile(file, data.get(), memberSize, &bytesRead, nullptr)) {
+        Free();
+        return FailWith(ENGINE_READ_FILE);
+    }
+    offset = memberOffset;
+    size = memberSize;
+    return true;
+}
+
+void CFileData::Free()
+{
+    data.reset();
+    offset = 0;
+    size = 0;
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "support/temp_folder.h"
+
+/// A current folder of its own with a plain grey stand-in, of the right size, for every picture that the pond, the
+/// snakes and the status bar load. So their tests need no artwork and do not change with it.
+class TestPictures
+{
+public:
+    TestPictures();
+
+    TempFolder folder;
+};
