@@ -1,0 +1,195 @@
+#include "game/pond_fixture.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace
+{
+using PondCells = PondTest;
+
+struct SearchCase {
+    std::vector<int> freeCells;
+    int start;
+    int chosen;
+    const char* why;
+};
+
+TEST_F(PondCells, SearchBerryCellUpwardFarFromTheHead)
+{
+    constexpr int head = 15 * CELL_COLUMNS + 15;
+    PlaceHead(0, 15 * CELL_SIZE, 15 * CELL_SIZE);
+    const SearchCase cases[] = {
+        { { 7, 40, 800 }, 20, 40, "the next one up" },
+        { { 3, 800 }, 850, 3, "wraps around at the end" },
+        { { head + 6, head + 7 }, head, head + 7, "6 columns away is near" },
+        { { head - 6 * CELL_COLUMNS, head - 7 * CELL_COLUMNS }, 0, head - 7 * CELL_COLUMNS, "7 rows away is far" },
+        { { head }, 123, 123, "none: the start is taken" },
+    };
+    for (const SearchCase& search : cases) {
+        for (Cell& cell : pond.cells)
+            cell.occupied = true;
+        for (const int cell : search.freeCells)
+            pond.cells[cell].occupied = false;
+        pond.cells[search.chosen].growth = 0;
+        pond.PlaceBerry(GREEN, search.start);
+        EXPECT_EQ(pond.cells[search.chosen].growth, 28) << search.why;
+    }
+}
+
+TEST_F(PondCells, KeepBerriesOffTheOtherPlayersSnake)
+{
+    StartGame(1);
+    PlaceHead(1, 0, 0);
+    pond.snake[1].length = 2;
+    pond.snake[1].segments[1] = { 9 * CELL_SIZE, 0, 0 };
+    pond.PlaceBerry(RED, 0);
+    EXPECT_EQ(pond.cells[7].growth, 28) << "columns 0 to 6 are near the head";
+    pond.PlaceBerry(RED, 8);
+    pond.PlaceBerry(RED, 9);
+    EXPECT_EQ(pond.cells[10].growth, 28) << "a segment lies in column 9";
+}
+
+TEST_F(PondCells, DrawColourThenCell)
+{
+    SeedRandom(5);
+    const int colour = Random() % 5;
+    const int cell = Random() % 900;
+    const uint32_t after = RandomState();
+    SeedRandom(5);
+    pond.PlaceBerry(RANDOM, RANDOM);
+    EXPECT_EQ(pond.cells[cell].growth, 28);
+    EXPECT_EQ(pond.cells[cell].colour, colour);
+    EXPECT_EQ(RandomState(), after);
+}
+
+/// What the head makes of one berry beside it, for the eight places around it, row by row.
+struct LookRow {
+    int heading;
+    int eyeFrames[9];
+};
+struct LookCase {
+    int heading;
+    int head; ///< cell
+    std::vector<int> berries;
+    int eyeFrame;
+    const char* why;
+};
+
+TEST_F(PondCells, LookAtBerriesBesideTheHead)
+{
+    constexpr int head = 10 * CELL_COLUMNS + 10;
+    constexpr LookRow rows[] = {
+        { HEADING_LEFT, { 4, 5, 0, 0, 0, 0, 2, 3, 0 } },
+        { HEADING_UP, { 2, 0, 4, 3, 0, 5, 0, 0, 0 } },
+        { HEADING_RIGHT, { 0, 3, 2, 0, 0, 0, 0, 5, 4 } },
+        { HEADING_DOWN, { 0, 0, 0, 5, 0, 3, 4, 0, 2 } },
+        { 13, { 0, 0, 0, 0, 0, 0, 0, 0, 0 } },
+    };
+    std::vector<LookCase> cases = {
+        { HEADING_LEFT, head, { head - 30, head + 29 }, 2, "the first test that holds counts" },
+        { HEADING_DOWN, head, { head - 1, head + 1 }, 5, "down looks at its right side first" },
+        { HEADING_UP, 10 * 30, { 10 * 30 - 1, 9 * 30 - 1 }, 0, "not around the left edge" },
+        { HEADING_DOWN, 10 * 30 + 29, { 11 * 30, 12 * 30 }, 0, "not around the right edge" },
+        { HEADING_LEFT, 5, { 35 }, 3, "top row" },
+        { HEADING_LEFT, 29 * 30 + 5, { 28 * 30 + 4 }, 4, "bottom row" },
+    };
+    for (const LookRow& row : rows)
+        for (int i = 0; i < 9; ++i)
+            if (i != 4)
+                cases.push_back({ row.heading, head, { head + (i / 3 - 1) * 30 + i % 3 - 1 }, row.eyeFrames[i], "" });
+    for (const LookCase& look : cases) {
+        pond.NewGame(0, KEYS, KEYS + 4);
+        for (const int cell : look.berries)
+            MakeRipe(pond.cells[cell], RED);
+        int colour = -1;
+        int eyeFrame = -1;
+        EXPECT_FALSE(pond.EatAt(pond.cells[look.head].x, pond.cells[look.head].y, colour, look.heading, eyeFrame));
+        EXPECT_EQ(eyeFrame, look.eyeFrame) << look.heading << " at " << look.berries[0] - look.head << look.why;
+    }
+}
+
+TEST_F(PondCells, FeedRipeBerriesOnly)
+{
+    int colour = -1;
+    int eyeFrame = -1;
+    pond.PlaceBerry(RED, 95);
+    MakeStone(pond.cells[96]);
+    EXPECT_FALSE(pond.EatAt(pond.cells[95].x, pond.cells[95].y, colour, HEADING_UP, eyeFrame));
+    EXPECT_FALSE(pond.EatAt(pond.cells[96].x, pond.cells[96].y, colour, HEADING_UP, eyeFrame));
+    MakeRipe(pond.cells[97], GOLDEN);
+    EXPECT_TRUE(pond.EatAt(pond.cells[97].x, pond.cells[97].y, colour, HEADING_UP, eyeFrame));
+    EXPECT_EQ(colour, GOLDEN);
+    EXPECT_EQ(eyeFrame, 1);
+    EXPECT_EQ(std::ranges::count(pond.cells, 28, &Cell::growth), 2) << "a new berry takes its place";
+    EXPECT_FALSE(pond.EatAt(240, POND_SIZE, colour, HEADING_UP, eyeFrame)) << "the head is still below the pond";
+}
+
+struct HighlightCase {
+    int eaten; ///< cell
+    int colour;
+    std::vector<int32_t> left;
+};
+
+TEST_F(PondCells, HighlightTheFirstFiveBerriesUntilOneThatIsNotBlueIsEaten)
+{
+    const HighlightCase cases[] = {
+        { 102, BLUE, { 100, 101, -1, 103, 104 } },
+        { 105, BLUE, { -1, -1, -1, -1, -1 } },
+        { 102, RED, { -1, -1, -1, -1, -1 } },
+        { 105, GOLDEN, { -1, -1, -1, -1, -1 } },
+    };
+    for (const HighlightCase& given : cases) {
+        StartGame(0);
+        for (int cell = 100; cell <= 105; ++cell)
+            pond.PlaceBerry(BLUE, cell);
+        MakeRipe(pond.cells[given.eaten], given.colour);
+        int colour = -1;
+        int eyeFrame = -1;
+        pond.EatAt(pond.cells[given.eaten].x, pond.cells[given.eaten].y, colour, HEADING_UP, eyeFrame);
+        EXPECT_EQ(std::vector(std::begin(pond.highlight), std::end(pond.highlight)), given.left);
+    }
+}
+
+TEST_F(PondCells, FadeTheOldestStonesFirst)
+{
+    for (const int cell : { 500, 20, 300 })
+        MakeStone(pond.cells[cell]);
+    pond.cells[600].age = 9;
+    pond.PlaceBerry(RED, 600); // still growing, and older stones than it may follow
+    MakeStone(pond.cells[700]);
+    EXPECT_EQ(pond.cells[700].age, 10);
+
+    pond.FadeStones(0);
+    EXPECT_EQ(pond.CountStones(), 4);
+    pond.FadeStones(1);
+    EXPECT_TRUE(pond.cells[500].IsRipeBerry());
+    EXPECT_FALSE(pond.cells[500].splashed);
+    pond.cells[20].age = pond.cells[300].age;
+    pond.FadeStones(1);
+    EXPECT_TRUE(pond.cells[20].IsRipeBerry()) << "the lower cell wins a tie";
+    const uint32_t before = RandomState();
+    pond.FadeStones(5);
+    EXPECT_EQ(pond.CountStones(), 0);
+    EXPECT_EQ(pond.cells[600].growth, 28) << "growing berries are no stones";
+    SeedRandom(before);
+    EXPECT_EQ(pond.cells[300].colour, Random() % 5);
+    EXPECT_EQ(pond.cells[700].colour, Random() % 5) << "one number for each stone";
+}
+
+TEST_F(PondCells, CountSegmentsAndStonesAsOccupants)
+{
+    StartGame(1);
+    PlaceHead(0, 64, 64);
+    Cell& cell = CellIn(4, 4);
+    EXPECT_FALSE(pond.IsOccupied(64, 64)) << "the head alone";
+    MakeRipe(cell, RED);
+    EXPECT_FALSE(pond.IsOccupied(64, 64)) << "a berry does not count";
+    MakeStone(cell);
+    EXPECT_TRUE(pond.IsOccupied(64, 64));
+    cell.occupied = false;
+    PlaceHead(1, 70, 79);
+    EXPECT_TRUE(pond.IsOccupied(64, 64)) << "the other snake's head is in the cell";
+    pond.players = 0;
+    EXPECT_FALSE(pond.IsOccupied(64, 64)) << "that snake is not in play";
+}
+}
