@@ -88,8 +88,10 @@ TEST_F(SectionMenuTest, EachMainButtonDoesItsOwnThing)
                                         { BUTTON_OPTIONS, "options" },
                                         { BUTTON_HELP, "help1" },
                                         { BUTTON_HOME_PAGE, "main" } }) {
+        screenCopy.Fill(0);
         Click(menu.mainMenu, MainButton(button));
         EXPECT_EQ(OpenPages(), page);
+        EXPECT_EQ(screenCopy.Row(0)[0] != 0, button != BUTTON_HOME_PAGE) << "a still behind " << page;
         Press(VK_ESCAPE);
         EXPECT_EQ(OpenPages(), "main");
     }
