@@ -73,6 +73,9 @@ const Routine routines[] = {
     { "FadeToBlack", BlitFadeToBlack, [](const Pixel& p) { return Blend(p.source, 0, (256 - p.opacity) / 8, 32); } },
 };
 
+/// The ends of the routines' steps among others.
+constexpr uint32_t opacities[] = { 0, 7, 8, 60, 133, 248, 249, 255 };
+
 class Random
 {
 public:
@@ -156,7 +159,7 @@ TEST(Blits, EqualPlainReferencesAtRandomSizesAndClips)
         source.x = random(-8, 8);
         source.y = random(-4, 4);
         source.width = random(1, source.width); // as a draw limited to some columns
-        source.opacity = static_cast<uint32_t>(random(0, 255));
+        source.opacity = opacities[random(0, 7)];
 
         const std::vector<uint16_t> expected = Expected(routine, parent, target, source);
         routine.blit(target, source);
