@@ -4,19 +4,23 @@
 #include "app/random.h"
 #include "game/geometry.h"
 #include "game/water.h"
-#include "platform/fake_platform.h"
 
-void GameFixture::SetUp()
+bool PrepareGlobals()
 {
-    ASSERT_TRUE(backBuffer.Create(SCREEN_WIDTH, SCREEN_HEIGHT));
-    ASSERT_TRUE(pondImage.Create(POND_SIZE, POND_SIZE));
-    ASSERT_TRUE(screenCopy.Create(SCREEN_WIDTH, SCREEN_HEIGHT));
-    ASSERT_TRUE(waterBufferA.Create(POND_SIZE, POND_SIZE));
-    ASSERT_TRUE(waterBufferB.Create(POND_SIZE, POND_SIZE));
+    const bool made = backBuffer.Create(SCREEN_WIDTH, SCREEN_HEIGHT) && pondImage.Create(POND_SIZE, POND_SIZE) &&
+                      screenCopy.Create(SCREEN_WIDTH, SCREEN_HEIGHT) && waterBufferA.Create(POND_SIZE, POND_SIZE) &&
+                      waterBufferB.Create(POND_SIZE, POND_SIZE);
+    if (!made)
+        return false;
     WaterInit(waterBufferA, waterBufferB, 5, 3);
     input = InputState{};
     captureScreen = false;
     requestedSection = nullptr;
     SeedRandom(1);
-    fake.Reset();
+    return true;
+}
+
+void GameFixture::SetUp()
+{
+    ASSERT_TRUE(PrepareGlobals());
 }

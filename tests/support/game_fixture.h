@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
-/// A test that needs the global images (screen, pond, water) as CGame::Create makes them, calm water, no input and a
-/// fixed random seed. No window.
+/// Makes the global images (screen, pond, water) as CGame::Create does, calm water, no input and a fixed random seed.
+/// False when memory runs out.
+bool PrepareGlobals();
+
+/// A test that needs these. No window.
 class GameFixture : public testing::Test
 {
 protected:

@@ -1,0 +1,124 @@
+#include "platform/posix/font_face.h"
+
+#include <cmath>
+#include <fontconfig/fontconfig.h>
+#include <ft2build.h>
+#include FT_FREETYPE_H
+#include FT_TRUETYPE_TABLES_H
+
+namespace
+{
+
+struct PatternDeleter {
+    void operator()(FcPattern* pattern) const { FcPatternDestroy(pattern); }
+};
+struct FontSetDeleter {
+    void operator()(FcFontSet* fonts) const { FcFontSetDestroy(fonts); }
+};
+using PatternHandle = std::unique_ptr<FcPattern, PatternDeleter>;
+using FontSetHandle = std::unique_ptr<FcFontSet, FontSetDeleter>;
+
+/// Every installed face, the nearest relative first.
+FontSetHandle SortedFaces(const char* family, int weight)
+{
+    const PatternHandle pattern(FcPatternCreate());
+    FcPatternAddString(pattern.get(), FC_FAMILY, reinterpret_cast<const FcChar8*>(family));
+    FcPatternAddInteger(pattern.get(), FC_WEIGHT, FcWeightFromOpenType(weight));
+    FcPatternAddBool(pattern.get(), FC_SCALABLE, FcTrue);
+    FcConfigSubstitute(nullptr, pattern.get(), FcMatchPattern);
+    FcDefaultSubstitute(pattern.get());
+    FcResult result = FcResultMatch;
+    return FontSetHandle(FcFontSort(nullptr, pattern.get(), FcFalse, nullptr, &result));
+}
+
+/// The cell and the average character, in the face's own units.
+struct FaceUnits {
+    int ascent;
+    int descent;
+    int averageWidth;
+};
+
+FaceUnits UnitsOf(FT_Face face)
+{
+    const auto* os2 = static_cast<const TT_OS2*>(FT_Get_Sfnt_Table(face, FT_SFNT_OS2));
+    if (os2 != nullptr && os2->usWinAscent + os2->usWinDescent > 0 && os2->xAvgCharWidth > 0)
+        return { os2->usWinAscent, os2->usWinDescent, os2->xAvgCharWidth };
+    return { face->ascender, -face->descender, face->max_advance_width / 2 };
+}
+
+FT_F26Dot6 ToFixed(double pixels)
+{
+    return std::lround(pixels * 64);
+}
+
+} // namespace
+
+void FontFace::LibraryDeleter::operator()(FT_LibraryRec_* library) const
+{
+    FT_Done_FreeType(library);
+}
+
+void FontFace::FaceDeleter::operator()(FT_FaceRec_* face) const
+{
+    FT_Done_Face(face);
+}
+
+std::unique_ptr<FontFace> FontFace::Find(const char* family, int weight, int height, int width)
+{
+    if (!FcInit())
+        return nullptr;
+    const FontSetHandle faces = SortedFaces(family, weight);
+    for (int i = 0; faces != nullptr && i < faces->nfont; ++i) {
+        FcChar8* path = nullptr;
+        int index = 0;
+        if (FcPatternGetString(faces->fonts[i], FC_FILE, 0, &path) != FcResultMatch)
+            continue;
+        FcPatternGetInteger(faces->fonts[i], FC_INDEX, 0, &index);
+        auto found = std::make_unique<FontFace>();
+        if (found->Open(reinterpret_cast<const char*>(path), index) && found->Scale(height, width))
+            return found;
+    }
+    return nullptr;
+}
+
+/// False for a file that is missing, damaged or has no Latin letters.
+bool FontFace::Open(const char* path, int index)
+{
+    FT_Library newLibrary = nullptr;
+    if (FT_Init_FreeType(&newLibrary) != 0)
+        return false;
+    library.reset(newLibrary);
+    FT_Face newFace = nullptr;
+    if (FT_New_Face(newLibrary, path, index, &newFace) != 0)
+        return false;
+    face.reset(newFace);
+    return FT_IS_SCALABLE(newFace) && FT_Select_Charmap(newFace, FT_ENCODING_UNICODE) == 0 &&
+           FT_Get_Char_Index(newFace, 'A') != 0 && FT_Get_Char_Index(newFace, '0') != 0;
+}
+
+bool FontFace::Scale(int cellHeight, int width)
+{
+    const FaceUnits units = UnitsOf(face.get());
+    const int cell = units.ascent + units.descent;
+    if (cell <= 0 || units.averageWidth <= 0)
+        return false;
+    const double em = face->units_per_EM;
+    const double pixelsPerEmY = std::round(cellHeight * em / cell);
+    const double pixelsPerEmX = width > 0 ? width * em / units.averageWidth : pixelsPerEmY;
+    constexpr FT_UInt POINTS_PER_INCH = 72; // so that a point is a pixel
+    if (FT_Set_Char_Size(face.get(), ToFixed(pixelsPerEmX), ToFixed(pixelsPerEmY), POINTS_PER_INCH, POINTS_PER_INCH) !=
+        0)
+        return false;
+    height = cellHeight;
+    ascent = static_cast<int>(std::lround(cellHeight * static_cast<double>(units.ascent) / cell));
+    averageWidth = static_cast<int>(std::lround(units.averageWidth * pixelsPerEmX / em));
+    return true;
+}
+
+const FT_GlyphSlotRec_* FontFace::Render(uint32_t unicode)
+{
+    constexpr FT_Int32 flags = FT_LOAD_RENDER | FT_LOAD_NO_BITMAP | FT_LOAD_TARGET_LIGHT;
+    if (FT_Load_Char(face.get(), unicode, flags) != 0 || face->glyph->bitmap.pixel_mode != FT_PIXEL_MODE_GRAY)
+        return nullptr;
+    return face->glyph;
+}

@@ -1,0 +1,91 @@
+#include "platform/sdl/events.h"
+
+#include "platform/sdl/keyboard.h"
+#include "platform/sdl/messages.h"
+#include "platform/sdl/mouse.h"
+#include "platform/sdl/native_window.h"
+#include "platform/sdl/window_state.h"
+
+#include <atomic>
+
+namespace
+{
+
+std::atomic<bool> focused = true;
+
+void LoseFocus()
+{
+    focused = false;
+    ReleaseHeldKeys();
+    PostToWindow(WM_KILLFOCUS, 0, 0);
+}
+
+void GainFocus()
+{
+    focused = true;
+    PostToWindow(WM_SETFOCUS, 0, 0);
+}
+
+/// The maximise box and a double click on the title are commands to the game, which covers the whole screen then.
+void Maximise()
+{
+    SDL_RestoreWindow(nativeWindow.handle);
+    PostToWindow(WM_SYSCOMMAND, SC_MAXIMIZE, 0);
+}
+
+void HandleWindowEvent(const SDL_WindowEvent& event)
+{
+    switch (event.event) {
+    case SDL_WINDOWEVENT_FOCUS_GAINED:
+        return GainFocus();
+    case SDL_WINDOWEVENT_FOCUS_LOST:
+        return LoseFocus();
+    case SDL_WINDOWEVENT_CLOSE:
+        return PostToWindow(WM_SYSCOMMAND, SC_CLOSE, 0);
+    case SDL_WINDOWEVENT_MAXIMIZED:
+        return Maximise();
+    case SDL_WINDOWEVENT_RESIZED:
+        return KeepClientSize();
+    case SDL_WINDOWEVENT_SIZE_CHANGED:
+    case SDL_WINDOWEVENT_EXPOSED:
+        return nativeWindow.view.Show();
+    default:
+        break;
+    }
+}
+
+void HandleEvent(const SDL_Event& event)
+{
+    switch (event.type) {
+    case SDL_WINDOWEVENT:
+        return HandleWindowEvent(event.window);
+    case SDL_KEYDOWN:
+    case SDL_KEYUP:
+        return HandleKey(event.key);
+    case SDL_TEXTINPUT:
+        return HandleText(event.text.text);
+    case SDL_MOUSEMOTION:
+        return HandleMotion(event.motion);
+    case SDL_MOUSEBUTTONDOWN:
+    case SDL_MOUSEBUTTONUP:
+        return HandleButton(event.button);
+    case SDL_QUIT: // the session ends or a signal asks the program to
+        return PostToWindow(WM_SYSCOMMAND, SC_CLOSE, 0);
+    default:
+        break;
+    }
+}
+
+} // namespace
+
+bool WindowHasFocus()
+{
+    return focused;
+}
+
+void CollectEvents()
+{
+    SDL_Event event;
+    while (nativeWindow.handle && SDL_PollEvent(&event))
+        HandleEvent(event);
+}

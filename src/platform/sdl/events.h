@@ -1,0 +1,4 @@
+#pragma once
+
+/// Turns what happened to the window, keyboard and mouse since the last call into messages.
+void CollectEvents();

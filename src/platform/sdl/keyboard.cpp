@@ -1,0 +1,118 @@
+#include "platform/sdl/keyboard.h"
+
+#include "platform/sdl/messages.h"
+
+#include <array>
+#include <memory>
+
+namespace
+{
+
+/// The code under which each key went down, 0 while it is up. Its release has the same one, even if NumLock or the
+/// layout changed between.
+std::array<int, SDL_NUM_SCANCODES> heldCodes = {};
+
+struct ControlCharacter {
+    int key;
+    WPARAM plain;
+    WPARAM withControl;
+};
+
+/// What text input leaves out, being no text.
+constexpr ControlCharacter controlCharacters[] = {
+    { VK_BACK, 0x08, 0x7F },
+    { VK_TAB, 0x09, 0 },
+    { VK_RETURN, 0x0D, 0x0A },
+    { VK_ESCAPE, 0x1B, 0x1B },
+};
+
+/// A system key is meant for the window's own commands, not for the game: F10, and any key with Alt but not Ctrl.
+bool IsSystemKey(int code, Uint16 modifiers)
+{
+    const bool alt = (modifiers & KMOD_ALT) || code == VK_MENU;
+    return code == VK_F10 || (alt && !(modifiers & KMOD_CTRL));
+}
+
+LPARAM KeyWord(bool alt, bool wasDown, bool up)
+{
+    const uint32_t word = 1u | (alt ? 1u << 29 : 0) | (wasDown ? 1u << 30 : 0) | (up ? 1u << 31 : 0);
+    return static_cast<LPARAM>(word);
+}
+
+void PostCharacter(WPARAM character)
+{
+    PostToWindow(WM_CHAR, character, 1);
+}
+
+void PostControlCharacter(int code, bool control)
+{
+    if (control && code >= 'A' && code <= 'Z')
+        return PostCharacter(static_cast<WPARAM>(code - 'A' + 1));
+    for (const ControlCharacter& row : controlCharacters) {
+        const WPARAM character = control ? row.withControl : row.plain;
+        if (row.key == code && character != 0)
+            PostCharacter(character);
+    }
+}
+
+void PressKey(const SDL_Keysym& key)
+{
+    int& held = heldCodes[key.scancode];
+    const bool repeated = held != 0;
+    const int code = repeated ? held : VirtualKey(key);
+    if (code == 0)
+        return;
+    held = code;
+    const bool system = IsSystemKey(code, key.mod);
+    PostToWindow(system ? WM_SYSKEYDOWN : WM_KEYDOWN, static_cast<WPARAM>(code),
+                 KeyWord(key.mod & KMOD_ALT, repeated, false));
+    if (!system)
+        PostControlCharacter(code, key.mod & KMOD_CTRL);
+}
+
+void ReleaseKey(const SDL_Keysym& key)
+{
+    int& held = heldCodes[key.scancode];
+    const int code = held != 0 ? held : VirtualKey(key);
+    if (code == 0)
+        return;
+    held = 0;
+    PostToWindow(IsSystemKey(code, key.mod) ? WM_SYSKEYUP : WM_KEYUP, static_cast<WPARAM>(code),
+                 KeyWord(key.mod & KMOD_ALT, true, true));
+}
+
+/// Whether a text comes from a command key and is none. The right Alt key chooses characters on many layouts.
+bool IsCommandText()
+{
+    const bool control = heldCodes[SDL_SCANCODE_LCTRL] || heldCodes[SDL_SCANCODE_RCTRL];
+    return !heldCodes[SDL_SCANCODE_RALT] && (control || heldCodes[SDL_SCANCODE_LALT]);
+}
+
+} // namespace
+
+void HandleKey(const SDL_KeyboardEvent& event)
+{
+    if (event.keysym.scancode >= SDL_NUM_SCANCODES)
+        return;
+    event.type == SDL_KEYDOWN ? PressKey(event.keysym) : ReleaseKey(event.keysym);
+}
+
+void HandleText(const char* text)
+{
+    if (IsCommandText())
+        return;
+    const std::unique_ptr<char, decltype(&SDL_free)> ansi(
+        SDL_iconv_string("CP1252", "UTF-8", text, SDL_strlen(text) + 1), SDL_free);
+    for (const char* c = ansi.get(); c && *c; ++c)
+        PostCharacter(static_cast<unsigned char>(*c));
+}
+
+void ReleaseHeldKeys()
+{
+    for (int& held : heldCodes) {
+        // Never as a system key: a release that nobody meant must not switch the display.
+        if (held != 0)
+            PostToWindow(WM_KEYUP, static_cast<WPARAM>(held), KeyWord(false, true, true));
+        held = 0;
+    }
+}

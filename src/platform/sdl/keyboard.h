@@ -1,0 +1,15 @@
+#pragma once
+
+#include <SDL.h>
+
+/// The virtual-key code of a key, 0 for keys without one.
+int VirtualKey(const SDL_Keysym& key);
+
+/// Posts the key's message and, for keys that are control characters, the character's.
+void HandleKey(const SDL_KeyboardEvent& event);
+
+/// Posts the characters of a UTF-8 text in Windows-1252; those that it lacks are left out.
+void HandleText(const char* text);
+
+/// Posts the release of every key that is down, so that none stays held when the keyboard goes elsewhere.
+void ReleaseHeldKeys();

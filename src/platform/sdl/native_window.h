@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/sdl/frame_view.h"
+#include "platform/window.h"
+
+#include <SDL.h>
+
+/// What stands behind the game's one window handle.
+struct NativeWindow {
+    SDL_Window* handle = nullptr; ///< null when there is no window
+    WNDPROC procedure = nullptr;
+    DWORD style = 0;
+    DWORD extendedStyle = 0;
+    SDL_Point clientSize = {};  ///< pixels, as the game set it; the window manager may have another mind
+    SDL_Point refusedSize = {}; ///< what the window manager made of it when last asked to put it right
+    bool closing = false;       ///< WM_DESTROY is under way
+    CFrameView view;
+};
+
+extern NativeWindow nativeWindow;
+
+/// The window's handle, whether it is open or not.
+HWND NativeHandle();
+
+/// Null when the handle is not the open window's.
+NativeWindow* WindowOf(HWND window);
+
+/// Gives the window the size that the game set, after the user or the window manager changed it.
+void KeepClientSize();
+
+/// Covers the window's screen at its own resolution, showing frames of that size. False when that is not possible.
+bool EnterFullScreen(NativeWindow& window, SDL_Point frameSize);
+void LeaveFullScreen(NativeWindow& window);

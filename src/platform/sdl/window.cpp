@@ -1,0 +1,248 @@
+#include "platform/gdi.h"
+#include "platform/sdl/messages.h"
+#include "platform/sdl/native_window.h"
+
+#include <algorithm>
+#include <cstdio>
+
+NativeWindow nativeWindow;
+
+namespace
+{
+
+/// Title and border of the windows as the game reckons with them, pixels. The window manager's own may differ by a
+/// few pixels; SDL places and sizes windows by their client area, so that only the centring is off by that much.
+constexpr RECT FRAME = { 4, 26, 4, 4 };
+
+WNDPROC registeredProcedure = nullptr;
+
+RECT FrameOf(DWORD style)
+{
+    return (style & WS_CAPTION) == WS_CAPTION ? FRAME : RECT{};
+}
+
+/// The client size of a window of that outer size and style.
+SDL_Point ClientSize(int width, int height, DWORD style)
+{
+    const RECT frame = FrameOf(style);
+    return { std::max<int>(1, width - frame.left - frame.right), std::max<int>(1, height - frame.top - frame.bottom) };
+}
+
+/// The main screen's area among all screens; empty when there is none.
+SDL_Rect MainScreen()
+{
+    SDL_Rect area = {};
+    SDL_GetDisplayBounds(0, &area);
+    return area;
+}
+
+void SetHints()
+{
+    SDL_SetHint(SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0");          // closing goes through the window procedure
+    SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");           // the click that activates is also a click
+    SDL_SetHint(SDL_HINT_MOUSE_AUTO_CAPTURE, "1");                 // moves outside are seen while a button is held
+    SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0"); // or the whole desktop changes with our window
+    SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
+}
+
+/// The window is resizable only because window managers offer no maximise box otherwise. KeepClientSize undoes what
+/// its border does, and maximising becomes a command (events.cpp).
+bool OpenWindow(LPCSTR title)
+{
+    const SDL_Point size = nativeWindow.clientSize;
+    nativeWindow.handle = SDL_CreateWindow(title, SDL_WINDOWPOS_UNDEFINED, SDL_WINDOWPOS_UNDEFINED, size.x, size.y,
+                                           SDL_WINDOW_HIDDEN | SDL_WINDOW_RESIZABLE);
+    return nativeWindow.handle && nativeWindow.view.Open(nativeWindow.handle) && nativeWindow.view.SetFrameSize(size);
+}
+
+void CloseWindow()
+{
+    nativeWindow.view.Close();
+    if (nativeWindow.handle)
+        SDL_DestroyWindow(nativeWindow.handle);
+    nativeWindow = {};
+    DropMessages();
+    SDL_QuitSubSystem(SDL_INIT_VIDEO);
+}
+
+void SetClientSize(NativeWindow& window, SDL_Point size)
+{
+    window.clientSize = size;
+    window.refusedSize = {};
+    SDL_SetWindowSize(window.handle, size.x, size.y);
+    SDL_SetWindowMinimumSize(window.handle, size.x, size.y);
+    window.view.SetFrameSize(size);
+}
+
+void ShowFirstTime(NativeWindow& window)
+{
+    SDL_ShowWindow(window.handle);
+    window.style |= WS_VISIBLE;
+    window.view.Show();
+}
+
+} // namespace
+
+HWND NativeHandle()
+{
+    return reinterpret_cast<HWND>(&nativeWindow);
+}
+
+NativeWindow* WindowOf(HWND window)
+{
+    return window == NativeHandle() && nativeWindow.handle ? &nativeWindow : nullptr;
+}
+
+void KeepClientSize()
+{
+    SDL_Point now = {};
+    SDL_GetWindowSize(nativeWindow.handle, &now.x, &now.y);
+    const SDL_Point wanted = nativeWindow.clientSize;
+    const SDL_Point refused = nativeWindow.refusedSize;
+    const bool settled = (now.x == wanted.x && now.y == wanted.y) || (now.x == refused.x && now.y == refused.y);
+    if (settled || (SDL_GetWindowFlags(nativeWindow.handle) & (SDL_WINDOW_FULLSCREEN | SDL_WINDOW_MAXIMIZED)))
+        return;
+    // Asked once only: a tiling window manager insists on its size, and the frame is then scaled to it.
+    nativeWindow.refusedSize = now;
+    SDL_SetWindowSize(nativeWindow.handle, wanted.x, wanted.y);
+}
+
+bool EnterFullScreen(NativeWindow& window, SDL_Point frameSize)
+{
+    return window.view.SetFrameSize(frameSize) &&
+           SDL_SetWindowFullscreen(window.handle, SDL_WINDOW_FULLSCREEN_DESKTOP) == 0;
+}
+
+void LeaveFullScreen(NativeWindow& window)
+{
+    SDL_SetWindowFullscreen(window.handle, 0);
+    SetClientSize(window, window.clientSize);
+}
+
+ATOM RegisterClassA(const WNDCLASSA* windowClass)
+{
+    registeredProcedure = windowClass->lpfnWndProc;
+    return 1;
+}
+
+HWND CreateWindowExA(DWORD extendedStyle, LPCSTR, LPCSTR title, DWORD style, int, int, int width, int height, HWND,
+                     HMENU, HINSTANCE, LPVOID)
+{
+    if (nativeWindow.handle || !registeredProcedure)
+        return nullptr;
+    SetHints();
+    if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) {
+        std::fprintf(stderr, "%s: no display: %s\n", title, SDL_GetError());
+        return nullptr;
+    }
+    nativeWindow.procedure = registeredProcedure;
+    nativeWindow.style = style;
+    nativeWindow.extendedStyle = extendedStyle;
+    nativeWindow.clientSize = ClientSize(width, height, style);
+    if (!OpenWindow(title)) {
+        std::fprintf(stderr, "%s: cannot make a window: %s\n", title, SDL_GetError());
+        CloseWindow();
+        return nullptr;
+    }
+    return NativeHandle();
+}
+
+BOOL DestroyWindow(HWND handle)
+{
+    NativeWindow* window = WindowOf(handle);
+    if (!window || window->closing)
+        return FALSE;
+    window->closing = true;
+    SDL_HideWindow(window->handle);
+    window->procedure(handle, WM_DESTROY, 0, 0);
+    CloseWindow();
+    return TRUE;
+}
+
+BOOL ShowWindow(HWND handle, int command)
+{
+    NativeWindow* window = WindowOf(handle);
+    if (!window)
+        return FALSE;
+    const bool wasVisible = window->style & WS_VISIBLE;
+    if (command == SW_MINIMIZE) {
+        SDL_MinimizeWindow(window->handle);
+        return wasVisible;
+    }
+    if (!wasVisible)
+        ShowFirstTime(*window);
+    SDL_RestoreWindow(window->handle);
+    return wasVisible;
+}
+
+/// The order among other windows is left to the window manager: full screen comes to the front by itself.
+BOOL SetWindowPos(HWND handle, HWND, int x, int y, int width, int height, UINT flags)
+{
+    NativeWindow* window = WindowOf(handle);
+    if (!window)
+        return FALSE;
+    if (!(flags & SWP_NOSIZE))
+        SetClientSize(*window, ClientSize(width, height, window->style));
+    if (!(flags & SWP_NOMOVE)) {
+        const RECT frame = FrameOf(window->style);
+        const SDL_Rect screen = MainScreen();
+        SDL_SetWindowPosition(window->handle, screen.x + x + frame.left, screen.y + y + frame.top);
+    }
+    if ((flags & SWP_SHOWWINDOW) && !(window->style & WS_VISIBLE))
+        ShowFirstTime(*window);
+    return TRUE;
+}
+
+LONG GetWindowLongA(HWND handle, int index)
+{
+    const NativeWindow* window = WindowOf(handle);
+    if (!window)
+        return 0;
+    return static_cast<LONG>(index == GWL_STYLE ? window->style : window->extendedStyle);
+}
+
+/// A style counts in the reckoning of sizes only. Frames are not taken off and put on again: the style without one is
+/// that of full screen, where no window has a frame.
+LONG SetWindowLongA(HWND handle, int index, LONG value)
+{
+    NativeWindow* window = WindowOf(handle);
+    if (!window)
+        return 0;
+    DWORD& target = index == GWL_STYLE ? window->style : window->extendedStyle;
+    const LONG before = static_cast<LONG>(target);
+    target = static_cast<DWORD>(value);
+    return before;
+}
+
+HMENU GetMenu(HWND)
+{
+    return nullptr;
+}
+
+BOOL AdjustWindowRectEx(RECT* rectangle, DWORD style, BOOL, DWORD)
+{
+    const RECT frame = FrameOf(style);
+    rectangle->left -= frame.left;
+    rectangle->top -= frame.top;
+    rectangle->right += frame.right;
+    rectangle->bottom += frame.bottom;
+    return TRUE;
+}
+
+int GetSystemMetrics(int index)
+{
+    const SDL_Rect screen = MainScreen();
+    return index == SM_CXSCREEN ? screen.w : index == SM_CYSCREEN ? screen.h : 0;
+}
+
+BOOL RedrawWindow(HWND, const RECT*, HRGN, UINT)
+{
+    nativeWindow.view.Show();
+    return TRUE;
+}
+
+/// The desktop entry gives the icon.
+HICON LoadIconA(HINSTANCE, LPCSTR)
+{
+    return nullptr;
+}

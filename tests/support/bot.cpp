@@ -1,0 +1,232 @@
+#include "support/bot.h"
+
+#include "actors/snake_rules.h"
+#include "support/test_game.h"
+
+#include <algorithm>
+#include <iterator>
+#include <vector>
+
+namespace
+{
+constexpr int SPACE_KEY = 32;
+constexpr int PAUSE_FRAMES = 25;
+constexpr int NO_COURSE = -1;
+constexpr int NO_TARGET = -1;
+constexpr int NO_CELL = -1;
+
+constexpr int ROOM_NEEDED = 40; ///< free cells that a way must lead to
+constexpr int OWN_MARGIN = 1;   ///< cells that a body may grow on the way
+constexpr int OTHER_MARGIN = 3;
+constexpr int FEARED_STEPS = 2; ///< how far ahead of the other's head it keeps
+
+int Neighbour(int cell, int course)
+{
+    const int column = (cell % CELL_COLUMNS + courses[course].dx + CELL_COLUMNS) % CELL_COLUMNS;
+    const int row = (cell / CELL_COLUMNS + courses[course].dy + CELL_ROWS) % CELL_ROWS;
+    return row * CELL_COLUMNS + column;
+}
+
+int CourseOfKey(int player, int key)
+{
+    const auto* keys = testKeys[player];
+    const auto* found = std::find(keys, keys + 4, static_cast<uint32_t>(key));
+    return found == keys + 4 ? NO_COURSE : static_cast<int>(found - keys);
+}
+
+/// The cell whose grid point a segment stands on or reaches next.
+int CellAhead(const Segment& segment, int player)
+{
+    int x = segment.x;
+    int y = segment.y;
+    const int course = CourseOfKey(player, segment.dir);
+    if (course == NO_COURSE)
+        return NO_CELL;
+    if (courses[course].dx > 0 || courses[course].dy > 0) {
+        x += CELL_SIZE - 1;
+        y += CELL_SIZE - 1;
+    }
+    return y / CELL_SIZE % CELL_ROWS * CELL_COLUMNS + x / CELL_SIZE % CELL_COLUMNS;
+}
+}
+
+int Bot::NextKey(int frame)
+{
+    if (frame == style.pauseAt || frame == style.pauseAt + PAUSE_FRAMES)
+        return SPACE_KEY;
+    // One key a frame: the players take turns at the first choice.
+    for (int i = 0; i <= pond.players; ++i) {
+        const int key = KeyFor((frame + i) % (pond.players + 1), frame);
+        if (key != 0)
+            return key;
+    }
+    return 0;
+}
+
+int Bot::KeyFor(int player, int frame)
+{
+    const CSnake& snake = pond.snake[player];
+    if (pond.introFrames <= 30 || snake.isOut || snake.isDying || snake.isPaused || !snake.isActive ||
+        snake.turnCount > 0 || snake.startPressed)
+        return 0;
+    constexpr int CLOCKWISE[] = { 3, 2, 0, 1 };
+    const int course = CourseOfKey(player, snake.segments[0].dir);
+    const bool isReckless = frame >= style.recklessFrom && !snake.isWaiting;
+    const int wanted = isReckless ? CLOCKWISE[course] : WantedCourse(player);
+    if (wanted == NO_COURSE || (wanted == course && !snake.isWaiting))
+        return 0;
+    return static_cast<int>(testKeys[player][wanted]);
+}
+
+int Bot::WantedCourse(int player)
+{
+    const CSnake& snake = pond.snake[player];
+    const Segment& head = snake.segments[0];
+    const int start = CellAhead(head, player);
+    const int course = CourseOfKey(player, head.dir);
+    const int behind = Neighbour(start, static_cast<int>(courses[course].reverse));
+    Survey(player);
+    SearchFrom(start, snake.isWaiting ? NO_CELL : behind);
+    const int target = BestTarget(snake);
+    if (target != NO_TARGET) {
+        const int first = FirstCourseTo(target, start);
+        if (Room(Neighbour(start, first), start) >= ROOM_NEEDED)
+            return first;
+    }
+    return RoomiestCourse(start, behind);
+}
+
+void Bot::Survey(int player)
+{
+    for (int i = 0; i < CELL_COUNT; ++i)
+        freeFrom[static_cast<size_t>(i)] = pond.cells[i].IsStone() ? UNREACHED : 0;
+    MarkBody(pond.snake[player], OWN_MARGIN);
+    if (pond.players == 0)
+        return;
+    const CSnake& other = pond.snake[1 - player];
+    if (other.length == 0)
+        return;
+    MarkBody(other, OTHER_MARGIN);
+    int cell = CellAhead(other.segments[0], 1 - player);
+    for (int step = 0; step < FEARED_STEPS && cell != NO_CELL; ++step) {
+        for (int course = 0; course < 4; ++course) {
+            int& from = freeFrom[static_cast<size_t>(Neighbour(cell, course))];
+            from = std::max(from, FEARED_STEPS + 1);
+        }
+        const int course = CourseOfKey(1 - player, other.segments[0].dir);
+        cell = Neighbour(cell, course);
+    }
+}
+
+/// A segment's cell is free again when the tail has passed it.
+void Bot::MarkBody(const CSnake& snake, int margin)
+{
+    for (int i = 0; i < snake.length; ++i) {
+        const int cell = CellAhead(snake.segments[i], snake.player - 1);
+        if (cell == NO_CELL)
+            continue;
+        int& from = freeFrom[static_cast<size_t>(cell)];
+        from = std::max(from, snake.length - i + margin);
+    }
+}
+
+/// The distances of all cells, in cells walked.
+void Bot::SearchFrom(int start, int forbiddenCell)
+{
+    distance.fill(UNREACHED);
+    cameFrom.fill(NO_CELL);
+    distance[static_cast<size_t>(start)] = 0;
+    std::vector<int> open{ start };
+    for (size_t next = 0; next < open.size(); ++next) {
+        const int cell = open[next];
+        const int walked = distance[static_cast<size_t>(cell)] + 1;
+        for (int course = 0; course < 4; ++course) {
+            const auto to = static_cast<size_t>(Neighbour(cell, course));
+            const bool isBehind = cell == start && static_cast<int>(to) == forbiddenCell;
+            if (isBehind || distance[to] != UNREACHED || walked < freeFrom[to])
+                continue;
+            distance[to] = walked;
+            cameFrom[to] = cell;
+            open.push_back(static_cast<int>(to));
+        }
+    }
+}
+
+int Bot::BestTarget(const CSnake& snake) const
+{
+    int best = NO_TARGET;
+    int bestCost = UNREACHED;
+    for (int i = 0; i < CELL_COUNT; ++i) {
+        const int walked = distance[static_cast<size_t>(i)];
+        if (!pond.cells[i].IsRipeBerry() || walked == 0 || walked == UNREACHED)
+            continue;
+        const int cost = walked + BerryCost(snake, pond.cells[i].colour);
+        if (cost < bestCost) {
+            best = i;
+            bestCost = cost;
+        }
+    }
+    return best;
+}
+
+/// What a berry of that colour is worth now, as cells of a longer (or, negative, shorter) way.
+int Bot::BerryCost(const CSnake& snake, int colour) const
+{
+    const bool isFast = snake.speed == FAST_SPEED || snake.speedUpTimer > 0;
+    if (colour == GOLDEN)
+        return style.sparesGold ? 60 : -15;
+    if (colour == RED && isFast)
+        return 40;
+    if (colour == snake.lastColour)
+        return -5 * snake.streak;
+    return 4 * snake.streak;
+}
+
+int Bot::FirstCourseTo(int target, int start) const
+{
+    int cell = target;
+    while (cameFrom[static_cast<size_t>(cell)] != start)
+        cell = cameFrom[static_cast<size_t>(cell)];
+    for (int course = 0; course < 4; ++course) {
+        if (Neighbour(start, course) == cell)
+            return course;
+    }
+    return NO_COURSE;
+}
+
+int Bot::RoomiestCourse(int start, int forbiddenCell) const
+{
+    int best = NO_COURSE;
+    int bestRoom = 0;
+    for (int course = 0; course < 4; ++course) {
+        const int cell = Neighbour(start, course);
+        if (cell == forbiddenCell || freeFrom[static_cast<size_t>(cell)] > 1)
+            continue;
+        const int room = Room(cell, start);
+        if (room > bestRoom) {
+            best = course;
+            bestRoom = room;
+        }
+    }
+    return best;
+}
+
+/// How many cells a snake that steps from one cell to the next could reach, bodies taken as they lie; at most
+/// ROOM_NEEDED.
+int Bot::Room(int start, int from) const
+{
+    std::array<bool, CELL_COUNT> seen{};
+    seen[static_cast<size_t>(from)] = true;
+    seen[static_cast<size_t>(start)] = true;
+    std::vector<int> open{ start };
+    for (size_t next = 0; next < open.size() && open.size() < ROOM_NEEDED; ++next) {
+        for (int course = 0; course < 4; ++course) {
+            const auto to = static_cast<size_t>(Neighbour(open[next], course));
+            if (seen[to] || freeFrom[to] > 1)
+                continue;
+            seen[to] = true;
+            open.push_back(static_cast<int>(to));
+        }
+    }
+    return std::min(static_cast<int>(open.size()), ROOM_NEEDED);
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "game/pond.h"
+
+#include <array>
+
+/// How the bot plays.
+struct BotStyle {
+    bool sparesGold = false;    ///< leaves golden berries for lasers to strike
+    int recklessFrom = 1 << 30; ///< frame from which it turns in circles until the game is over
+    int pauseAt = -1;           ///< frame in which it pauses the game for a second
+};
+
+/// Plays all snakes of a game, to make recordings with: it steers for berries by the shortest way round bodies and
+/// stones. It only looks at the game; what it answers are keys.
+class Bot
+{
+public:
+    Bot(const CPond& game, const BotStyle& playStyle) : pond(game), style(playStyle) {}
+
+    /// The key for the coming frame, 0 for none.
+    int NextKey(int frame);
+
+private:
+    static constexpr int UNREACHED = 1 << 20;
+    using CellNumbers = std::array<int, CELL_COUNT>;
+
+    int KeyFor(int player, int frame);
+    int WantedCourse(int player);
+    void Survey(int player);
+    void MarkBody(const CSnake& snake, int margin);
+    void SearchFrom(int start, int forbiddenCell);
+    int BestTarget(const CSnake& snake) const;
+    int BerryCost(const CSnake& snake, int colour) const;
+    int FirstCourseTo(int target, int start) const;
+    int RoomiestCourse(int start, int forbiddenCell) const;
+    int Room(int start, int from) const;
+
+    const CPond& pond;
+    BotStyle style;
+    CellNumbers freeFrom{}; ///< cells walked after which a cell is free; UNREACHED = never
+    CellNumbers distance{};
+    CellNumbers cameFrom{};
+};
