@@ -12,7 +12,6 @@
 
 namespace
 {
-
 constexpr int FONT_HEIGHT = 13;
 constexpr int FONT_WIDTH = 5;
 constexpr int FONT_LEVELS = 16;
@@ -133,8 +132,7 @@ bool AddHelpButtons(CMenu& panel, int page)
     }
     return ok;
 }
-
-} // namespace
+}
 
 CStatusBar::~CStatusBar()
 {

@@ -8,7 +8,6 @@
 
 namespace
 {
-
 struct PatternDeleter {
     void operator()(FcPattern* pattern) const { FcPatternDestroy(pattern); }
 };
@@ -50,8 +49,7 @@ FT_F26Dot6 ToFixed(double pixels)
 {
     return std::lround(pixels * 64);
 }
-
-} // namespace
+}
 
 void FontFace::LibraryDeleter::operator()(FT_LibraryRec_* library) const
 {
