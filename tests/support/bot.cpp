@@ -82,7 +82,8 @@ int Bot::KeyFor(int player, int frame)
         return 0;
     constexpr int CLOCKWISE[] = { 3, 2, 0, 1 };
     const int course = CourseOfKey(player, snake.segments[0].dir);
-    const bool isReckless = frame >= style.recklessFrom && !snake.isWaiting;
+    const bool isReckless =
+        (frame >= style.recklessFrom || pond.statusBar.level >= style.recklessLevel) && !snake.isWaiting;
     const int wanted = isReckless ? CLOCKWISE[course] : WantedCourse(player);
     if (wanted == NO_COURSE || (wanted == course && !snake.isWaiting))
         return 0;

@@ -6,9 +6,10 @@
 
 /// How the bot plays.
 struct BotStyle {
-    bool sparesGold = false;    ///< leaves golden berries for lasers to strike
-    int recklessFrom = 1 << 30; ///< frame from which it turns in circles until the game is over
-    int pauseAt = -100;         ///< frame in which it pauses the game for a second
+    bool sparesGold = false;     ///< leaves golden berries for lasers to strike
+    int recklessFrom = 1 << 30;  ///< frame from which it turns in circles until the game is over
+    int recklessLevel = 1 << 30; ///< the same, from that level on
+    int pauseAt = -100;          ///< frame in which it pauses the game for a second
 };
 
 /// Plays all snakes of a game, to make recordings with: it steers for berries by the shortest way round bodies and
