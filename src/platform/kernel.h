@@ -22,7 +22,7 @@ constexpr DWORD FILE_SHARE_READ = 1;
 constexpr DWORD OPEN_EXISTING = 3;
 constexpr DWORD FILE_ATTRIBUTE_NORMAL = 0x80;
 constexpr DWORD FILE_BEGIN = 0;
-constexpr DWORD MAX_PATH = 260;
+constexpr DWORD MAX_PATH = 4096;
 constexpr UINT GMEM_FIXED = 0;
 
 inline const HANDLE INVALID_HANDLE_VALUE = reinterpret_cast<HANDLE>(static_cast<intptr_t>(-1));

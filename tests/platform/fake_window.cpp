@@ -209,7 +209,7 @@ HANDLE CreateMutexA(SECURITY_ATTRIBUTES*, BOOL, LPCSTR)
     if (fake.Enter("CreateMutexA"))
         return nullptr;
     SetLastError(fake.otherCopyRuns ? ERROR_ALREADY_EXISTS : ERROR_SUCCESS);
-    return new FakeMutex;
+    return HandleOf(new FakeMutex);
 }
 
 DWORD GetModuleFileNameA(HMODULE, LPSTR path, DWORD size)

@@ -1,5 +1,7 @@
 #include "platform/shell.h"
 
+#include "platform/posix/paths.h"
+
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
@@ -27,14 +29,10 @@ bool IsAddress(const std::string& file)
     return file.find("://") != std::string::npos;
 }
 
-/// The full path of a file, both slashes separating; empty when there is no such file.
-std::string FullPath(std::string file)
+/// Empty when there is no such file.
+std::string FullPath(LPCSTR file)
 {
-    for (char& c : file) {
-        if (c == '\\')
-            c = '/';
-    }
-    const std::unique_ptr<char, decltype(&free)> path(realpath(file.c_str(), nullptr), free);
+    const std::unique_ptr<char, decltype(&free)> path(realpath(ResolvePath(file).c_str(), nullptr), free);
     return path ? path.get() : "";
 }
 

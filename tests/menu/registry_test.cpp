@@ -1,0 +1,324 @@
+#include "platform/registry.h"
+
+#include "support/temp_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <random>
+#include <string>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+using namespace std::string_literals;
+
+namespace
+{
+constexpr char KEY[] = "Software\\Tervalis";
+constexpr char FILE_NAME[] = "config/Tervalis/settings.toml";
+constexpr char DRAFT_NAME[] = "config/Tervalis/settings.toml.tmp";
+constexpr char DAMAGED_NAME[] = "config/Tervalis/settings.toml.damaged";
+
+struct Stored {
+    DWORD type = 0;
+    std::string bytes;
+    bool operator==(const Stored&) const = default;
+};
+
+LONG Open(HKEY& key)
+{
+    return RegCreateKeyExA(HKEY_CURRENT_USER, KEY, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_ALL_ACCESS, nullptr, &key,
+                           nullptr);
+}
+
+LONG Set(HKEY key, const char* name, const Stored& value)
+{
+    return RegSetValueExA(key, name, 0, value.type, reinterpret_cast<const BYTE*>(value.bytes.data()),
+                          static_cast<DWORD>(value.bytes.size()));
+}
+
+/// One save of one value; the code of the step that failed.
+LONG Save(const char* name, const Stored& value)
+{
+    HKEY key = nullptr;
+    if (const LONG result = Open(key); result != 0)
+        return result;
+    Set(key, name, value);
+    return RegCloseKey(key);
+}
+
+std::optional<Stored> Load(const char* name)
+{
+    HKEY key = nullptr;
+    if (Open(key) != 0)
+        return std::nullopt;
+    BYTE data[4096];
+    DWORD size = sizeof data;
+    DWORD type = 0;
+    const LONG result = RegQueryValueExA(key, name, nullptr, &type, data, &size);
+    RegCloseKey(key);
+    if (result != 0)
+        return std::nullopt;
+    return Stored{ type, std::string(reinterpret_cast<char*>(data), size) };
+}
+
+/// Runs `action` in a child, as a user without special rights; its result is 0 to 255.
+int InChild(const std::function<int()>& action)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        if (getuid() == 0 && (setgid(65534) != 0 || setuid(65534) != 0))
+            _exit(254);
+        _exit(action());
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 255;
+}
+
+class RegistryTest : public testing::Test
+{
+protected:
+    void SetUp() override { setenv("XDG_CONFIG_HOME", (folder.Path() + "/config").c_str(), 1); }
+    void TearDown() override { setenv("XDG_CONFIG_HOME", "/dev/null", 1); }
+    bool Exists(const char* name) const { return fs::exists(fs::path(folder.Path()) / name); }
+
+    TempFolder folder;
+};
+}
+
+TEST_F(RegistryTest, EveryValueComesBackByteForByte)
+{
+    std::string allBytes;
+    for (int byte = 0; byte < 256; ++byte)
+        allBytes += static_cast<char>(byte);
+    std::vector<Stored> values = {
+        { REG_DWORD, "\0\0\0\0"s },
+        { REG_DWORD, "\xFF\xFF\xFF\xFF" },
+        { REG_DWORD, "abc" }, // no number of four bytes
+        { REG_SZ, "" },
+        { REG_SZ, "Bob" },
+        { REG_SZ, "\nstarts with a line break" },
+        { REG_SZ, "\r\n\r\n" },
+        { REG_SZ, "\ttab, \"quotes\", '''three''', \"\"\"three\"\"\" and \\" },
+        { REG_SZ, "ends with a zero\0"s },
+        { REG_SZ, "\xEF\xBB\xBF" }, // a byte order mark
+        { REG_SZ, "\xC3\xA9 \xE6\xB0\xB4 \xF0\x9F\x90\x8D" },
+        { REG_SZ, "\xED\xA0\x80" }, // a lone surrogate
+        { REG_SZ, "\xE9t\xE9, not UTF-8" },
+        { REG_SZ, "\x7F\x1B[0m" },
+        { REG_SZ, "{ hex = \"41\" }" },
+        { REG_SZ, allBytes },
+        { 3, allBytes }, // a type the game does not use
+    };
+    std::mt19937 random(1);
+    for (int i = 0; i < 200; ++i) {
+        std::string bytes(random() % 256, '\0');
+        for (char& byte : bytes)
+            byte = static_cast<char>(random() % (i % 2 == 0 ? 256 : 48)); // half of them mostly control characters
+        values.push_back({ REG_SZ, bytes });
+    }
+
+    HKEY key = nullptr;
+    ASSERT_EQ(Open(key), 0);
+    for (size_t i = 0; i < values.size(); ++i)
+        ASSERT_EQ(Set(key, std::to_string(i).c_str(), values[i]), 0);
+    ASSERT_EQ(RegCloseKey(key), 0);
+    for (size_t i = 0; i < values.size(); ++i)
+        EXPECT_EQ(Load(std::to_string(i).c_str()), values[i]) << "value " << i;
+    EXPECT_FALSE(Exists(DAMAGED_NAME));
+}
+
+TEST_F(RegistryTest, ReadsWhatAHandMayHaveWrittenAndKeepsIt)
+{
+    struct Case {
+        const char* line;
+        std::optional<Stored> value;
+    };
+    const Case cases[] = {
+        { "v = 38", Stored{ REG_DWORD, "\x26\0\0\0"s } },
+        { "v = 4294967295", Stored{ REG_DWORD, "\xFF\xFF\xFF\xFF" } },
+        { "v = 4294967296", std::nullopt },
+        { "v = -1", std::nullopt },
+        { "v = 3.5", std::nullopt },
+        { "v = true", std::nullopt },
+        { "v = [ 1, 2 ]", std::nullopt },
+        { "v = 2001-02-03", std::nullopt },
+        { "v = { hex = \"0a4\", type = 1 }", std::nullopt },
+        { "v = { hex = \"zz\", type = 1 }", std::nullopt },
+        { "v = { hex = \"0a41\" }", std::nullopt },
+        { "v = { hex = \"0a41\", type = 1 }", Stored{ REG_SZ, "\nA" } },
+    };
+    for (const Case& row : cases) {
+        folder.Write(FILE_NAME, row.line);
+        EXPECT_EQ(Load("v"), row.value) << row.line;
+        EXPECT_EQ(Save("other", { REG_SZ, "new" }), 0);
+        EXPECT_NE(folder.Read(FILE_NAME).find(row.line), std::string::npos) << folder.Read(FILE_NAME);
+    }
+}
+
+TEST_F(RegistryTest, SetsADamagedFileAsideUnderANewName)
+{
+    const std::string damages[] = { "v = = 1", "v = \"\xFF\"", "v = 1\0"s, "v = 1\nv = 2", std::string(1 << 21, '#') };
+    int number = 0;
+    for (const std::string& damage : damages) {
+        folder.Write(FILE_NAME, damage);
+        EXPECT_EQ(Load("v"), std::nullopt) << damage.substr(0, 20);
+        EXPECT_FALSE(Exists(FILE_NAME));
+        ++number;
+        const std::string aside = DAMAGED_NAME + (number == 1 ? "" : "." + std::to_string(number));
+        EXPECT_TRUE(folder.Read(aside) == damage) << aside;
+        EXPECT_EQ(Save("v", { REG_SZ, "new" }), 0);
+    }
+    EXPECT_EQ(folder.Read(DAMAGED_NAME), damages[0]);
+}
+
+TEST_F(RegistryTest, LeavesWhatItMayNotReadOrReplace)
+{
+    struct Case {
+        mode_t folderMode;
+        mode_t fileMode;
+        const char* content;
+        const char* reason;
+    };
+    const Case cases[] = {
+        { 0777, 0000, "v = 1\n", "unreadable" },
+        { 0555, 0666, "v = 1\n", "in a read-only folder" },
+        { 0777, 0444, "v = 1\n", "write-protected" },
+        { 0555, 0666, "v = =\n", "damaged and cannot be moved" },
+    };
+    chmod(folder.Path().c_str(), 0777);
+    for (const Case& row : cases) {
+        folder.Write(FILE_NAME, row.content);
+        const std::string parent = folder.Path() + "/config/Tervalis";
+        chmod((folder.Path() + "/" + FILE_NAME).c_str(), row.fileMode);
+        chmod(parent.c_str(), row.folderMode);
+        const int result = InChild([] { return Save("v", { REG_SZ, "new" }); });
+        chmod(parent.c_str(), 0777);
+        chmod((folder.Path() + "/" + FILE_NAME).c_str(), 0666);
+        EXPECT_EQ(result, static_cast<int>(ERROR_ACCESS_DENIED)) << row.reason;
+        EXPECT_EQ(folder.Read(FILE_NAME), row.content) << row.reason;
+        EXPECT_FALSE(Exists(DAMAGED_NAME) || Exists(DRAFT_NAME)) << row.reason;
+    }
+}
+
+TEST_F(RegistryTest, RefusesWhatIsNoFile)
+{
+    fs::create_directories(folder.Path() + "/" + FILE_NAME);
+    EXPECT_NE(Save("v", { REG_SZ, "new" }), 0);
+    EXPECT_TRUE(fs::is_directory(folder.Path() + "/" + FILE_NAME));
+
+    fs::remove(folder.Path() + "/" + FILE_NAME);
+    ASSERT_EQ(mkfifo((folder.Path() + "/" + FILE_NAME).c_str(), 0600), 0);
+    EXPECT_NE(Save("v", { REG_SZ, "new" }), 0) << "and does not wait for a writer";
+}
+
+TEST_F(RegistryTest, AFullDiskLosesNothing)
+{
+    ASSERT_EQ(Save("v", { REG_SZ, "old" }), 0);
+    const std::string before = folder.Read(FILE_NAME);
+    chmod(folder.Path().c_str(), 0777);
+    fs::permissions(folder.Path() + "/config", fs::perms::all);
+    fs::permissions(folder.Path() + "/config/Tervalis", fs::perms::all);
+    chmod((folder.Path() + "/" + FILE_NAME).c_str(), 0666);
+    const int result = InChild([] {
+        signal(SIGXFSZ, SIG_IGN);
+        const rlimit full = { 64, 64 };
+        setrlimit(RLIMIT_FSIZE, &full);
+        return Save("v", { REG_SZ, std::string(200, 'x') });
+    });
+    EXPECT_EQ(result, static_cast<int>(ERROR_WRITE_FAULT));
+    EXPECT_EQ(folder.Read(FILE_NAME), before);
+    EXPECT_FALSE(Exists(DRAFT_NAME));
+}
+
+TEST_F(RegistryTest, KilledAtAnyMomentLeavesOldOrNewValues)
+{
+    // Two values that every save sets alike, large enough that a save takes a while.
+    const auto saveBoth = [](char letter) {
+        HKEY key = nullptr;
+        if (Open(key) != 0)
+            return;
+        for (const char* name : { "first", "last" })
+            Set(key, name, { REG_SZ, std::string(3000, letter) });
+        RegCloseKey(key);
+    };
+    saveBoth('a');
+    std::mt19937 random(7);
+    for (int round = 0; round < 300; ++round) {
+        const pid_t child = fork();
+        if (child == 0) {
+            for (char letter = 'a';; letter = letter == 'z' ? 'a' : static_cast<char>(letter + 1))
+                saveBoth(letter);
+        }
+        usleep(static_cast<useconds_t>(random() % 6000));
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        const auto first = Load("first");
+        ASSERT_TRUE(first && first->bytes.size() == 3000) << "round " << round;
+        ASSERT_EQ(first, Load("last")) << "round " << round;
+    }
+    EXPECT_FALSE(Exists(DAMAGED_NAME));
+    saveBoth('a');
+    const fs::directory_iterator files(folder.Path() + "/config/Tervalis");
+    EXPECT_EQ(std::distance(begin(files), end(files)), 1) << "drafts pile up";
+}
+
+TEST_F(RegistryTest, KeepsALinkToTheFile)
+{
+    folder.Write("dotfiles/own.toml", "v = 1\n");
+    folder.Write(FILE_NAME, "");
+    fs::remove(folder.Path() + "/" + FILE_NAME);
+    fs::create_symlink(folder.Path() + "/dotfiles/own.toml", folder.Path() + "/" + FILE_NAME);
+    EXPECT_EQ(Save("v", { REG_SZ, "new" }), 0);
+    EXPECT_TRUE(fs::is_symlink(folder.Path() + "/" + FILE_NAME));
+    EXPECT_EQ(folder.Read("dotfiles/own.toml"), "v = \"new\"\n");
+}
+
+TEST_F(RegistryTest, FindsTheFolderOfTheUser)
+{
+    const char* home = getenv("HOME");
+    const std::string oldHome = home != nullptr ? home : "";
+    setenv("HOME", (folder.Path() + "/home").c_str(), 1);
+    for (const char* config : { "", "relative/is/ignored" }) {
+        setenv("XDG_CONFIG_HOME", config, 1);
+        EXPECT_EQ(Save("v", { REG_SZ, "new" }), 0) << config;
+        EXPECT_TRUE(Exists("home/.config/Tervalis/settings.toml")) << config;
+        struct stat status = {};
+        stat((folder.Path() + "/home/.config/Tervalis").c_str(), &status);
+        EXPECT_EQ(status.st_mode & 0777, 0700U) << config;
+        fs::remove_all(folder.Path() + "/home");
+    }
+    setenv("HOME", oldHome.c_str(), 1);
+    setenv("XDG_CONFIG_HOME", "/dev/null", 1);
+    EXPECT_NE(Save("v", { REG_SZ, "new" }), 0) << "no folder can be made there";
+}
+
+TEST_F(RegistryTest, AValueThatDoesNotFitLeavesTheBufferAlone)
+{
+    ASSERT_EQ(Save("v", { REG_SZ, "12345" }), 0);
+    HKEY key = nullptr;
+    ASSERT_EQ(Open(key), 0);
+    BYTE data[5] = { 9, 9, 9, 9, 9 };
+    DWORD size = 4;
+    EXPECT_EQ(RegQueryValueExA(key, "v", nullptr, nullptr, data, &size), static_cast<LONG>(ERROR_MORE_DATA));
+    EXPECT_EQ(size, 5U);
+    EXPECT_EQ(data[0], 9);
+    EXPECT_EQ(RegQueryValueExA(key, "v", nullptr, nullptr, data, &size), 0);
+    EXPECT_EQ(data[4], '5');
+    EXPECT_EQ(RegCloseKey(key), 0);
+}
+
+TEST_F(RegistryTest, ReadingWritesNoFile)
+{
+    EXPECT_EQ(Load("v"), std::nullopt);
+    EXPECT_TRUE(Exists("config/Tervalis"));
+    EXPECT_FALSE(Exists(FILE_NAME));
+}
