@@ -20,6 +20,17 @@ constexpr int OWN_MARGIN = 1;   ///< cells that a body may grow on the way
 constexpr int OTHER_MARGIN = 3;
 constexpr int FEARED_STEPS = 2; ///< how far ahead of the other's head it keeps
 
+constexpr int GOLD_WORTH = 30;
+constexpr int GOLD_SPARED_COST = 60;
+constexpr int SLOW_DOWN_COST = 40;
+constexpr int STREAK_WORTH = 100;
+constexpr int SAVED_COST = 15;
+
+bool HasBerry(const Cell& cell)
+{
+    return cell.occupied && !cell.IsStone();
+}
+
 int Neighbour(int cell, int course)
 {
     const int column = (cell % CELL_COLUMNS + courses[course].dx + CELL_COLUMNS) % CELL_COLUMNS;
@@ -71,7 +82,8 @@ int Bot::KeyFor(int player, int frame)
         return 0;
     constexpr int CLOCKWISE[] = { 3, 2, 0, 1 };
     const int course = CourseOfKey(player, snake.segments[0].dir);
-    const bool isReckless = frame >= style.recklessFrom && !snake.isWaiting;
+    const bool isReckless =
+        (frame >= style.recklessFrom || pond.statusBar.level >= style.recklessLevel) && !snake.isWaiting;
     const int wanted = isReckless ? CLOCKWISE[course] : WantedCourse(player);
     if (wanted == NO_COURSE || (wanted == course && !snake.isWaiting))
         return 0;
@@ -147,7 +159,8 @@ void Bot::SearchFrom(int start, int forbiddenCell)
                 continue;
             distance[to] = walked;
             cameFrom[to] = cell;
-            open.push_back(static_cast<int>(to));
+            if (!HasBerry(pond.cells[to])) // a way ends with the first berry that it meets
+                open.push_back(static_cast<int>(to));
         }
     }
 }
@@ -158,7 +171,7 @@ int Bot::BestTarget(const CSnake& snake) const
     int bestCost = UNREACHED;
     for (int i = 0; i < CELL_COUNT; ++i) {
         const int walked = distance[static_cast<size_t>(i)];
-        if (!pond.cells[i].IsRipeBerry() || walked == 0 || walked == UNREACHED)
+        if (!HasBerry(pond.cells[i]) || walked == 0 || walked == UNREACHED)
             continue;
         const int cost = walked + BerryCost(snake, pond.cells[i].colour);
         if (cost < bestCost) {
@@ -169,17 +182,30 @@ int Bot::BestTarget(const CSnake& snake) const
     return best;
 }
 
-/// What a berry of that colour is worth now, as cells of a longer (or, negative, shorter) way.
+/// What a berry of that colour costs now beside the way to it, in cells walked. One colour is saved until there are
+/// enough berries of it for its effect, then they are eaten in a row. Rain comes first, since it brings more berries
+/// and better points; a slow snake may prefer to become fast.
 int Bot::BerryCost(const CSnake& snake, int colour) const
 {
     const bool isFast = snake.speed == FAST_SPEED || snake.speedUpTimer > 0;
     if (colour == GOLDEN)
-        return style.sparesGold ? 60 : -15;
-    if (colour == RED && isFast)
-        return 40;
-    if (colour == snake.lastColour)
-        return -5 * snake.streak;
-    return 4 * snake.streak;
+        return style.sparesGold ? GOLD_SPARED_COST : -GOLD_WORTH;
+    if (isFast && colour == RED)
+        return SLOW_DOWN_COST;
+    const int saved = !isFast && Supply(snake, RED) >= Supply(snake, BLUE) ? RED : BLUE;
+    if (colour != saved)
+        return colour == snake.lastColour ? -3 * snake.streak : 0;
+    if (Supply(snake, saved) >= 5)
+        return -STREAK_WORTH;
+    return snake.rainTimer > 0 ? 0 : SAVED_COST;
+}
+
+/// How many berries of a colour there are for a streak, those eaten for it included.
+int Bot::Supply(const CSnake& snake, int colour) const
+{
+    const auto isOfColour = [colour](const Cell& cell) { return HasBerry(cell) && cell.colour == colour; };
+    const auto lying = static_cast<int>(std::ranges::count_if(pond.cells, isOfColour));
+    return lying + (snake.lastColour == colour ? snake.streak : 0);
 }
 
 int Bot::FirstCourseTo(int target, int start) const
