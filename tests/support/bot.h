@@ -33,6 +33,8 @@ private:
     void SearchFrom(int start, int forbiddenCell);
     int BestTarget(const CSnake& snake) const;
     int BerryCost(const CSnake& snake, int colour) const;
+    int StreakColour(const CSnake& snake) const;
+    int EffectWorth(const CSnake& snake, int colour) const;
     int Supply(const CSnake& snake, int colour) const;
     int FirstCourseTo(int target, int start) const;
     int RoomiestCourse(int start, int forbiddenCell) const;
@@ -40,6 +42,7 @@ private:
 
     const CPond& pond;
     BotStyle style;
+    int roomNeeded = 0;     ///< free cells that a way must lead to
     CellNumbers freeFrom{}; ///< cells walked after which a cell is free; UNREACHED = never
     CellNumbers distance{};
     CellNumbers cameFrom{};
