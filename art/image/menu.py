@@ -1,10 +1,10 @@
 """The main menu, the options page and the ranking page, with the pictures of their lit buttons."""
 import numpy as np
 
-from canvas import blur, box_distance, clip, cover, lay, mix, noise, rgb, save_jpeg, smooth, text_alpha, write
-from glass import DEEP, GOLD, PANE, RIM, SOFT, TEXT, button, heading, pane, rule, well
-from icons import key_cap, triangle
-from layout import (HOME_PAGE, KEY_FIELD, KEY_FIELDS, MENU_BUTTONS, OPTIONS_BUTTONS, OPTIONS_SIZE, RANKING_FIELD,
+from canvas import blur, box_distance, clip, cover, lay, mix, rgb, save_jpeg, smooth, text_alpha, write
+from glass import DEEP, GOLD, RIM, SOFT, TEXT, button, heading, pane, rule, well
+from icons import triangle
+from layout import (HOME_PAGE, KEY_FIELD, KEY_FIELDS, MENU_BUTTONS, OPTIONS_BUTTONS, OPTIONS_SIZE,
                     RANKING_OK, RANKING_ROWS, RANKING_SIZE, TOGGLES)
 from pond import trace_bed, under_water
 from scenes import berry, snake

@@ -20,7 +20,7 @@ ORDER = {
 GAZE = {NEUTRAL: (0.0, -0.55), LEFT_FRONT: (-0.80, -0.60), LEFT: (-1.0, 0.10),
         RIGHT_FRONT: (0.80, -0.60), RIGHT: (1.0, 0.10)}
 
-SKIN, SKIN_SHADE, SKIN_LIGHT = rgb("56b83c"), rgb("0e3c1a"), rgb("dcff96")
+SKIN, SKIN_SHADE, SKIN_LIGHT = rgb("74d23a"), rgb("0e4420"), rgb("e8ffa0")
 INK = rgb("06140e")
 EYE_X, EYE_Y, EYE = 0.47, -0.16, 0.47
 
@@ -125,8 +125,8 @@ def bumped_head(quarters, size):
     return shrink(colour, fine), shrink(alpha, fine)
 
 
-WARM = (rgb("ff7a10"), rgb("ffd070"), rgb("ffe8b0"))
-COOL = (rgb("1450ff"), rgb("64a8ff"), rgb("d0f0ff"))
+WARM = (rgb("ff5206"), rgb("ffa838"), rgb("ffdc90"))
+COOL = (rgb("0c3cff"), rgb("509cff"), rgb("c8ecff"))
 
 
 def bead(light, size, ring):
