@@ -141,10 +141,10 @@ def stones():
     picture = page(2)
     box = (22, 50, 140, 88)
     view = window(picture, box, (160, 200))
-    path = [(28 + 16 * (s if r % 2 == 0 else 5 - s), 20 + 16 * r) for r in range(3) for s in range(6)]
-    for cx, cy in path[::-1][1:12]:
+    beads = cells((126, 68), "u" + "l" * 7 + "u" + "r" * 7 + "u" + "l" * 7)
+    for cx, cy in beads[5:]:
         berry(view, "stone", cx, cy, 16)
-    snake(view, cells((28, 68), "rrrr"), 16, TURNS["left"])
+    snake(view, beads[:5], 16, TURNS["down"])
     frame(picture, box)
     section(picture, 180, 60, "Too long freezes")
     lines(picture, 180, 82, ("At 25 beads the tail freezes: 20 beads become",
