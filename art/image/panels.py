@@ -2,7 +2,8 @@
 import numpy as np
 
 from berries import CELL, COLOURS, object_picture
-from canvas import box_distance, clip, cover, lay, mix, put, quantise, rgb, save_bmp, save_jpeg, save_keyed, smooth, write
+from canvas import (box_distance, clip, cover, lay, mix, put, quantise, rgb, save_bmp, save_jpeg, save_keyed, smooth,
+                    write)
 from glass import GOLD, SOFT, button, heading, pane, rule, well
 from icons import heart
 from layout import (CENSUS, CONFIRM_BUTTONS, LENGTH, LEVEL, LIVES, MESSAGE_SIZE, NEXT_LEVEL_FIELDS, NEXT_LEVEL_SIZE,
