@@ -1,7 +1,5 @@
 #include "game/pond_fixture.h"
 
-#include "gfx/blit.h"
-
 namespace
 {
 using Scenery = PondTest;
@@ -90,8 +88,8 @@ TEST_F(Scenery, MoonFadesInBelowTheMiddleAndOutNearTheTop)
 
 TEST_F(Scenery, MoonsTakeTurns)
 {
-    Paint(pond.moonImages[0], 0x1234, BlitCopy);
-    Paint(pond.moonImages[1], 0x4321, BlitCopy);
+    Paint(pond.moonImages[0], 0x1234);
+    Paint(pond.moonImages[1], 0x4321);
     pond.isDay = false;
     scenery.moonY = 300;
     pond.moonImages[1].opacity = 40;
