@@ -40,7 +40,7 @@ TEST_F(PondDrawing, LetBerriesFallLandAndSplash)
 {
     Paint(pond.shadowImage, SHADOW);
     for (int i = 0; i < GROWTH_IMAGES; ++i)
-        Paint(pond.growthImages[static_cast<size_t>(i)], i + 1);
+        Paint(pond.growthImages[i], i + 1);
     pond.PlaceBerry(GREEN, 100);
     const Cell& cell = pond.cells[100];
     std::vector<int> frames;
@@ -48,7 +48,7 @@ TEST_F(PondDrawing, LetBerriesFallLandAndSplash)
         const int growth = cell.growth;
         Play(1);
         const int shown = Pixel(backBuffer, POND_LEFT + cell.x, cell.y) - 1;
-        EXPECT_EQ(pond.growthImages[static_cast<size_t>(shown)].opacity, 255U - 9U * static_cast<unsigned>(growth));
+        EXPECT_EQ(pond.growthImages[shown].opacity, 255U - 9U * static_cast<unsigned>(growth));
         EXPECT_EQ(Pixel(pondImage, cell.x + distance, cell.y + distance), SHADOW) << growth;
         EXPECT_NE(Pixel(pondImage, cell.x + distance - 1, cell.y + distance), SHADOW) << growth;
         frames.push_back(shown - GREEN * GROWTH_FRAMES + 1);

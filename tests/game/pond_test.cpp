@@ -112,7 +112,7 @@ TEST_F(Pond, AmbienceHasASoundForFiveNumbersInAThousand)
         SeedRandom(seed);
         Play(1);
         for (int id = SOUND_POND_FIRST; id <= SOUND_POND_LAST; ++id) {
-            FakeSoundBuffer& sound = *fake.soundBuffers[static_cast<size_t>(id - SOUND_POND_FIRST)];
+            FakeSoundBuffer& sound = *fake.soundBuffers[id - SOUND_POND_FIRST];
             EXPECT_EQ(sound.plays, id == number && number <= SOUND_ENV_LAST && number >= SOUND_ENV_FIRST) << number;
             sound.plays = 0;
         }
