@@ -1,6 +1,7 @@
 #include "platform/gdi.h"
 #include "platform/sdl/messages.h"
 #include "platform/sdl/native_window.h"
+#include "platform/sdl/screen.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -26,14 +27,6 @@ SDL_Point ClientSize(int width, int height, DWORD style)
 {
     const RECT frame = FrameOf(style);
     return { std::max<int>(1, width - frame.left - frame.right), std::max<int>(1, height - frame.top - frame.bottom) };
-}
-
-/// The main screen's area among all screens; empty when there is none.
-SDL_Rect MainScreen()
-{
-    SDL_Rect area = {};
-    SDL_GetDisplayBounds(0, &area);
-    return area;
 }
 
 bool SameSize(SDL_Point a, SDL_Point b)
@@ -174,8 +167,8 @@ HWND CreateWindowExA(DWORD extendedStyle, LPCSTR, LPCSTR title, DWORD style, int
     if (nativeWindow.handle || !registeredProcedure)
         return nullptr;
     SetHints();
-    if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) {
-        std::fprintf(stderr, "%s: no display: %s\n", title, SDL_GetError());
+    if (!StartVideo()) {
+        std::fprintf(stderr, "%s: cannot open the display: %s\n", title, SDL_GetError());
         return nullptr;
     }
     nativeWindow.procedure = registeredProcedure;
@@ -267,12 +260,6 @@ BOOL AdjustWindowRectEx(RECT* rectangle, DWORD style, BOOL, DWORD)
     rectangle->right += frame.right;
     rectangle->bottom += frame.bottom;
     return TRUE;
-}
-
-int GetSystemMetrics(int index)
-{
-    const SDL_Rect screen = MainScreen();
-    return index == SM_CXSCREEN ? screen.w : index == SM_CYSCREEN ? screen.h : 0;
 }
 
 BOOL RedrawWindow(HWND, const RECT*, HRGN, UINT)
