@@ -1,4 +1,5 @@
 #include "platform/gdi.h"
+#include "platform/sdl/keyboard.h"
 #include "platform/sdl/messages.h"
 #include "platform/sdl/native_window.h"
 #include "platform/sdl/screen.h"
@@ -59,6 +60,7 @@ void CloseWindow()
     if (nativeWindow.handle)
         SDL_DestroyWindow(nativeWindow.handle);
     nativeWindow = {};
+    ReleaseHeldKeys();
     DropMessages();
     SDL_QuitSubSystem(SDL_INIT_VIDEO);
 }
