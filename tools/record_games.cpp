@@ -44,7 +44,9 @@ RecordedGame Record(const GamePlan& plan)
     const auto game = std::make_unique<TestGame>(plan.players, plan.seed);
     Bot bot(game->pond, plan.style);
     GameWatcher watcher;
-    RecordedGame recording{ .players = plan.players, .seed = plan.seed };
+    RecordedGame recording;
+    recording.players = plan.players;
+    recording.seed = plan.seed;
     while (!game->pond.gameOver && recording.frames < plan.maxFrames) {
         const int key = bot.NextKey(recording.frames);
         if (key != 0)

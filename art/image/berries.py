@@ -103,15 +103,15 @@ def purple(u, v):
     return colour
 
 
-METAL = [(0.0, rgb("3a2000")), (0.25, rgb("9a6208")), (0.42, rgb("f6c93a")), (0.50, rgb("7c4a06")),
-         (0.60, rgb("e8b020")), (0.80, rgb("fff2a8")), (1.0, rgb("ffffff"))]
+METAL = [(0.0, rgb("3a2000")), (0.18, rgb("a06608")), (0.36, rgb("ffd648")), (0.43, rgb("5c3400")),
+         (0.55, rgb("b87c0c")), (0.74, rgb("ffd84a")), (0.90, rgb("fff4b8")), (1.0, rgb("ffffff"))]
 
 
 def golden(u, v):
     """Polished gold mirrors a banded sky: bright above, a dark horizon, a warm ground."""
     x, y, z = sphere(u, v, RADIUS)
     lit = x * LIGHT[0] + y * LIGHT[1] + z * LIGHT[2]
-    colour = ramp(METAL, clip(lit * 0.62 + 0.36))
+    colour = ramp(METAL, clip(lit * 0.60 + 0.33))
     ring = smooth(0.10, 0.0, np.abs(np.hypot(u + 0.02, v + 0.02) - 0.52))
     colour = mix(colour, rgb("fff6c8"), 0.55 * ring)
     colour = mix(colour, rgb("4a2a00"), 0.7 * smooth(0.30, 0.02, z))

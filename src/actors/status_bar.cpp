@@ -7,6 +7,7 @@
 #include "res/image_loader.h"
 #include "sound/sound.h"
 
+#include <functional>
 #include <iterator>
 #include <new>
 
@@ -158,9 +159,10 @@ bool CStatusBar::DataLoad(bool& done)
     };
     constexpr int stepCount = static_cast<int>(std::size(steps));
     if (loadStep < stepCount) {
-        if (!(this->*steps[loadStep].load)())
+        const Step& step = steps[loadStep];
+        if (!std::invoke(step.load, this))
             return false;
-        WriteLog(steps[loadStep].logLine);
+        WriteLog(step.logLine);
         ++loadStep;
     }
     if (loadStep == stepCount)

@@ -159,6 +159,7 @@ TEST_F(PondCells, FadeTheOldestStonesFirst)
     MakeStone(pond.cells[700]);
     EXPECT_EQ(pond.cells[700].age, 10);
 
+    pond.cells[500].splashed = true; // by the berry it was
     pond.FadeStones(0);
     EXPECT_EQ(pond.CountStones(), 4);
     pond.FadeStones(1);

@@ -67,6 +67,9 @@ TEST_F(PondDrawing, LetBerriesFallLandAndSplash)
     EXPECT_TRUE(calm());
     Play(1);
     EXPECT_FALSE(calm());
+    WaterInit(waterBufferA, waterBufferB, 5, 3);
+    Play(1);
+    EXPECT_TRUE(calm()) << "one splash is enough";
 }
 
 TEST_F(PondDrawing, RaisePopupsForTwentySixFrames)
@@ -90,13 +93,16 @@ TEST_F(PondDrawing, RaisePopupsForTwentySixFrames)
 TEST_F(PondDrawing, BlinkHighlightedBerriesFiveFramesInTen)
 {
     Paint(pond.objectImages[BLUE], 0x0841, BlitCopy);
+    pond.dayBackground.Fill(0);
     pond.PlaceBerry(BLUE, 100);
+    pond.PlaceBerry(BLUE, 200); // still growing
     const Cell& cell = pond.cells[100];
     MakeRipe(pond.cells[100], BLUE);
     pond.cells[100].growth = 0;
     for (int frame = 0; frame < 10; ++frame) {
         Play(1);
         EXPECT_EQ(Pixel(pondImage, cell.x, cell.y), frame < 5 ? 0x1082 : 0x0841) << frame;
+        EXPECT_EQ(Pixel(pondImage, pond.cells[200].x, pond.cells[200].y), 0);
     }
 }
 }

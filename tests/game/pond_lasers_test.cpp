@@ -24,12 +24,14 @@ TEST_F(PondLasers, TurnAStoneGoldenAndBurstUntilFrameTwenty)
         pond.PlaceBerry(BLUE, CellAt(growing.x, growing.y));
         Cell& stone = CellIn(flight.column, flight.row);
         MakeStone(stone);
+        stone.splashed = true; // by the berry it was
         pond.FireLaser(15 * CELL_SIZE, 15 * CELL_SIZE, flight.heading);
         Play(4);
         EXPECT_TRUE(stone.IsStone()) << flight.why;
         Play(1);
         EXPECT_TRUE(stone.IsRipeBerry()) << flight.why;
         EXPECT_EQ(stone.colour, GOLDEN);
+        EXPECT_FALSE(stone.splashed) << "it splashes anew";
         EXPECT_EQ(growing.colour, BLUE) << "flown over";
         Play(18); // the counter stood at 5 mod 4
         EXPECT_TRUE(pond.lasers[0].active);

@@ -51,14 +51,15 @@ TEST_F(Scenery, LightsGrowAtDuskAndWaneAtDawn)
     pond.lightImage.Fill(0xFFFF);
     for (const LightCase& given : cases) {
         StartGame(0);
-        PlaceHead(0, 0, 240);
+        PlaceHead(0, 0, 0);
         pond.isDay = given.isDay;
         pond.transition = given.transition;
         Play(1);
-        EXPECT_EQ(Pixel(pondImage, 60, 240), given.light) << given.why;
-        EXPECT_EQ(Pixel(pondImage, 408, 240), given.light) << given.why << ", from beyond the left edge";
-        EXPECT_EQ(Pixel(pondImage, 407, 240), 0) << given.why;
-        EXPECT_EQ(Pixel(pondImage, 60, 240 - 73), 0) << given.why;
+        for (const int y : { 60, 408 }) // near the head and, wrapping around, at the opposite edges
+            for (const int x : { 60, 408 })
+                EXPECT_EQ(Pixel(pondImage, x, y), given.light) << given.why << ' ' << x << ' ' << y;
+        for (const int far : { 88, 407 })
+            EXPECT_EQ(Pixel(pondImage, far, 60) | Pixel(pondImage, 60, far), 0) << given.why << ' ' << far;
     }
 }
 

@@ -69,7 +69,7 @@ struct ReferenceWater {
 
     void Step()
     {
-        std::vector<int16_t> next(SAMPLES);
+        std::vector<int16_t> next = previous; // first and last row stay
         for (int i = WIDTH; i < SAMPLES - WIDTH; ++i)
             next[static_cast<size_t>(i)] = Next(i);
         previous = current;
@@ -110,7 +110,7 @@ protected:
 
     void FillRandom(int16_t* heights, int amplitude)
     {
-        for (int i = WIDTH; i < SAMPLES - WIDTH; ++i)
+        for (int i = 0; i < SAMPLES; ++i)
             heights[i] = static_cast<int16_t>(std::uniform_int_distribution(-amplitude, amplitude)(random));
     }
 

@@ -73,6 +73,9 @@ const Routine routines[] = {
     { "FadeToBlack", BlitFadeToBlack, [](const Pixel& p) { return Blend(p.source, 0, (256 - p.opacity) / 8, 32); } },
 };
 
+/// The ends of the routines' steps among others.
+constexpr uint32_t opacities[] = { 0, 7, 8, 60, 133, 248, 249, 255 };
+
 class Random
 {
 public:
@@ -156,7 +159,7 @@ TEST(Blits, EqualPlainReferencesAtRandomSizesAndClips)
         source.x = random(-8, 8);
         source.y = random(-4, 4);
         source.width = random(1, source.width); // as a draw limited to some columns
-        source.opacity = static_cast<uint32_t>(random(0, 255));
+        source.opacity = opacities[random(0, 7)];
 
         const std::vector<uint16_t> expected = Expected(routine, parent, target, source);
         routine.blit(target, source);
@@ -179,14 +182,14 @@ TEST(Blits, DrawGlyphsByTheirCoverage)
         box.y = random(-8, 8);
         target.x = random(-20, 44);
         target.y = random(-9, 26);
-        std::vector<uint8_t> bits(static_cast<size_t>(box.width * box.height));
+        std::vector<uint8_t> bits(static_cast<size_t>(box.width) * static_cast<size_t>(box.height));
         std::generate(bits.begin(), bits.end(), [&] { return static_cast<uint8_t>(random(0, 16)); });
         const GlyphView glyph{ box.x, box.y, box.width, box.height, 0, bits.data(), random.Colour() };
 
         std::vector<uint16_t> expected = PlaneOf(parent);
         ForEachVisiblePixel(target, box, [&](int y, int x, int row, int column, int) {
             uint16_t& pixel = expected[static_cast<size_t>(target.Row(y) + x - parent.pixels)];
-            const int coverage = bits[static_cast<size_t>(row * box.width + column)];
+            const int coverage = bits.data()[row * box.width + column];
             pixel = static_cast<uint16_t>(Blend(glyph.colour, pixel, 16 - coverage, 16));
         });
         BlitGlyphSmooth(target, glyph);

@@ -106,16 +106,16 @@ TEST(Image, DrawUsesItsArgumentsForTheCallOnly)
     ASSERT_TRUE(target.Create(10, 10));
     MakeNumbered(source, 6, 6);
     target.x = 1;
-    source.x = 2;
-    source.y = 3;
-    source.Draw(target, KEEP, 5, KEEP, 1, 4, 2);
+    source.x = 9;
+    source.y = 1;
+    source.Draw(target, KEEP, 5, 2, KEEP, 4, 2);
     // Left 1 - 2, top 5 - 1: columns 1 to 3 and rows 0 and 1 of the source remain.
     EXPECT_EQ(target.Row(4)[0], 1);
     EXPECT_EQ(target.Row(5)[2], 6 + 3);
     EXPECT_EQ(target.Row(5)[3], 0);
     EXPECT_EQ(target.Row(6)[0], 0);
     EXPECT_TRUE(target.x == 1 && target.y == 0);
-    EXPECT_TRUE(source.x == 2 && source.y == 3 && source.width == 6 && source.height == 6);
+    EXPECT_TRUE(source.x == 9 && source.y == 1 && source.width == 6 && source.height == 6);
 }
 
 TEST(Image, DrawNeverReadsBeyondASmallerPictureThanExpected)
@@ -149,7 +149,7 @@ TEST(Image, CopyIsIndependentAndTakesTheRoutineOnlyWithAlpha)
     CImage parent;
     MakeNumbered(parent, 12, 6);
     ASSERT_TRUE(parent.CreateAlpha());
-    parent.AlphaRow(3)[4] = 17;
+    parent.AlphaRow(3)[7] = 17;
     CImage view; // its pitch is wider than the copy's
     ASSERT_TRUE(view.CreateView(parent, 3, 2, 5, 3));
     view.x = 7;
@@ -160,13 +160,13 @@ TEST(Image, CopyIsIndependentAndTakesTheRoutineOnlyWithAlpha)
     copy.blit = BlitSub;
     ASSERT_TRUE(copy.Copy(view));
     parent.Fill(0);
-    parent.AlphaRow(3)[4] = 0;
+    parent.AlphaRow(3)[7] = 0;
     EXPECT_EQ(copy.x, 7);
     EXPECT_EQ(copy.pitch, 16);
     EXPECT_EQ(copy.opacity, 99u);
     EXPECT_EQ(copy.Row(0)[0], 2 * 12 + 3);
     EXPECT_EQ(copy.Row(2)[4], 4 * 12 + 7);
-    EXPECT_EQ(copy.AlphaRow(1)[1], 17);
+    EXPECT_EQ(copy.AlphaRow(1)[4], 17);
     EXPECT_EQ(copy.blit, BlitAdd);
 
     CImage plain;
@@ -174,7 +174,7 @@ TEST(Image, CopyIsIndependentAndTakesTheRoutineOnlyWithAlpha)
     copy.blit = BlitSub;
     ASSERT_TRUE(copy.Copy(plain));
     EXPECT_EQ(copy.blit, BlitSub);
-    EXPECT_EQ(copy.AlphaRow(1)[1], 17) << "the alpha plane stays";
+    EXPECT_EQ(copy.AlphaRow(1)[4], 17) << "the alpha plane stays";
 }
 
 TEST(Image, CopyAlphaCoversTheOverlapOnly)

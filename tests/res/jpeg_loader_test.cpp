@@ -20,7 +20,7 @@ Bytes MakeJpeg(int width, int height, int pixelFormat, int subsampling, const By
     unsigned long size = 0;
     EXPECT_EQ(tjCompress2(encoder, pixels.data(), width, 0, height, pixelFormat, &file, &size, subsampling, 100, flags),
               0);
-    const Bytes bytes(file, file + size);
+    Bytes bytes(file, file + size);
     tjFree(file);
     tjDestroy(encoder);
     return bytes;

@@ -133,7 +133,9 @@ TEST_F(PackFile, WhatATruncatedPackLacksReadsAsZeros)
 {
     const uint32_t hash = HashName("\\a");
     OpenPackOf("FPX_" + Le32(3) + Entry(hash, 32, 6) + Entry(HashName("\\far"), 0xFFFFFF00, 4) + "abc");
-    // The third entry is cut short, and \a starts in the middle of the second.
+    // The third entry is cut short after its first three bytes, which are \a's too.
+    ASSERT_NE(packTable[0].Find(0x00636261), nullptr);
+    EXPECT_EQ(packTable[0].Find(0x00636261)->size, 0u);
     ASSERT_TRUE(file.Load("Dat\\Image/a"));
     EXPECT_EQ(TextOf(file), std::string("abc") + std::string(3, '\0'));
     ASSERT_TRUE(file.Load("Dat\\Image/far"));

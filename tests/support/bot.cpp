@@ -15,10 +15,27 @@ constexpr int NO_COURSE = -1;
 constexpr int NO_TARGET = -1;
 constexpr int NO_CELL = -1;
 
-constexpr int ROOM_NEEDED = 40; ///< free cells that a way must lead to
-constexpr int OWN_MARGIN = 1;   ///< cells that a body may grow on the way
+constexpr int SPARE_ROOM = 5; ///< free cells beyond its length that a way must lead to
+constexpr int OWN_MARGIN = 1; ///< cells that a body may grow on the way
 constexpr int OTHER_MARGIN = 3;
 constexpr int FEARED_STEPS = 2; ///< how far ahead of the other's head it keeps
+
+// In cells walked.
+constexpr int GOLD_WORTH = 30;
+constexpr int STREAK_WORTH = 100;
+constexpr int DETOUR = 40;
+
+constexpr int FEW_BERRIES = 10;
+
+bool IsFast(const CSnake& snake)
+{
+    return snake.speed == FAST_SPEED || snake.speedUpTimer > 0;
+}
+
+bool HasBerry(const Cell& cell)
+{
+    return cell.occupied && !cell.IsStone();
+}
 
 int Neighbour(int cell, int course)
 {
@@ -71,7 +88,8 @@ int Bot::KeyFor(int player, int frame)
         return 0;
     constexpr int CLOCKWISE[] = { 3, 2, 0, 1 };
     const int course = CourseOfKey(player, snake.segments[0].dir);
-    const bool isReckless = frame >= style.recklessFrom && !snake.isWaiting;
+    const bool isReckless =
+        (frame >= style.recklessFrom || pond.statusBar.level >= style.recklessLevel) && !snake.isWaiting;
     const int wanted = isReckless ? CLOCKWISE[course] : WantedCourse(player);
     if (wanted == NO_COURSE || (wanted == course && !snake.isWaiting))
         return 0;
@@ -87,10 +105,11 @@ int Bot::WantedCourse(int player)
     const int behind = Neighbour(start, static_cast<int>(courses[course].reverse));
     Survey(player);
     SearchFrom(start, snake.isWaiting ? NO_CELL : behind);
+    roomNeeded = snake.length + SPARE_ROOM;
     const int target = BestTarget(snake);
     if (target != NO_TARGET) {
         const int first = FirstCourseTo(target, start);
-        if (Room(Neighbour(start, first), start) >= ROOM_NEEDED)
+        if (Room(Neighbour(start, first), start) >= roomNeeded)
             return first;
     }
     return RoomiestCourse(start, behind);
@@ -147,20 +166,24 @@ void Bot::SearchFrom(int start, int forbiddenCell)
                 continue;
             distance[to] = walked;
             cameFrom[to] = cell;
-            open.push_back(static_cast<int>(to));
+            if (!HasBerry(pond.cells[to])) // a way ends with the first berry that it meets
+                open.push_back(static_cast<int>(to));
         }
     }
 }
 
 int Bot::BestTarget(const CSnake& snake) const
 {
+    std::array<int, GOLDEN + 1> costs{};
+    for (int colour = 0; colour <= GOLDEN; ++colour)
+        costs[static_cast<size_t>(colour)] = BerryCost(snake, colour);
     int best = NO_TARGET;
     int bestCost = UNREACHED;
     for (int i = 0; i < CELL_COUNT; ++i) {
         const int walked = distance[static_cast<size_t>(i)];
-        if (!pond.cells[i].IsRipeBerry() || walked == 0 || walked == UNREACHED)
+        if (!HasBerry(pond.cells[i]) || walked == 0 || walked == UNREACHED)
             continue;
-        const int cost = walked + BerryCost(snake, pond.cells[i].colour);
+        const int cost = walked + costs[static_cast<size_t>(pond.cells[i].colour)];
         if (cost < bestCost) {
             best = i;
             bestCost = cost;
@@ -169,17 +192,58 @@ int Bot::BestTarget(const CSnake& snake) const
     return best;
 }
 
-/// What a berry of that colour is worth now, as cells of a longer (or, negative, shorter) way.
+/// Which colour to eat in a row now, for its effect; NO_COLOUR while there is not enough of any.
+int Bot::StreakColour(const CSnake& snake) const
+{
+    const int needed = std::ranges::count_if(pond.cells, HasBerry) < FEW_BERRIES ? 4 : 5;
+    if (snake.streak > 0 && snake.lastColour >= 0 && Supply(snake, snake.lastColour) >= needed)
+        return snake.lastColour;
+    int best = NO_COLOUR;
+    for (int colour = 0; colour < ORDINARY_COLOURS; ++colour) {
+        const int worth = EffectWorth(snake, colour);
+        if (worth > 0 && Supply(snake, colour) >= needed && (best < 0 || worth > EffectWorth(snake, best)))
+            best = colour;
+    }
+    return best;
+}
+
+/// In no unit; 0 = not wanted.
+int Bot::EffectWorth(const CSnake& snake, int colour) const
+{
+    switch (colour) {
+    case RED:
+        return IsFast(snake) ? 0 : 50;
+    case GREEN:
+        return pond.CountStones();
+    case BLUE:
+        return snake.rainTimer > 0 ? 10 : 40;
+    case ORANGE:
+        return 20;
+    default:
+        return snake.length > 9 ? 2 * snake.length : 0;
+    }
+}
+
+/// What a berry of that colour costs now beside the way to it, in cells walked. Colours of which there are many are
+/// spared until there are enough for a streak.
 int Bot::BerryCost(const CSnake& snake, int colour) const
 {
-    const bool isFast = snake.speed == FAST_SPEED || snake.speedUpTimer > 0;
+    const int wanted = StreakColour(snake);
     if (colour == GOLDEN)
-        return style.sparesGold ? 60 : -15;
-    if (colour == RED && isFast)
-        return 40;
-    if (colour == snake.lastColour)
-        return -5 * snake.streak;
-    return 4 * snake.streak;
+        return style.sparesGold || snake.streak > 2 ? DETOUR : -GOLD_WORTH;
+    if (colour == wanted)
+        return -STREAK_WORTH;
+    if (colour == RED && IsFast(snake))
+        return DETOUR;
+    return wanted == NO_COLOUR ? 3 * Supply(snake, colour) : 0;
+}
+
+/// How many berries of a colour there are for a streak, those eaten for it included.
+int Bot::Supply(const CSnake& snake, int colour) const
+{
+    const auto isOfColour = [colour](const Cell& cell) { return HasBerry(cell) && cell.colour == colour; };
+    const auto lying = static_cast<int>(std::ranges::count_if(pond.cells, isOfColour));
+    return lying + (snake.lastColour == colour ? snake.streak : 0);
 }
 
 int Bot::FirstCourseTo(int target, int start) const
@@ -212,14 +276,14 @@ int Bot::RoomiestCourse(int start, int forbiddenCell) const
 }
 
 /// How many cells a snake that steps from one cell to the next could reach, bodies taken as they lie; at most
-/// ROOM_NEEDED.
+/// `roomNeeded`.
 int Bot::Room(int start, int from) const
 {
     std::array<bool, CELL_COUNT> seen{};
     seen[static_cast<size_t>(from)] = true;
     seen[static_cast<size_t>(start)] = true;
     std::vector<int> open{ start };
-    for (size_t next = 0; next < open.size() && open.size() < ROOM_NEEDED; ++next) {
+    for (size_t next = 0; next < open.size() && open.size() < static_cast<size_t>(roomNeeded); ++next) {
         for (int course = 0; course < 4; ++course) {
             const auto to = static_cast<size_t>(Neighbour(open[next], course));
             if (seen[to] || freeFrom[to] > 1)
@@ -228,5 +292,5 @@ int Bot::Room(int start, int from) const
             open.push_back(static_cast<int>(to));
         }
     }
-    return std::min(static_cast<int>(open.size()), ROOM_NEEDED);
+    return std::min(static_cast<int>(open.size()), roomNeeded);
 }

@@ -6,9 +6,10 @@
 
 /// How the bot plays.
 struct BotStyle {
-    bool sparesGold = false;    ///< leaves golden berries for lasers to strike
-    int recklessFrom = 1 << 30; ///< frame from which it turns in circles until the game is over
-    int pauseAt = -1;           ///< frame in which it pauses the game for a second
+    bool sparesGold = false;     ///< leaves golden berries for lasers to strike
+    int recklessFrom = 1 << 30;  ///< frame from which it turns in circles until the game is over
+    int recklessLevel = 1 << 30; ///< the same, from that level on
+    int pauseAt = -100;          ///< frame in which it pauses the game for a second
 };
 
 /// Plays all snakes of a game, to make recordings with: it steers for berries by the shortest way round bodies and
@@ -32,12 +33,16 @@ private:
     void SearchFrom(int start, int forbiddenCell);
     int BestTarget(const CSnake& snake) const;
     int BerryCost(const CSnake& snake, int colour) const;
+    int StreakColour(const CSnake& snake) const;
+    int EffectWorth(const CSnake& snake, int colour) const;
+    int Supply(const CSnake& snake, int colour) const;
     int FirstCourseTo(int target, int start) const;
     int RoomiestCourse(int start, int forbiddenCell) const;
     int Room(int start, int from) const;
 
     const CPond& pond;
     BotStyle style;
+    int roomNeeded = 0;     ///< free cells that a way must lead to
     CellNumbers freeFrom{}; ///< cells walked after which a cell is free; UNREACHED = never
     CellNumbers distance{};
     CellNumbers cameFrom{};
