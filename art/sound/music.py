@@ -11,15 +11,22 @@ from score import Score
 ROCKING = (1.0, 0.72, 0.8, 0.92, 0.7, 0.78)
 
 
+def sung(partials, pitch, tau, seconds, attack):
+    """A struck body that gives most of its sound off at once and rings on softly, as tines and bars do."""
+    tone = 0.25 * bodies.strike(partials, pitch, tau, seconds, attack)
+    dsp.place(tone, bodies.strike(partials, pitch, 0.03, 0.3, attack), 0, 0.75)
+    return tone
+
+
 def kalimba(rng, seconds, pitch):
     thumb = bodies.splash(rng, 900, 4000, 0.001, 0.006, 0.05)
-    tone = bodies.strike(bodies.KALIMBA, pitch, 0.55 * (440 / pitch) ** 0.5, 2.4)
-    dsp.place(tone, thumb, 0, 0.06)
+    tone = sung(bodies.KALIMBA, pitch, 0.5 * (440 / pitch) ** 0.5, 2.2, 0.0015)
+    dsp.place(tone, thumb, 0, 0.1)
     return dsp.close(tone, 0.0005, 0.3)
 
 
 def marimba(rng, seconds, pitch):
-    return dsp.close(bodies.strike(bodies.MARIMBA, pitch, 0.42 * (220 / pitch) ** 0.4, 1.6, 0.006), 0.001, 0.3)
+    return dsp.close(sung(bodies.MARIMBA, pitch, 0.5 * (220 / pitch) ** 0.4, 1.6, 0.004), 0.001, 0.3)
 
 
 def bells(rng, seconds, pitch):
@@ -29,6 +36,12 @@ def bells(rng, seconds, pitch):
 def drops(rng, seconds, pitch):
     """A falling drop whose bubble settles on the pitch."""
     return dsp.close(bodies.plop(pitch * 0.62, pitch, 0.035, 0.07, 0.4), 0.001, 0.1)
+
+
+def brush(rng, seconds, pitch):
+    """Reed stems brushed softly."""
+    t = dsp.times(0.22)
+    return dsp.band(dsp.noise(rng, 0.22), pitch, 2.4 * pitch, 1) * dsp.hump(t, -0.03, 0.2)
 
 
 def bass(rng, seconds, pitch):
@@ -60,13 +73,14 @@ def flute(rng, seconds, pitch):
 
 # Instrument: how it sounds, its gain, its place from left to right, its share of the room, how far its start may stray.
 BAND = {
-    "kalimba": (kalimba, 0.62, -0.12, 0.9, 0.008),
-    "marimba": (marimba, 0.25, 0.28, 0.8, 0.007),
-    "flute": (flute, 0.24, 0.15, 1.2, 0.006),
-    "bells": (bells, 0.07, -0.5, 1.6, 0.01),
-    "drops": (drops, 0.2, 0.6, 1.4, 0.015),
-    "bass": (bass, 0.42, 0.0, 0.3, 0.003),
-    "pad": (pad, 0.030, 0.0, 1.0, 0.02),
+    "kalimba": (kalimba, 1.0, -0.12, 0.8, 0.008),
+    "marimba": (marimba, 0.36, 0.28, 0.7, 0.007),
+    "flute": (flute, 0.14, 0.15, 1.2, 0.006),
+    "bells": (bells, 0.075, -0.5, 1.6, 0.01),
+    "drops": (drops, 0.22, 0.6, 1.4, 0.015),
+    "brush": (brush, 0.05, 0.45, 0.6, 0.01),
+    "bass": (bass, 0.22, 0.0, 0.3, 0.003),
+    "pad": (pad, 0.015, 0.0, 1.0, 0.02),
 }
 
 

@@ -61,11 +61,11 @@ def speedown(rng):
 def beat(rng):
     """One heartbeat, to be looped: the two closing valves as soft blows on a tight skin."""
     ring = dsp.silence(0.8)
-    for at, high, low, tau, gain in ((0.03, 118, 52, 0.075, 1.0), (0.27, 150, 68, 0.05, 0.75)):
+    for at, high, low, tau, gain in ((0.03, 118, 55, 0.05, 1.0), (0.27, 150, 72, 0.034, 0.7)):
         t = dsp.times(0.4)
         skin = np.sin(dsp.turns(low + (high - low) * np.exp(-t / 0.03))) * dsp.decay(t, 0.012, tau)
         valve = dsp.band(dsp.noise(rng, 0.4), 90, 330) * dsp.decay(t, 0.006, 0.018)
-        dsp.ring_place(ring, dsp.close(np.tanh(2.2 * skin + 0.8 * valve), 0.002, 0.1), at, gain)
+        dsp.ring_place(ring, dsp.close(np.tanh(1.5 * skin + 1.2 * valve), 0.002, 0.1), at, gain)
     return dsp.ring_band(ring, None, 900, 1)
 
 
@@ -117,7 +117,7 @@ def laser(rng):
         voice = np.sin(phase + bite * np.sin(1.5 * phase) + 0.5 * bite * np.sin(0.25 * phase))
         sound += dsp.pan(voice * dsp.decay(t, 0.002, 0.11), place)
     sparks = dsp.band(dsp.noise(rng, 0.62), 3000, 10000) * (rng.random(len(t)) < 0.02 * np.exp(-t / 0.15))
-    sound += dsp.pan(2.5 * dsp.band(sparks, 2000, 10000), 0.7 * np.sin(90 * t))
+    sound += dsp.pan(2.5 * dsp.band(sparks, 2000, 10000) * np.exp(-t / 0.2), 0.7 * np.sin(90 * t))
     sound += dsp.pan(bodies.splash(rng, 1500, 9000, 0.0005, 0.012, 0.62), 0)
     return dsp.close(dsp.reverb(sound, dsp.room(rng, 0.5, 8000), 0.2), 0.0005, 0.25)
 
@@ -127,9 +127,9 @@ def warp(rng):
     t = dsp.times(2.0)
     sound = dsp.silence(2.0, 2)
     bend = 1 + 0.05 * np.clip(t / 0.6, 0, 1) ** 2
-    for k in range(26):
-        frequency = 146.8 * (1 + 0.62 * k) ** 1.18 * (1 + 0.01 * rng.standard_normal())
-        peak, tau = 0.3 + 0.32 * k / 26, 0.55 / (1 + 0.05 * k)
+    for k in range(30):
+        frequency = 146.8 * (1 + 0.62 * k) ** 1.32 * (1 + 0.01 * rng.standard_normal())
+        peak, tau = 0.3 + 0.32 * k / 30, 0.45 / (1 + 0.05 * k)
         swell = np.where(t < peak, np.minimum(t / peak, 1) ** 2.2, np.exp(-np.maximum(t - peak, 0) / tau))
         beating = 1 + 0.35 * np.sin(2 * np.pi * (3 + 6 * rng.random()) * t + 6 * rng.random())
         partial = np.sin(dsp.turns(frequency * bend) + 6 * rng.random()) * swell * beating / (1 + 0.09 * k)

@@ -31,7 +31,7 @@ def drop(rng):
 
 def eat(rng):
     """A juicy bite: the skin cracks in many small snaps, the flesh gives way wetly, juice bubbles."""
-    track = dsp.silence(0.34)
+    track = dsp.silence(0.29)
     for _ in range(26):
         at = 0.004 + 0.07 * rng.random() ** 1.3
         snap = bodies.splash(rng, 900, 1800 + 5200 * rng.random(), 0.0006, 0.002 + 0.005 * rng.random(), 0.04)
@@ -42,7 +42,7 @@ def eat(rng):
     dsp.place(track, bodies.plop(150, 95, 0.03, 0.03, 0.12), 0.002, 0.55)
     dsp.place(track, bodies.plop(520, 1350, 0.05, 0.018, 0.1), 0.13, 0.5)
     bodies.spray(rng, track, 0.06, 0.26, 10, 1100, 3200, 0.14, 1.4)
-    return dsp.close(track, 0.0005, 0.08)
+    return dsp.close(track, 0.0005, 0.06)
 
 
 def die(rng):

@@ -46,18 +46,18 @@ def rainloop(rng):
     """Rain on the pond: far drops melt into a hiss, near ones tick on the surface and trap ringing bubbles."""
     seconds = 8.0
     hiss = dsp.noise(rng, seconds, 2)
-    ring = 0.05 * dsp.ring_band(hiss, 1200, 7000, 1) + 0.05 * dsp.ring_band(hiss[:, ::-1], 250, 900, 1)
+    ring = 0.02 * dsp.ring_band(hiss, 1200, 7000, 1) + 0.025 * dsp.ring_band(hiss[:, ::-1], 250, 900, 1)
     t = dsp.times(seconds)
     ring *= (1 + 0.18 * np.sin(2 * np.pi * t / 4) + 0.1 * np.sin(2 * np.pi * 3 * t / 8))[:, None]
     for _ in range(2600):
         tick = bodies.splash(rng, 1500 + 1500 * rng.random(), 9000, 0.0005, 0.001 + 0.004 * rng.random(), 0.02)
-        near = rng.random() ** 3
-        dsp.ring_place(ring, dsp.pan(tick, 1.8 * rng.random() - 0.9), seconds * rng.random(), 0.02 + 0.16 * near)
+        near = rng.random() ** 5
+        dsp.ring_place(ring, dsp.pan(tick, 1.8 * rng.random() - 0.9), seconds * rng.random(), 0.01 + 0.11 * near)
     for _ in range(420):
-        near = rng.random() ** 3
+        near = rng.random() ** 4
         drop = bodies.bubble(700 * 7 ** rng.random(), 0.04 + 0.1 * rng.random(), 1.5 + 2 * rng.random())
-        dsp.ring_place(ring, dsp.pan(drop, 1.8 * rng.random() - 0.9), seconds * rng.random(), 0.04 + 0.3 * near)
-    for _ in range(18):
+        dsp.ring_place(ring, dsp.pan(drop, 1.8 * rng.random() - 0.9), seconds * rng.random(), 0.03 + 0.4 * near)
+    for _ in range(22):
         drip = bodies.plop(330 + 250 * rng.random(), 900 + 500 * rng.random(), 0.06, 0.022, 0.2)
-        dsp.ring_place(ring, dsp.pan(drip, 1.2 * rng.random() - 0.6), seconds * rng.random(), 0.1 + 0.16 * rng.random())
+        dsp.ring_place(ring, dsp.pan(drip, 1.2 * rng.random() - 0.6), seconds * rng.random(), 0.08 + 0.42 * rng.random() ** 3)
     return dsp.ring_reverb(ring, dsp.room(rng, 0.4, 6000), 0.15)
