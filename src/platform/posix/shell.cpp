@@ -12,7 +12,6 @@
 
 namespace
 {
-
 constexpr char OPENER[] = "xdg-open";
 
 HINSTANCE Result(int code)
