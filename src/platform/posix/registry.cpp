@@ -22,6 +22,7 @@ struct HKEY__ {
 
 namespace
 {
+
 constexpr size_t MAX_FILE_BYTES = 1 << 20; // a hundred times what the game stores
 constexpr char HEX_DIGITS[] = "0123456789abcdef";
 

@@ -13,6 +13,7 @@
 
 namespace
 {
+
 constexpr mode_t USER_FILE = 0600;
 constexpr mode_t USER_FOLDER = 0700;
 constexpr int ASIDE_NAMES = 1000;

@@ -12,6 +12,7 @@
 
 namespace
 {
+
 constexpr char OPENER[] = "xdg-open";
 
 HINSTANCE Result(int code)
