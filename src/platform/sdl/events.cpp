@@ -10,7 +10,6 @@
 
 namespace
 {
-
 std::atomic<bool> focused = true;
 
 void LoseFocus()
@@ -75,8 +74,7 @@ void HandleEvent(const SDL_Event& event)
         break;
     }
 }
-
-} // namespace
+}
 
 bool WindowHasFocus()
 {

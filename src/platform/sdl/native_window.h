@@ -28,6 +28,9 @@ HWND NativeHandle();
 /// Null when the handle is not the open window's.
 NativeWindow* WindowOf(HWND window);
 
+/// Sizes the client area and the frame shown in it, pixels.
+void SetClientSize(NativeWindow& window, SDL_Point size);
+
 /// Gives the window the size that the game set, after the user or the window manager changed it.
 void KeepClientSize();
 
