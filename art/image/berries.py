@@ -103,15 +103,15 @@ def purple(u, v):
     return colour
 
 
-METAL = [(0.0, rgb("3a2000")), (0.25, rgb("9a6208")), (0.42, rgb("f6c93a")), (0.50, rgb("7c4a06")),
-         (0.60, rgb("e8b020")), (0.80, rgb("fff2a8")), (1.0, rgb("ffffff"))]
+METAL = [(0.0, rgb("3a2000")), (0.18, rgb("a06608")), (0.36, rgb("ffd648")), (0.43, rgb("5c3400")),
+         (0.55, rgb("b87c0c")), (0.74, rgb("ffd84a")), (0.90, rgb("fff4b8")), (1.0, rgb("ffffff"))]
 
 
 def golden(u, v):
     """Polished gold mirrors a banded sky: bright above, a dark horizon, a warm ground."""
     x, y, z = sphere(u, v, RADIUS)
     lit = x * LIGHT[0] + y * LIGHT[1] + z * LIGHT[2]
-    colour = ramp(METAL, clip(lit * 0.62 + 0.36))
+    colour = ramp(METAL, clip(lit * 0.60 + 0.33))
     ring = smooth(0.10, 0.0, np.abs(np.hypot(u + 0.02, v + 0.02) - 0.52))
     colour = mix(colour, rgb("fff6c8"), 0.55 * ring)
     colour = mix(colour, rgb("4a2a00"), 0.7 * smooth(0.30, 0.02, z))
@@ -145,6 +145,12 @@ def object_picture(kind, size):
     return shrink(DRAW[kind](u * inward, v * inward), fine), shrink(alpha, fine)
 
 
+def ripe(kind):
+    """The picture in the pond. Black outside its rim, since the game also adds it to itself to make it blink."""
+    picture, alpha = object_picture(kind, CELL)
+    return picture * clip(2 * alpha)[..., None], alpha
+
+
 def falling_frame(kind, frame):
     """A berry on its way down: frame 1 large and soft, frame 14 the ripe berry itself.
 
@@ -152,12 +158,10 @@ def falling_frame(kind, frame):
     the berry comes in on a slant over its own shadow, which approaches from the same side.
     """
     left = FRAMES - frame
-    size = falling_size(frame)
-    picture, alpha = object_picture(kind, size)
-    if left:
-        alpha = blur(np.pad(alpha, 4), 0.14 * left)[4:-4, 4:-4]
-        picture = blur(picture, 0.12 * left)
-    return picture, alpha
+    if not left:
+        return ripe(kind)
+    picture, alpha = object_picture(kind, falling_size(frame))
+    return blur(picture, 0.12 * left), blur(np.pad(alpha, 4), 0.14 * left)[4:-4, 4:-4]
 
 
 def shadow():
@@ -169,8 +173,8 @@ def shadow():
 
 def render():
     for kind in COLOURS + ("golden",):
-        save_jpeg(f"bean_{kind}.jpg", object_picture(kind, CELL)[0], dither=False)
-    picture, alpha = object_picture("stone", CELL)
+        save_jpeg(f"bean_{kind}.jpg", ripe(kind)[0], dither=False)
+    picture, alpha = ripe("stone")
     save_jpeg("stone.jpg", picture, dither=False)
     save_mask("mask.bmp", alpha)
     for frame in range(1, FRAMES + 1):

@@ -115,11 +115,6 @@ def put(picture, sprite, alpha, x, y, strength=1.0):
         lay(picture[y + top:y + h, x + left:x + w], sprite[top:h, left:w], alpha[top:h, left:w] * strength)
 
 
-def glow(picture, colour, amount):
-    """Adds light, softly limited, in place."""
-    picture[...] = 1 - (1 - picture) * (1 - clip(np.asarray(colour) * amount[..., None]))
-
-
 # ---- letters -------------------------------------------------------------------------------------
 
 def font(size, weight="Bold"):

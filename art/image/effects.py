@@ -44,7 +44,7 @@ def head_light():
     u, v = disc_grid(LIGHT, 2)
     r = shrink(np.hypot(u, v), 2)
     fall = smooth(0.98, 0.0, r) ** 1.6
-    return fall[..., None] * np.array([0.50, 0.47, 0.33])
+    return fall[..., None] * np.array([0.42, 0.43, 0.27])
 
 
 def popup(text):
@@ -84,8 +84,8 @@ def moon(seed, phase):
     ground = craters(x, y, seed, 70)
     gy, gx = np.gradient(ground, 2.0 / u.shape[0])
     seas = smooth(0.50, 0.62, noise(*u.shape, u.shape[0] / 3.2, seed + 1, 4))
-    tone = mix(rgb("fff8dc"), rgb("a9ad9c"), 0.75 * seas)
-    tone = tone * (0.80 + 0.20 * z + clip(-(gx + gy) * 0.07, -0.16, 0.12))[..., None]
+    tone = mix(rgb("fff8dc"), rgb("8f9788"), 0.85 * seas)
+    tone = tone * (0.80 + 0.20 * z + clip(-(gx + gy) * 0.05, -0.10, 0.08))[..., None]
     lit = np.ones_like(r) if phase == 0 else smooth(-0.10, 0.14, -x + phase * z - 0.10)
     tone = mix(tone * np.array([0.16, 0.22, 0.27]), tone, lit)
     halo = smooth(1.16, 0.98, r) * 0.45 * (lit if phase else 1)

@@ -3,12 +3,12 @@ import numpy as np
 
 from canvas import box_distance, clip, cover, lay, mix, put, rgb, save_jpeg, smooth, write
 from effects import flight, moon, popup
-from glass import DEEP, GOLD, PANE, RIM, SOFT, TEXT, button, heading, pane, rule, well
-from icons import heart, key_cap
+from glass import GOLD, RIM, SOFT, TEXT, button, pane, rule, well
+from icons import heart, key_cap, triangle
 from layout import HELP_BACK, HELP_SIZE, HELP_TABS
+from panels import progress
 from scenes import berry, cells, frame, snake, window
-from snakes import (COOL, EAT, LEFT, LEFT_FRONT, NEUTRAL, RIGHT, RIGHT_FRONT, TURNS, WARM, arrow, bead, bumped_head,
-                    head)
+from snakes import COOL, LEFT_FRONT, TURNS, WARM, arrow, bead, bumped_head
 
 TABS = ("Steering", "Berries", "Stones", "Levels")
 LINE = 16
@@ -51,7 +51,6 @@ def section(picture, x, y, text):
 
 def arrow_glyph(picture, cx, cy, way):
     """A slim arrow printed on a key."""
-    from icons import triangle
     ink = rgb("0c302e")
     dx, dy = {"up": (0, -1), "down": (0, 1), "left": (-1, 0), "right": (1, 0)}[way]
     triangle(picture, cx + dx * 2, cy + dy * 2, 4, way, ink)
@@ -116,7 +115,7 @@ def steering():
 
 
 EFFECTS = (
-    ("red", "Speed-up", "Twice as fast, and 5 more points for every berry -", "until you eat a red one again."),
+    ("red", "Speed-up", "Twice as fast and 5 more points a berry,", "until you eat a red one again."),
     ("green", "Fade", "The five oldest stones in the pond", "turn back into berries."),
     ("blue", "Rain", "Five more berries fall, and while it rains", "every berry is worth 10 points more."),
     ("orange", "Laser", "A ball of light flies ahead of you and turns", "the first thing it hits into gold."),
@@ -142,13 +141,14 @@ def stones():
     picture = page(2)
     box = (22, 50, 140, 88)
     view = window(picture, box, (160, 200))
-    path = [(28 + 16 * (s if r % 2 == 0 else 5 - s), 20 + 16 * r) for r in range(3) for s in range(6)]
-    for cx, cy in path[::-1][1:12]:
+    beads = cells((126, 68), "u" + "l" * 7 + "u" + "r" * 7 + "u" + "l" * 7)
+    for cx, cy in beads[5:]:
         berry(view, "stone", cx, cy, 16)
-    snake(view, cells((28, 68), "rrrr"), 16, TURNS["left"])
+    snake(view, beads[:5], 16, TURNS["down"])
     frame(picture, box)
     section(picture, 180, 60, "Too long freezes")
-    lines(picture, 180, 82, ("At 25 beads the tail freezes: 20 beads become", "stones, and 5 swim on. At 24 your heart beats",
+    lines(picture, 180, 82, ("At 25 beads the tail freezes: 20 beads become",
+                             "stones, and 5 swim on. At 24 your heart beats",
                              "and the length blinks - shrink in time!"))
 
     rule(picture, 20, 148, 460)
@@ -173,19 +173,21 @@ def stones():
     put(view, arrow_sign, (arrow_sign.min(axis=2) < 1).astype(float), 78, 66)
     frame(picture, box)
     section(picture, 180, 252, "Gold")
-    lines(picture, 180, 274, ("A golden berry is worth 35 points, but it breaks", "your streak. Only the laser makes gold, of stones",
-                              "and of berries. A laser that hits gold sets off", "a wave that sweeps the water around it clear."))
+    lines(picture, 180, 274, ("A golden berry is worth 35 points, but it breaks",
+                              "your streak. Only the laser makes gold, of stones",
+                              "and of berries. A laser that hits gold sets off",
+                              "a wave that sweeps the water around it clear."))
     return picture
 
 
 def levels():
     picture = page(3)
     section(picture, 22, 56, "Levels")
-    lines(picture, 22, 78, ("Fill the bar up to the target to clear the level:", "500, 1500, 3000, 5000 ... Two players share it.",
+    lines(picture, 22, 78, ("Fill the bar up to the target to clear the level:",
+                            "500, 1500, 3000, 5000 ... Two players share it.",
                             "The snakes curl up, new berries fall -", "but the stones stay."))
     x = 402
     well(picture, (x, 48, 19, 92), 6, 0.75)
-    from panels import progress
     bar = progress()[313 - 60:]
     picture[79:139, x:x + 19] = bar
     write(picture, x + 30, 55, "Target", 12, GOLD, "Bold", "lm")
@@ -201,14 +203,16 @@ def levels():
     rule(picture, 20, 216, 460)
 
     section(picture, 22, 232, "Scores")
-    lines(picture, 22, 254, ("Rain, speed and gold add up to 50 points a berry.", "The ten best one-player games enter the ranking."))
+    lines(picture, 22, 254, ("Rain, speed and gold add up to 50 points a berry.",
+                             "The ten best one-player games enter the ranking."))
     for place, text in enumerate(("+5", "+10", "+35", "+45")):
         badge, alpha = popup(text)
         put(picture, badge, alpha, 376 + 48 * (place % 2), 236 + 22 * (place // 2))
     rule(picture, 20, 282, 460)
 
     section(picture, 22, 298, "Night")
-    lines(picture, 22, 320, ("Dusk falls every few minutes. Then only the snakes'", "own light and the rising moon show the way."))
+    lines(picture, 22, 320, ("After a while dusk falls. Then only the snakes'",
+                             "own light and the rising moon show the way."))
     box = (352, 290, 126, 66)
     view = window(picture, box, (60, 60), dim=0.24)
     sprite, alpha = moon(41, 0)

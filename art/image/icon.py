@@ -5,7 +5,8 @@ import struct
 import numpy as np
 from PIL import Image
 
-from canvas import ROOT, blur, clip, disc_grid, exact, mix, put, rgb, shrink, smooth
+from berries import object_picture
+from canvas import ROOT, clip, disc_grid, exact, put, rgb, shrink, smooth
 from snakes import NEUTRAL, RIGHT_FRONT, WARM, bead, head
 
 ICON = ROOT / "packaging" / "tervalis.ico"
@@ -18,7 +19,6 @@ def drawn(size):
     if size < 32:
         picture, alpha = head(0, NEUTRAL, size)
         return np.concatenate([picture, alpha[..., None]], axis=2)
-    from berries import object_picture
     picture, alpha = np.zeros((size, size, 3)), np.zeros((size, size))
 
     def place(sprite, mask, cx, cy):

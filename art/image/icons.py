@@ -1,5 +1,6 @@
 """Small signs used on the panels and pages: hearts, key caps, triangles."""
 import numpy as np
+from scipy import ndimage
 
 from canvas import box_distance, clip, cover, lay, mix, polygon, rgb, shrink, smooth, write
 
@@ -12,7 +13,7 @@ def heart(width, height=None):
     u, v = (x / (width * fine) * 2 - 1) * 1.22, (1 - y / (height * fine) * 2) * 1.18 + 0.12
     field = (u * u + v * v - 1) ** 3 - u * u * v ** 3
     alpha = smooth(0.02, -0.02, field)
-    depth = clip(-field * 1.6)
+    depth = ndimage.distance_transform_edt(alpha > 0.5) / (fine * height) * 4
     colour = mix(rgb("8a0014"), rgb("ff3a4e"), smooth(0.0, 0.55, depth))
     colour = mix(colour, rgb("ffb0a0"), 0.5 * smooth(0.2, -0.9, v) * smooth(0.1, 0.6, depth))
     colour = mix(colour, rgb("ffffff"), 0.9 * smooth(0.26, 0.12, np.hypot(u + 0.52, (v - 0.50) * 1.2)))

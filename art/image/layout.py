@@ -29,10 +29,9 @@ KEY_FIELDS = (
     ("Player 2", (("up", 208, 88), ("down", 208, 128), ("left", 168, 128), ("right", 248, 128))),
 )
 
-# Ranking page: ten rows, a name and a score field in each, text centred in them.
+# Ranking page: (x of the name, x of the score, y) of the ten rows; text is centred 10 pixels right of x.
 RANKING_SIZE = (320, 310)
 RANKING_ROWS = tuple((150, 260, 48 + 20 * place) for place in range(10))
-RANKING_FIELD = (20, 16)
 RANKING_OK = ("OK", (133, 283, 54, 14))
 
 # Help pages.

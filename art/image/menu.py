@@ -1,10 +1,10 @@
 """The main menu, the options page and the ranking page, with the pictures of their lit buttons."""
 import numpy as np
 
-from canvas import blur, box_distance, clip, cover, lay, mix, noise, rgb, save_jpeg, smooth, text_alpha, write
-from glass import DEEP, GOLD, PANE, RIM, SOFT, TEXT, button, heading, pane, rule, well
-from icons import key_cap, triangle
-from layout import (HOME_PAGE, KEY_FIELD, KEY_FIELDS, MENU_BUTTONS, OPTIONS_BUTTONS, OPTIONS_SIZE, RANKING_FIELD,
+from canvas import blur, box_distance, clip, cover, lay, mix, rgb, save_jpeg, smooth, text_alpha, write
+from glass import DEEP, GOLD, RIM, SOFT, TEXT, button, heading, pane, rule, well
+from icons import triangle
+from layout import (HOME_PAGE, KEY_FIELD, KEY_FIELDS, MENU_BUTTONS, OPTIONS_BUTTONS, OPTIONS_SIZE,
                     RANKING_OK, RANKING_ROWS, RANKING_SIZE, TOGGLES)
 from pond import trace_bed, under_water
 from scenes import berry, snake
@@ -99,9 +99,9 @@ def key_field(picture, way, x, y):
     lay(picture, mix(rgb("0a2e2d"), rgb("0e4442"), down), cover(inner))
     lay(picture, RIM, cover(np.abs(edge + 0.5) - 0.5) * 0.8)
     middle = KEY_FIELD / 2
-    cx, cy = {"up": (middle, -5), "down": (middle, KEY_FIELD + 5), "left": (-5, middle),
-              "right": (KEY_FIELD + 5, middle)}[way]
-    triangle(picture, x + cx, y + cy, 3.2, way, GOLD)
+    cx, cy = {"up": (middle, -4.5), "down": (middle, KEY_FIELD + 4.5), "left": (-4.5, middle),
+              "right": (KEY_FIELD + 4.5, middle)}[way]
+    triangle(picture, x + cx, y + cy, 2.8, way, GOLD)
 
 
 def options():
@@ -135,8 +135,8 @@ def ranking():
     medals = (rgb("ffd84a"), rgb("dfe8ea"), rgb("e09a58"))
     for place, (name_x, score_x, y) in enumerate(RANKING_ROWS):
         well(picture, (28, y - 1, 36, 18), 9, 0.45)
-        well(picture, (72, y - 1, 158, 18), 6, 0.45)
-        well(picture, (score_x - 25, y - 1, 70, 18), 6, 0.45)
+        well(picture, (name_x - 68, y - 1, 156, 18), 6, 0.45)
+        well(picture, (score_x - 18, y - 1, 56, 18), 6, 0.45)
         colour = medals[place] if place < 3 else TEXT
         write(picture, 46, y + 8, str(place + 1), 13, colour, "Black", "mm")
     label, box = RANKING_OK

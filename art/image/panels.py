@@ -2,13 +2,14 @@
 import numpy as np
 
 from berries import CELL, COLOURS, object_picture
-from canvas import blur, box_distance, clip, cover, lay, mix, put, rgb, save_bmp, save_jpeg, save_keyed, smooth, write
-from glass import DEEP, GOLD, SOFT, TEXT, button, heading, pane, rule, well
+from canvas import (box_distance, clip, cover, lay, mix, put, quantise, rgb, save_bmp, save_jpeg, save_keyed, smooth,
+                    write)
+from glass import GOLD, SOFT, button, heading, pane, rule, well
 from icons import heart
 from layout import (CENSUS, CONFIRM_BUTTONS, LENGTH, LEVEL, LIVES, MESSAGE_SIZE, NEXT_LEVEL_FIELDS, NEXT_LEVEL_SIZE,
                     PAUSED_BUTTONS, PLAYER_STEP, PROGRESS, SCORE, STREAK, STREAK_STEP, STRIP_BUTTONS, STRIP_SIZE,
                     TARGET)
-from snakes import COOL, WARM, NEUTRAL, bead, bumped_head, head
+from snakes import COOL, WARM, bead, bumped_head
 
 HEART, STREAK_ICON = (14, 12), 11
 
@@ -30,7 +31,7 @@ def player_block(picture, number, drop):
             middle = y + STREAK_ICON / 2
         else:
             middle = y + 6.5
-            well(picture, (x - 3, y + drop, 74, 14), 3, 0.45)
+            well(picture, (x - 3, y + drop - (caption == "Lives"), 78, 14), 3, 0.45)
         write(picture, 42, middle + drop, caption, 10, SOFT, "Bold", "rm")
     for step in range(5):
         cx, cy = STREAK[0] + STREAK_STEP * step + 5.5, STREAK[1] + drop + 5.5
@@ -50,8 +51,8 @@ def strip():
         well(picture, (x - 3, y, 22, 14), 3, 0.45)
         berry(picture, kind, x - 22, y - 1)
 
-    write(picture, TARGET[0], TARGET[1] - 10, "Target", 11, SOFT, "Bold", "mm")
-    well(picture, (TARGET[0] - 19, TARGET[1], 38, 14), 3)
+    write(picture, TARGET[0], TARGET[1] - 11, "Target", 11, SOFT, "Bold", "mm")
+    well(picture, (TARGET[0] - 18, TARGET[1] - 2, 37, 13), 3)
     x, y, w, h = PROGRESS
     well(picture, (x - 2, y, w + 4, h), 6, 0.75)
     write(picture, LEVEL[0], LEVEL[1] - 7, "Level", 11, SOFT, "Bold", "mm")
@@ -114,7 +115,7 @@ def messages():
 
 def render():
     picture = strip()
-    save_bmp("LeftPanel.bmp", picture)
+    save_bmp("LeftPanel.bmp", quantise(picture) / 255.0)
     save_jpeg("Progress.jpg", progress())
     for name, panel in messages().items():
         save_jpeg(f"Message{name}.jpg", panel)

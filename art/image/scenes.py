@@ -3,7 +3,7 @@ import numpy as np
 from PIL import Image
 
 from berries import object_picture
-from canvas import IMAGES, blur, box_distance, clip, cover, lay, put, rgb, smooth
+from canvas import IMAGES, box_distance, clip, cover, lay, put, rgb, smooth
 from snakes import COOL, NEUTRAL, WARM, bead, head
 
 

@@ -20,7 +20,7 @@ ORDER = {
 GAZE = {NEUTRAL: (0.0, -0.55), LEFT_FRONT: (-0.80, -0.60), LEFT: (-1.0, 0.10),
         RIGHT_FRONT: (0.80, -0.60), RIGHT: (1.0, 0.10)}
 
-SKIN, SKIN_SHADE, SKIN_LIGHT = rgb("56b83c"), rgb("0e3c1a"), rgb("dcff96")
+SKIN, SKIN_SHADE, SKIN_LIGHT = rgb("74d23a"), rgb("0e4420"), rgb("e8ffa0")
 INK = rgb("06140e")
 EYE_X, EYE_Y, EYE = 0.47, -0.16, 0.47
 
@@ -65,7 +65,7 @@ def eye(colour, a, b, cx, gaze, up_left, size=EYE, pupil=0.58):
 def closed_eye(colour, a, b, cx):
     """Squeezed shut with delight: an arc, open toward the back."""
     r = np.hypot(a - cx, b - EYE_Y - 0.20)
-    arc = smooth(0.15, 0.08, np.abs(r - 0.32)) * smooth(0.10, -0.02, b - EYE_Y - 0.16)
+    arc = smooth(0.14, 0.07, np.abs(r - 0.29)) * smooth(0.10, -0.02, b - EYE_Y - 0.16)
     return mix(colour, INK, arc)
 
 
@@ -87,7 +87,7 @@ def head(quarters, look, size):
     if look == EAT:
         colour = mouth(colour, a, b)
         for side in (-1, 1):
-            colour = closed_eye(colour, a, b, side * EYE_X * 0.92)
+            colour = closed_eye(colour, a, b, side * EYE_X)
     else:
         for side in (-1, 1):
             colour = eye(colour, a, b, side * EYE_X, GAZE[look], up_left)
@@ -118,15 +118,15 @@ def bumped_head(quarters, size):
     for t in (-2.30, -1.57, -0.84):
         sx, sy = 0.86 * 1.22 * np.cos(t), 0.80 * 1.62 * np.sin(t) - 0.08
         ra, rr = np.arctan2(b - sy, a - sx), np.hypot((a - sx) / 1.22, (b - sy) / 1.62)
-        star = 0.10 + 0.09 * np.cos(ra * 5 + 1.57)
+        star = 0.125 + 0.10 * np.cos(ra * 5 + 1.57)
         colour = mix(colour, rgb("7a4a00"), smooth(star + 0.07, star + 0.02, rr))
-        colour = mix(colour, rgb("ffe04a"), smooth(star + 0.02, star - 0.02, rr))
+        colour = mix(colour, rgb("ffe850"), smooth(star + 0.03, star - 0.02, rr))
         alpha = np.maximum(alpha, smooth(star + 0.08, star + 0.03, rr))
     return shrink(colour, fine), shrink(alpha, fine)
 
 
-WARM = (rgb("ff7a10"), rgb("ffd070"), rgb("ffe8b0"))
-COOL = (rgb("1450ff"), rgb("64a8ff"), rgb("d0f0ff"))
+WARM = (rgb("ff5206"), rgb("ffa838"), rgb("ffdc90"))
+COOL = (rgb("0c3cff"), rgb("509cff"), rgb("c8ecff"))
 
 
 def bead(light, size, ring):

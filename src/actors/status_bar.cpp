@@ -7,12 +7,12 @@
 #include "res/image_loader.h"
 #include "sound/sound.h"
 
+#include <functional>
 #include <iterator>
 #include <new>
 
 namespace
 {
-
 constexpr int FONT_HEIGHT = 13;
 constexpr int FONT_WIDTH = 5;
 constexpr int FONT_LEVELS = 16;
@@ -133,8 +133,7 @@ bool AddHelpButtons(CMenu& panel, int page)
     }
     return ok;
 }
-
-} // namespace
+}
 
 CStatusBar::~CStatusBar()
 {
@@ -160,9 +159,10 @@ bool CStatusBar::DataLoad(bool& done)
     };
     constexpr int stepCount = static_cast<int>(std::size(steps));
     if (loadStep < stepCount) {
-        if (!(this->*steps[loadStep].load)())
+        const Step& step = steps[loadStep];
+        if (!std::invoke(step.load, this))
             return false;
-        WriteLog(steps[loadStep].logLine);
+        WriteLog(step.logLine);
         ++loadStep;
     }
     if (loadStep == stepCount)

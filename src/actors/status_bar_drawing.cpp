@@ -8,7 +8,6 @@
 
 namespace
 {
-
 constexpr uint16_t WHITE = 0xFFFF;
 constexpr uint16_t GREY = 0xCE59;
 
@@ -68,8 +67,7 @@ struct Figure {
     explicit Figure(int value) { std::snprintf(text, sizeof text, "%d", value); }
     char text[12];
 };
-
-} // namespace
+}
 
 void CStatusBar::StatusBarDraw(CImage& screen)
 {

@@ -9,7 +9,6 @@
 
 namespace
 {
-
 constexpr int SLIDE_SPEED = 20; ///< pixels a frame, downward
 constexpr int END_FADE_FRAMES = 125;
 constexpr int SPLASH_RADIUS = 8; ///< of a berry that a level's end takes away
@@ -50,8 +49,7 @@ void ShowNumber(CMenu& panel, int textId, int number)
 {
     std::snprintf(panel.FindText(textId)->text.get(), MENU_TEXT_SIZE, "%d", number);
 }
-
-} // namespace
+}
 
 bool CStatusBar::IsAnyCoiling() const
 {

@@ -8,7 +8,6 @@
 
 namespace
 {
-
 /// True once for a press of the key.
 bool TakeKey(int key)
 {
@@ -32,8 +31,7 @@ bool IsClicked(CMenu& panel, int button)
 {
     return panel.FindButton(button)->clicked;
 }
-
-} // namespace
+}
 
 void CStatusBar::ShowPanel(CMenu& panel)
 {

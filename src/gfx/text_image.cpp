@@ -8,7 +8,6 @@
 
 namespace
 {
-
 /// Bytes that a glyph's buffer has beyond the glyph: the blit reads whole groups of four.
 constexpr uint32_t GLYPH_SLACK = 8;
 /// Codes up to this one (spaces, control codes) move the pen but are not drawn.
@@ -62,8 +61,7 @@ bool RenderGlyph(CGlyph& glyph, HDC dc, uint32_t code, int ascent)
     glyph.offsetY = static_cast<int32_t>(metrics.gmptGlyphOrigin.y - ascent);
     return true;
 }
-
-} // namespace
+}
 
 CTextImage::~CTextImage()
 {

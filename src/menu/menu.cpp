@@ -4,7 +4,6 @@
 
 namespace
 {
-
 template <typename Item>
 Item* FindItem(Item* items, int count, int id)
 {
@@ -14,8 +13,7 @@ Item* FindItem(Item* items, int count, int id)
     }
     return nullptr;
 }
-
-} // namespace
+}
 
 CMenu::~CMenu()
 {

@@ -7,7 +7,6 @@
 
 namespace
 {
-
 // What buttons and toggles have in common.
 
 template <typename Item>
@@ -82,8 +81,7 @@ bool TakeClick(const Item* hovered)
     input.mouseLeftDown = false;
     return true;
 }
-
-} // namespace
+}
 
 void CMenu::MenuProcess(CImage& target)
 {

@@ -7,7 +7,6 @@
 
 namespace
 {
-
 // The cursor shows in the first frames of each period.
 constexpr int CURSOR_PERIOD = 10;
 constexpr int CURSOR_SHOWN = 6;
@@ -91,8 +90,7 @@ void TypeText(MenuText& item)
     else if (IsNameCharacter(input.lastChar) || input.lastKeyDown == VK_SPACE)
         Append(item, input.lastChar);
 }
-
-} // namespace
+}
 
 POINT CMenu::DrawTextItem(CImage& target, const MenuText& item, uint16_t colour) const
 {

@@ -62,53 +62,49 @@ TEST_F(PondCells, DrawColourThenCell)
     EXPECT_EQ(RandomState(), after);
 }
 
-struct LookCase {
-    int headColumn, headRow;
+/// What the head makes of one berry beside it, for the eight places around it, row by row.
+struct LookRow {
     int heading;
-    std::vector<int> berries; ///< cells
+    int eyeFrames[9];
+};
+struct LookCase {
+    int heading;
+    int head; ///< cell
+    std::vector<int> berries;
     int eyeFrame;
+    const char* why;
 };
 
 TEST_F(PondCells, LookAtBerriesBesideTheHead)
 {
-    constexpr int c = 10 * CELL_COLUMNS + 10;
-    const LookCase cases[] = {
-        { 10, 10, HEADING_LEFT, { c + 30 }, 3 },
-        { 10, 10, HEADING_LEFT, { c + 29 }, 2 },
-        { 10, 10, HEADING_LEFT, { c - 30 }, 5 },
-        { 10, 10, HEADING_LEFT, { c - 31 }, 4 },
-        { 10, 10, HEADING_LEFT, { c - 1, c + 1, c - 29, c + 31 }, 0 }, // ahead, behind, behind's sides
-        { 10, 10, HEADING_LEFT, { c - 31, c - 30, c + 29 }, 2 },       // the first test that holds counts
-        { 10, 10, HEADING_UP, { c - 1 }, 3 },
-        { 10, 10, HEADING_UP, { c - 31 }, 2 },
-        { 10, 10, HEADING_UP, { c + 1 }, 5 },
-        { 10, 10, HEADING_UP, { c - 29 }, 4 },
-        { 10, 10, HEADING_UP, { c - 30, c + 29, c + 30, c + 31 }, 0 },
-        { 10, 10, HEADING_RIGHT, { c - 30 }, 3 },
-        { 10, 10, HEADING_RIGHT, { c - 29 }, 2 },
-        { 10, 10, HEADING_RIGHT, { c + 30 }, 5 },
-        { 10, 10, HEADING_RIGHT, { c + 31 }, 4 },
-        { 10, 10, HEADING_DOWN, { c - 1 }, 5 },
-        { 10, 10, HEADING_DOWN, { c + 29 }, 4 },
-        { 10, 10, HEADING_DOWN, { c + 1 }, 3 },
-        { 10, 10, HEADING_DOWN, { c + 31 }, 2 },
-        { 10, 10, HEADING_DOWN, { c - 1, c + 1 }, 5 }, // its right side first
-        { 10, 10, 13, { c - 1, c + 1, c - 30, c + 30 }, 0 },
-        // No look around the pond's edges
-        { 0, 10, HEADING_UP, { 10 * CELL_COLUMNS - 1, 9 * CELL_COLUMNS - 1 }, 0 },
-        { 0, 10, HEADING_LEFT, { 11 * CELL_COLUMNS - 1, 9 * CELL_COLUMNS - 1 }, 0 },
-        { 29, 10, HEADING_DOWN, { 11 * CELL_COLUMNS, 12 * CELL_COLUMNS }, 0 },
-        { 5, 0, HEADING_RIGHT, { 35 }, 5 },
-        { 5, 29, HEADING_LEFT, { 28 * CELL_COLUMNS + 4 }, 4 },
+    constexpr int head = 10 * CELL_COLUMNS + 10;
+    constexpr LookRow rows[] = {
+        { HEADING_LEFT, { 4, 5, 0, 0, 0, 0, 2, 3, 0 } },
+        { HEADING_UP, { 2, 0, 4, 3, 0, 5, 0, 0, 0 } },
+        { HEADING_RIGHT, { 0, 3, 2, 0, 0, 0, 0, 5, 4 } },
+        { HEADING_DOWN, { 0, 0, 0, 5, 0, 3, 4, 0, 2 } },
+        { 13, { 0, 0, 0, 0, 0, 0, 0, 0, 0 } },
     };
+    std::vector<LookCase> cases = {
+        { HEADING_LEFT, head, { head - 30, head + 29 }, 2, "the first test that holds counts" },
+        { HEADING_DOWN, head, { head - 1, head + 1 }, 5, "down looks at its right side first" },
+        { HEADING_UP, 10 * 30, { 10 * 30 - 1, 9 * 30 - 1 }, 0, "not around the left edge" },
+        { HEADING_DOWN, 10 * 30 + 29, { 11 * 30, 12 * 30 }, 0, "not around the right edge" },
+        { HEADING_LEFT, 5, { 35 }, 3, "top row" },
+        { HEADING_LEFT, 29 * 30 + 5, { 28 * 30 + 4 }, 4, "bottom row" },
+    };
+    for (const LookRow& row : rows)
+        for (int i = 0; i < 9; ++i)
+            if (i != 4)
+                cases.push_back({ row.heading, head, { head + (i / 3 - 1) * 30 + i % 3 - 1 }, row.eyeFrames[i], "" });
     for (const LookCase& look : cases) {
-        StartGame(0);
+        pond.NewGame(0, KEYS, KEYS + 4);
         for (const int cell : look.berries)
             MakeRipe(pond.cells[cell], RED);
         int colour = -1;
         int eyeFrame = -1;
-        EXPECT_FALSE(pond.EatAt(look.headColumn * CELL_SIZE, look.headRow * CELL_SIZE, colour, look.heading, eyeFrame));
-        EXPECT_EQ(eyeFrame, look.eyeFrame) << "case " << &look - cases;
+        EXPECT_FALSE(pond.EatAt(pond.cells[look.head].x, pond.cells[look.head].y, colour, look.heading, eyeFrame));
+        EXPECT_EQ(eyeFrame, look.eyeFrame) << look.heading << " at " << look.berries[0] - look.head << look.why;
     }
 }
 
@@ -163,6 +159,7 @@ TEST_F(PondCells, FadeTheOldestStonesFirst)
     MakeStone(pond.cells[700]);
     EXPECT_EQ(pond.cells[700].age, 10);
 
+    pond.cells[500].splashed = true; // by the berry it was
     pond.FadeStones(0);
     EXPECT_EQ(pond.CountStones(), 4);
     pond.FadeStones(1);
@@ -184,17 +181,16 @@ TEST_F(PondCells, CountSegmentsAndStonesAsOccupants)
 {
     StartGame(1);
     PlaceHead(0, 64, 64);
-    const auto [x, y] = std::pair(64, 64);
-    Cell& cell = pond.cells[CellAt(x, y)];
-    EXPECT_FALSE(pond.IsOccupied(x, y)) << "the head alone";
+    Cell& cell = CellIn(4, 4);
+    EXPECT_FALSE(pond.IsOccupied(64, 64)) << "the head alone";
     MakeRipe(cell, RED);
-    EXPECT_FALSE(pond.IsOccupied(x, y)) << "a berry does not count";
+    EXPECT_FALSE(pond.IsOccupied(64, 64)) << "a berry does not count";
     MakeStone(cell);
-    EXPECT_TRUE(pond.IsOccupied(x, y));
+    EXPECT_TRUE(pond.IsOccupied(64, 64));
     cell.occupied = false;
     PlaceHead(1, 70, 79);
-    EXPECT_TRUE(pond.IsOccupied(x, y)) << "the other snake's head touches the cell";
+    EXPECT_TRUE(pond.IsOccupied(64, 64)) << "the other snake's head is in the cell";
     pond.players = 0;
-    EXPECT_FALSE(pond.IsOccupied(x, y)) << "that snake is not in play";
+    EXPECT_FALSE(pond.IsOccupied(64, 64)) << "that snake is not in play";
 }
 }

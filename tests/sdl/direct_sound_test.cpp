@@ -140,6 +140,24 @@ TEST_F(DirectSoundTest, FadesOutWhatIsReleasedWhilePlaying)
         ASSERT_LE(std::abs(played[i] - played[i - 1]), 130) << i;
 }
 
+TEST_F(DirectSoundTest, GoesOnWithoutADeviceThatVanishes)
+{
+    std::exchange(device, nullptr)->Release();
+    SDL_setenv("SDL_DISKAUDIOFILE", "/dev/full", 1); // a failed write is how that driver loses its device
+    ASSERT_EQ(DirectSoundCreate(nullptr, &device, nullptr), DS_OK);
+    for (int i = 0; i < 1000 && !SDL_HasEvent(SDL_AUDIODEVICEREMOVED); ++i, SDL_PumpEvents())
+        SDL_Delay(5);
+    ASSERT_TRUE(SDL_HasEvent(SDL_AUDIODEVICEREMOVED));
+    IDirectSoundBuffer* const buffer = Add(std::vector<int16_t>(300, 16000));
+    EXPECT_EQ(buffer->Play(0, 0, DSBPLAY_LOOPING), DS_OK);
+    EXPECT_EQ(buffer->Stop(), DS_OK);
+    EXPECT_EQ(buffer->Play(0, 0, 0), DS_OK);
+    buffer->Release();
+    const Uint32 before = SDL_GetTicks();
+    std::exchange(device, nullptr)->Release();
+    EXPECT_LT(SDL_GetTicks() - before, 1000u);
+}
+
 TEST_F(DirectSoundTest, BuffersMayComeAndGoWhileTheDeviceMixes)
 {
     IDirectSoundBuffer* const lasting = Add({ 1, 2, 3 });

@@ -111,6 +111,18 @@ TEST_F(MixerTest, InterpolatesTowardTheStartOfALoopAndTowardSilenceAtAnEnd)
     EXPECT_EQ(MixMono(5), (Samples{ 1000, 2000, 3000, 1500, 0 }));
 }
 
+TEST_F(MixerTest, KeepsTheFractionAcrossTheSeamAndStartsAgainWithoutIt)
+{
+    Voice& loop = Play({ 1000, 3000 }, true, RATE * 3 / 2);
+    EXPECT_EQ(MixMono(5), (Samples{ 1000, 2000, 3000, 2000, 1000 }));
+    mixer.RemoveVoice(&loop);
+    MixMono(FADE);
+    Voice& once = Play({ 1000, 3000 }, false, RATE * 3 / 2);
+    EXPECT_EQ(MixMono(3), (Samples{ 1000, 1500, 0 }));
+    mixer.Play(once, false);
+    EXPECT_EQ(MixMono(3), (Samples{ 1000, 1500, 0 }));
+}
+
 TEST_F(MixerTest, PlaysOneFrameAtAHigherRateThanTheMix)
 {
     Play({ 77 }, true, 192000);

@@ -77,6 +77,13 @@ constexpr PictureRow pictures[] = {
     { "MessageNextLevel.jpg", ONE_FILE, 160, 110 },
     { "Help%d.jpg", 4, 500, 390 },
     { "MessageGameOver.jpg", ONE_FILE, 160, 90 },
+    // Menu
+    { "MainMenu.jpg", ONE_FILE, 640, 480 },
+    { "MainMenuHomepage.jpg", ONE_FILE, 245, 22 },
+    { "MainMenuItems.jpg", ONE_FILE, 651, 36 },
+    { "Options.jpg", ONE_FILE, 320, 230 },
+    { "OptionsItems.jpg", ONE_FILE, 216, 23 },
+    { "Ranking.jpg", ONE_FILE, 320, 310 },
 };
 
 constexpr uint8_t GREY = 128;

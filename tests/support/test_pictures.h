@@ -2,8 +2,8 @@
 
 #include "support/temp_folder.h"
 
-/// A current folder of its own with a plain grey stand-in, of the right size, for every picture that the pond, the
-/// snakes and the status bar load. So their tests need no artwork and do not change with it.
+/// A current folder of its own with a plain grey stand-in, of the right size, for every picture that the program
+/// loads. So their tests need no artwork and do not change with it.
 class TestPictures
 {
 public:

@@ -8,27 +8,30 @@
 
 namespace
 {
-
+struct ConfigDeleter {
+    void operator()(FcConfig* config) const { FcConfigDestroy(config); }
+};
 struct PatternDeleter {
     void operator()(FcPattern* pattern) const { FcPatternDestroy(pattern); }
 };
 struct FontSetDeleter {
     void operator()(FcFontSet* fonts) const { FcFontSetDestroy(fonts); }
 };
+using ConfigHandle = std::unique_ptr<FcConfig, ConfigDeleter>;
 using PatternHandle = std::unique_ptr<FcPattern, PatternDeleter>;
 using FontSetHandle = std::unique_ptr<FcFontSet, FontSetDeleter>;
 
 /// Every installed face, the nearest relative first.
-FontSetHandle SortedFaces(const char* family, int weight)
+FontSetHandle SortedFaces(FcConfig* config, const char* family, int weight)
 {
     const PatternHandle pattern(FcPatternCreate());
     FcPatternAddString(pattern.get(), FC_FAMILY, reinterpret_cast<const FcChar8*>(family));
     FcPatternAddInteger(pattern.get(), FC_WEIGHT, FcWeightFromOpenType(weight));
     FcPatternAddBool(pattern.get(), FC_SCALABLE, FcTrue);
-    FcConfigSubstitute(nullptr, pattern.get(), FcMatchPattern);
+    FcConfigSubstitute(config, pattern.get(), FcMatchPattern);
     FcDefaultSubstitute(pattern.get());
     FcResult result = FcResultMatch;
-    return FontSetHandle(FcFontSort(nullptr, pattern.get(), FcFalse, nullptr, &result));
+    return FontSetHandle(FcFontSort(config, pattern.get(), FcFalse, nullptr, &result));
 }
 
 /// The cell and the average character, in the face's own units.
@@ -50,8 +53,7 @@ FT_F26Dot6 ToFixed(double pixels)
 {
     return std::lround(pixels * 64);
 }
-
-} // namespace
+}
 
 void FontFace::LibraryDeleter::operator()(FT_LibraryRec_* library) const
 {
@@ -65,9 +67,10 @@ void FontFace::FaceDeleter::operator()(FT_FaceRec_* face) const
 
 std::unique_ptr<FontFace> FontFace::Find(const char* family, int weight, int height, int width)
 {
-    if (!FcInit())
+    const ConfigHandle config(FcInitLoadConfigAndFonts());
+    if (config == nullptr)
         return nullptr;
-    const FontSetHandle faces = SortedFaces(family, weight);
+    const FontSetHandle faces = SortedFaces(config.get(), family, weight);
     for (int i = 0; faces != nullptr && i < faces->nfont; ++i) {
         FcChar8* path = nullptr;
         int index = 0;

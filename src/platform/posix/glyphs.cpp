@@ -5,11 +5,11 @@
 #include <ft2build.h>
 #include <memory>
 #include <utility>
+#include <vector>
 #include FT_FREETYPE_H
 
 namespace
 {
-
 constexpr UINT FULL_COVERAGE = 16; ///< of GGO_GRAY4_BITMAP
 constexpr uint32_t NO_CHARACTER = 0xFFFF;
 
@@ -38,6 +38,9 @@ MemoryContext* ContextOf(HDC context)
 }
 
 int stockBrush = BLACK_BRUSH;
+
+/// Fonts live until they are deleted or the process ends, so the table is never destroyed.
+std::vector<std::unique_ptr<FontFace>>& fonts = *new std::vector<std::unique_ptr<FontFace>>;
 
 DWORD RowBytes(const FT_Bitmap& bitmap)
 {
@@ -70,8 +73,7 @@ GLYPHMETRICS MetricsOf(const FT_GlyphSlotRec& glyph)
     metrics.gmCellIncX = static_cast<short>((glyph.advance.x + 32) >> 6);
     return metrics;
 }
-
-} // namespace
+}
 
 HGDIOBJ GetStockObject(int object)
 {
@@ -99,8 +101,7 @@ HGDIOBJ SelectObject(HDC context, HGDIOBJ object)
 
 BOOL DeleteObject(HGDIOBJ object)
 {
-    if (object != &stockBrush)
-        delete static_cast<FontFace*>(object);
+    std::erase_if(fonts, [object](const auto& font) { return font.get() == object; });
     return object != nullptr;
 }
 
@@ -109,7 +110,10 @@ HFONT CreateFontA(int height, int width, int, int, int weight, DWORD, DWORD, DWO
 {
     if (height <= 0 || width < 0)
         return nullptr;
-    return reinterpret_cast<HFONT>(FontFace::Find(face, weight, height, width).release());
+    std::unique_ptr<FontFace> font = FontFace::Find(face, weight, height, width);
+    if (font == nullptr)
+        return nullptr;
+    return reinterpret_cast<HFONT>(fonts.emplace_back(std::move(font)).get());
 }
 
 BOOL GetTextMetricsA(HDC context, TEXTMETRICA* metrics)

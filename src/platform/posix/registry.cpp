@@ -224,7 +224,7 @@ LONG RegQueryValueExA(HKEY key, LPCSTR name, DWORD*, DWORD* type, BYTE* data, DW
         return Code(ERROR_SUCCESS);
     if (room < *size)
         return Code(ERROR_MORE_DATA);
-    memcpy(data, value->bytes.data(), value->bytes.size());
+    value->bytes.copy(reinterpret_cast<char*>(data), value->bytes.size());
     return Code(ERROR_SUCCESS);
 }
 

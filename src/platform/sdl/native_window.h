@@ -11,9 +11,12 @@ struct NativeWindow {
     WNDPROC procedure = nullptr;
     DWORD style = 0;
     DWORD extendedStyle = 0;
-    SDL_Point clientSize = {};  ///< pixels, as the game set it; the window manager may have another mind
-    SDL_Point refusedSize = {}; ///< what the window manager made of it when last asked to put it right
-    bool closing = false;       ///< WM_DESTROY is under way
+    SDL_Point clientSize = {};     ///< pixels, as the game set it; the window manager may have another mind
+    SDL_Point clientPosition = {}; ///< pixels on the desktop, as the game set it last
+    SDL_Point refusedSize = {};    ///< what the window manager made of it instead
+    int refusals = 0;              ///< how often it gave `refusedSize` in a row
+    int titleHeight = 0;           ///< of the real frame before full screen, pixels
+    bool closing = false;          ///< WM_DESTROY is under way
     CFrameView view;
 };
 

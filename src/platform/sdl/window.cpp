@@ -1,6 +1,7 @@
 #include "platform/gdi.h"
 #include "platform/sdl/messages.h"
 #include "platform/sdl/native_window.h"
+#include "platform/sdl/screen.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -28,12 +29,9 @@ SDL_Point ClientSize(int width, int height, DWORD style)
     return { std::max<int>(1, width - frame.left - frame.right), std::max<int>(1, height - frame.top - frame.bottom) };
 }
 
-/// The main screen's area among all screens; empty when there is none.
-SDL_Rect MainScreen()
+bool SameSize(SDL_Point a, SDL_Point b)
 {
-    SDL_Rect area = {};
-    SDL_GetDisplayBounds(0, &area);
-    return area;
+    return a.x == b.x && a.y == b.y;
 }
 
 void SetHints()
@@ -68,17 +66,51 @@ void CloseWindow()
 void SetClientSize(NativeWindow& window, SDL_Point size)
 {
     window.clientSize = size;
-    window.refusedSize = {};
+    window.refusals = 0;
     SDL_SetWindowSize(window.handle, size.x, size.y);
     SDL_SetWindowMinimumSize(window.handle, size.x, size.y);
     window.view.SetFrameSize(size);
+}
+
+/// A window manager takes the position of a window that it has not seen yet as that of the frame it will put around it.
+void SetOuterPosition(NativeWindow& window, int x, int y)
+{
+    const RECT frame = FrameOf(window.style);
+    const SDL_Rect screen = MainScreen();
+    const SDL_Point outer = { screen.x + x, screen.y + y };
+    window.clientPosition = { outer.x + frame.left, outer.y + frame.top };
+    const SDL_Point position = (window.style & WS_VISIBLE) ? window.clientPosition : outer;
+    SDL_SetWindowPosition(window.handle, position.x, position.y);
 }
 
 void ShowFirstTime(NativeWindow& window)
 {
     SDL_ShowWindow(window.handle);
     window.style |= WS_VISIBLE;
+    SDL_PumpEvents();
+    // Its real frame is known now, and the client area can go to where it goes after every later change of mode.
+    SDL_SetWindowPosition(window.handle, window.clientPosition.x, window.clientPosition.y);
     window.view.Show();
+}
+
+/// What the window manager has put above the client area, pixels; 0 where that is not known.
+int TitleHeight(SDL_Window* handle)
+{
+    int top = 0;
+    SDL_GetWindowBordersSize(handle, &top, nullptr, nullptr, nullptr);
+    return top;
+}
+
+/// SDL places client areas by the frame it knows, and after full screen the window manager first has to put one on
+/// again. Not for long: some never do.
+void AwaitTitle(const NativeWindow& window)
+{
+    constexpr int ATTEMPTS = 50;
+    constexpr Uint32 PAUSE_MS = 4;
+    for (int i = 0; i < ATTEMPTS && TitleHeight(window.handle) != window.titleHeight; ++i) {
+        SDL_Delay(PAUSE_MS);
+        SDL_PumpEvents();
+    }
 }
 
 } // namespace
@@ -95,20 +127,23 @@ NativeWindow* WindowOf(HWND window)
 
 void KeepClientSize()
 {
+    // A border that is being dragged ends at its last size once more when it is let go.
+    constexpr int MOST_REFUSALS = 3;
     SDL_Point now = {};
     SDL_GetWindowSize(nativeWindow.handle, &now.x, &now.y);
-    const SDL_Point wanted = nativeWindow.clientSize;
-    const SDL_Point refused = nativeWindow.refusedSize;
-    const bool settled = (now.x == wanted.x && now.y == wanted.y) || (now.x == refused.x && now.y == refused.y);
-    if (settled || (SDL_GetWindowFlags(nativeWindow.handle) & (SDL_WINDOW_FULLSCREEN | SDL_WINDOW_MAXIMIZED)))
+    const bool isOwnSize = SDL_GetWindowFlags(nativeWindow.handle) & (SDL_WINDOW_FULLSCREEN | SDL_WINDOW_MAXIMIZED);
+    if (isOwnSize || SameSize(now, nativeWindow.clientSize))
         return;
-    // Asked once only: a tiling window manager insists on its size, and the frame is then scaled to it.
+    nativeWindow.refusals = SameSize(now, nativeWindow.refusedSize) ? nativeWindow.refusals + 1 : 1;
     nativeWindow.refusedSize = now;
-    SDL_SetWindowSize(nativeWindow.handle, wanted.x, wanted.y);
+    // A tiling window manager insists on its size; the frame is then scaled to it.
+    if (nativeWindow.refusals <= MOST_REFUSALS)
+        SDL_SetWindowSize(nativeWindow.handle, nativeWindow.clientSize.x, nativeWindow.clientSize.y);
 }
 
 bool EnterFullScreen(NativeWindow& window, SDL_Point frameSize)
 {
+    window.titleHeight = TitleHeight(window.handle);
     return window.view.SetFrameSize(frameSize) &&
            SDL_SetWindowFullscreen(window.handle, SDL_WINDOW_FULLSCREEN_DESKTOP) == 0;
 }
@@ -116,6 +151,7 @@ bool EnterFullScreen(NativeWindow& window, SDL_Point frameSize)
 void LeaveFullScreen(NativeWindow& window)
 {
     SDL_SetWindowFullscreen(window.handle, 0);
+    AwaitTitle(window);
     SetClientSize(window, window.clientSize);
 }
 
@@ -131,8 +167,8 @@ HWND CreateWindowExA(DWORD extendedStyle, LPCSTR, LPCSTR title, DWORD style, int
     if (nativeWindow.handle || !registeredProcedure)
         return nullptr;
     SetHints();
-    if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) {
-        std::fprintf(stderr, "%s: no display: %s\n", title, SDL_GetError());
+    if (!StartVideo()) {
+        std::fprintf(stderr, "%s: cannot open the display: %s\n", title, SDL_GetError());
         return nullptr;
     }
     nativeWindow.procedure = registeredProcedure;
@@ -183,11 +219,8 @@ BOOL SetWindowPos(HWND handle, HWND, int x, int y, int width, int height, UINT f
         return FALSE;
     if (!(flags & SWP_NOSIZE))
         SetClientSize(*window, ClientSize(width, height, window->style));
-    if (!(flags & SWP_NOMOVE)) {
-        const RECT frame = FrameOf(window->style);
-        const SDL_Rect screen = MainScreen();
-        SDL_SetWindowPosition(window->handle, screen.x + x + frame.left, screen.y + y + frame.top);
-    }
+    if (!(flags & SWP_NOMOVE))
+        SetOuterPosition(*window, x, y);
     if ((flags & SWP_SHOWWINDOW) && !(window->style & WS_VISIBLE))
         ShowFirstTime(*window);
     return TRUE;
@@ -227,12 +260,6 @@ BOOL AdjustWindowRectEx(RECT* rectangle, DWORD style, BOOL, DWORD)
     rectangle->right += frame.right;
     rectangle->bottom += frame.bottom;
     return TRUE;
-}
-
-int GetSystemMetrics(int index)
-{
-    const SDL_Rect screen = MainScreen();
-    return index == SM_CXSCREEN ? screen.w : index == SM_CYSCREEN ? screen.h : 0;
 }
 
 BOOL RedrawWindow(HWND, const RECT*, HRGN, UINT)

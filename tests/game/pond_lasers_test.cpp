@@ -1,0 +1,102 @@
+#include "game/pond_fixture.h"
+
+namespace
+{
+using PondLasers = PondTest;
+
+struct FlightCase {
+    int heading;
+    int column, row; ///< of a stone five cells from the laser's start
+    const char* why;
+};
+
+TEST_F(PondLasers, TurnAStoneGoldenAndBurstUntilFrameTwenty)
+{
+    const FlightCase cases[] = {
+        { HEADING_LEFT, 10, 15, "left" },
+        { HEADING_UP, 15, 10, "up" },
+        { HEADING_RIGHT, 20, 15, "right" },
+        { HEADING_DOWN, 15, 20, "down" },
+    };
+    for (const FlightCase& flight : cases) {
+        StartGame(0);
+        Cell& growing = CellIn((15 + flight.column) / 2, (15 + flight.row) / 2);
+        pond.PlaceBerry(BLUE, CellAt(growing.x, growing.y));
+        Cell& stone = CellIn(flight.column, flight.row);
+        MakeStone(stone);
+        stone.splashed = true; // by the berry it was
+        pond.FireLaser(15 * CELL_SIZE, 15 * CELL_SIZE, flight.heading);
+        Play(4);
+        EXPECT_TRUE(stone.IsStone()) << flight.why;
+        Play(1);
+        EXPECT_TRUE(stone.IsRipeBerry()) << flight.why;
+        EXPECT_EQ(stone.colour, GOLDEN);
+        EXPECT_FALSE(stone.splashed) << "it splashes anew";
+        EXPECT_EQ(growing.colour, BLUE) << "flown over";
+        Play(18); // the counter stood at 5 mod 4
+        EXPECT_TRUE(pond.lasers[0].active);
+        Play(1);
+        EXPECT_FALSE(pond.lasers[0].active);
+    }
+}
+
+TEST_F(PondLasers, EndAtThePondsEdgesAndFillTwoSlots)
+{
+    pond.FireLaser(32, 160, HEADING_LEFT);
+    pond.FireLaser(432, 160, HEADING_RIGHT);
+    pond.FireLaser(160, 160, HEADING_UP); // no slot left
+    MakeStone(CellIn(10, 9));
+    MakeStone(CellIn(29, 9)); // where a laser wrapping around would come in
+    MakeStone(CellIn(0, 11));
+    Play(2);
+    EXPECT_TRUE(pond.lasers[0].active);
+    EXPECT_TRUE(pond.lasers[1].active);
+    Play(1);
+    EXPECT_FALSE(pond.lasers[0].active);
+    EXPECT_FALSE(pond.lasers[1].active);
+    EXPECT_EQ(pond.CountStones(), 3);
+}
+
+TEST_F(PondLasers, ShowBurstsCentredOnTheirCell)
+{
+    ASSERT_TRUE(pond.laserImages[7].Create(40, 20));
+    Paint(pond.laserImages[7], 0x1234, BlitCopy);
+    MakeStone(CellIn(10, 10));
+    pond.FireLaser(160, 192, HEADING_UP);
+    pond.lasers[0].frame = 1;
+    Play(3); // two steps of flight, then burst frame 3
+    EXPECT_EQ(Pixel(pondImage, 160 - 12, 160 - 2), 0x1234);
+    EXPECT_EQ(Pixel(pondImage, 160 + 27, 160 + 17), 0x1234);
+    EXPECT_NE(Pixel(pondImage, 160 - 13, 160 - 2), 0x1234);
+    EXPECT_NE(Pixel(pondImage, 160 - 12, 160 - 3), 0x1234);
+}
+
+struct RingCase {
+    int column, row;
+    bool struck;
+};
+
+TEST_F(PondLasers, SendARingThatClearsTheCellsUnderItsEightPoints)
+{
+    constexpr RingCase cases[] = {
+        { 15, 11, true },  { 15, 10, false }, { 15, 19, true },  { 15, 20, false }, { 11, 15, true },
+        { 10, 15, false }, { 19, 15, true },  { 20, 15, false }, { 18, 12, true },  { 19, 11, false },
+        { 18, 18, true },  { 12, 18, true },  { 12, 12, true },  { 16, 13, false }, { 13, 16, false },
+    };
+    for (const RingCase& given : cases)
+        MakeStone(CellIn(given.column, given.row));
+    pond.PlaceBerry(RED, 13 * CELL_COLUMNS + 15);
+    MakeRipe(CellIn(15, 15), GOLDEN);
+    pond.FireLaser(14 * CELL_SIZE, 15 * CELL_SIZE, HEADING_RIGHT);
+    Play(1);
+    EXPECT_FALSE(CellIn(15, 15).occupied);
+    EXPECT_EQ(pond.shockwave.radius, 0);
+    Play(21);
+    EXPECT_LT(pond.shockwave.radius, pond.shockwave.maxRadius);
+    Play(1);
+    EXPECT_GE(pond.shockwave.radius, pond.shockwave.maxRadius);
+    for (const RingCase& given : cases)
+        EXPECT_EQ(CellIn(given.column, given.row).occupied, !given.struck) << given.column << ", " << given.row;
+    EXPECT_TRUE(CellIn(15, 13).occupied) << "growing berries are spared";
+}
+}

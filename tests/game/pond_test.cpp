@@ -1,0 +1,140 @@
+#include "game/pond_fixture.h"
+
+#include "game/water.h"
+#include "gfx/blit.h"
+#include "platform/fake_platform.h"
+#include "sound/sound.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace
+{
+using Pond = PondTest;
+
+TEST_F(Pond, NewGameForgetsTheLastOneButNotTheMoon)
+{
+    pond.PlaceBerry(RED, 3);
+    pond.FireLaser(0, 0, HEADING_UP);
+    pond.ShowPopup(0, 0, POPUP_5);
+    pond.shockwave.maxRadius = 9;
+    pond.isDay = false;
+    pond.transition = pond.dayTimer = pond.fadeOut = 7;
+    pond.gameOver = true;
+    scenery.moonY = blinkCounter = 5;
+    ASSERT_TRUE(pond.NewGame(1, KEYS, KEYS + 4));
+    EXPECT_EQ(std::ranges::count(pond.cells, true, &Cell::occupied), 0);
+    EXPECT_EQ(pond.cells[61].x, 16);
+    EXPECT_EQ(pond.cells[61].y, 32);
+    EXPECT_FALSE(pond.lasers[0].active || pond.popups[0].active || pond.gameOver);
+    EXPECT_EQ(pond.shockwave.maxRadius + pond.transition + pond.dayTimer + pond.fadeOut + pond.introFrames, 0);
+    EXPECT_TRUE(pond.isDay);
+    EXPECT_EQ(pond.highlight[0], -1);
+    EXPECT_EQ(scenery.moonY, 5);
+    EXPECT_EQ(blinkCounter, 5);
+    EXPECT_EQ(pond.snake[0].segments[0].x, 160);
+    EXPECT_EQ(pond.snake[1].segments[0].x, 320);
+    EXPECT_EQ(pond.snake[1].keyDown, 83);
+}
+
+TEST_F(Pond, NewGameFailsWithoutASnakesPicture)
+{
+    std::filesystem::remove("Dat/Image/snakebody2nd.jpg");
+    EXPECT_FALSE(pond.NewGame(1, KEYS, KEYS + 4));
+    EXPECT_TRUE(pond.NewGame(0, KEYS, KEYS + 4));
+}
+
+TEST_F(Pond, NothingMovesDuringTheFadeIn)
+{
+    ASSERT_TRUE(pond.NewGame(0, KEYS, KEYS + 4));
+    pond.dayBackground.Fill(0xFFFF);
+    pond.ShowPopup(0, 0, POPUP_5);
+    for (int frame = 0; frame < 31; ++frame) {
+        Play(1);
+        EXPECT_EQ(Pixel(backBuffer, POND_LEFT, 100) & 0x1F, frame) << "one of 32 steps brighter a frame";
+    }
+    EXPECT_EQ(pond.popups[0].opacity, 255);
+    EXPECT_EQ(pond.snake[0].segments[0].y, POND_SIZE);
+    EXPECT_EQ(pond.dayTimer, 31);
+    Play(1);
+    EXPECT_EQ(pond.popups[0].opacity, 245);
+    EXPECT_EQ(pond.snake[0].segments[0].y, POND_SIZE - 2);
+}
+
+TEST_F(Pond, PauseShowsTheFrozenFrameAtHalfLight)
+{
+    screenCopy.Fill(0xFFFF);
+    pond.snake[0].isPaused = true;
+    pond.ShowPopup(0, 0, POPUP_5);
+    DisturbWater(100, 100, 8, 170);
+    const uint32_t random = RandomState();
+    Play(1);
+    EXPECT_EQ(Pixel(backBuffer, 600, 400) & 0x1F, 15);
+    EXPECT_EQ(pond.popups[0].opacity, 255);
+    EXPECT_EQ(pond.dayTimer, 0);
+    EXPECT_EQ(water.current[100 * POND_SIZE + 92], 0) << "outside the disc the water has not moved";
+    EXPECT_EQ(RandomState(), random);
+}
+
+struct LevelCase {
+    int players;
+    int score1, score2;
+    int level;
+};
+
+TEST_F(Pond, LevelIsClearedByTheScoresInPlay)
+{
+    for (const LevelCase& given : { LevelCase{ 0, 499, 500, 1 }, LevelCase{ 0, 500, 0, 2 }, LevelCase{ 1, 250, 249, 1 },
+                                    LevelCase{ 1, 250, 250, 2 } }) {
+        StartGame(given.players);
+        pond.snake[0].score = given.score1;
+        pond.snake[1].score = given.score2;
+        Play(1);
+        EXPECT_EQ(pond.statusBar.level, given.level) << given.score1 << " + " << given.score2;
+    }
+}
+
+TEST_F(Pond, GameIsLostWhenEverySnakeInPlayIsOut)
+{
+    StartGame(1);
+    pond.snake[0].isOut = true;
+    Play(1);
+    EXPECT_FALSE(pond.statusBar.gameOverPanel.isVisible);
+    pond.snake[1].isOut = true;
+    Play(1);
+    EXPECT_TRUE(pond.statusBar.gameOverPanel.isVisible);
+    StartGame(0);
+    pond.snake[0].isOut = true;
+    pond.fadeOut = 50;
+    Play(1);
+    EXPECT_FALSE(pond.statusBar.gameOverPanel.isVisible) << "the end is under way already";
+}
+
+TEST_F(Pond, AmbienceHasASoundForFiveNumbersInAThousand)
+{
+    SoundInit(FAKE_WINDOW);
+    const WAVEFORMATEX format = { 1, 1, 22050, 44100, 2, 16, 0 };
+    for (int id = SOUND_POND_FIRST; id <= SOUND_POND_LAST; ++id)
+        ASSERT_TRUE(SoundCreate(id, &format, 64));
+    for (const int number : { 23, 24, 28, 29 }) {
+        const auto draws = [number](uint32_t seed) {
+            SeedRandom(seed);
+            return Random() % 1000 == number;
+        };
+        uint32_t seed = 0;
+        while (!draws(seed))
+            ++seed;
+        SeedRandom(seed);
+        Play(1);
+        for (int id = SOUND_POND_FIRST; id <= SOUND_POND_LAST; ++id) {
+            FakeSoundBuffer& sound = *fake.soundBuffers[static_cast<size_t>(id - SOUND_POND_FIRST)];
+            EXPECT_EQ(sound.plays, id == number && number <= SOUND_ENV_LAST && number >= SOUND_ENV_FIRST) << number;
+            sound.plays = 0;
+        }
+    }
+    pond.GameEnd();
+    for (const FakeSoundBuffer* sound : fake.soundBuffers)
+        EXPECT_FALSE(sound->playing) << "leaving stops every sound of the pond";
+    SoundRelease();
+}
+}

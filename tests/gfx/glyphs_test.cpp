@@ -1,0 +1,159 @@
+#include "gfx/error.h"
+#include "gfx/text_image.h"
+#include "platform/gdi.h"
+#include "support/temp_folder.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace
+{
+constexpr MAT2 identity = { { 0, 1 }, { 0, 0 }, { 0, 0 }, { 0, 1 } };
+constexpr BYTE GUARD = 0xEE;
+
+struct Outline {
+    GLYPHMETRICS metrics = {};
+    DWORD size = 0;
+    std::vector<BYTE> bytes; ///< some more than the glyph, GUARD at first
+};
+
+/// A font selected into a context of its own.
+class Font
+{
+public:
+    Font(int height, int width, const char* face = "Verdana")
+        : font(CreateFontA(height, width, 0, 0, FW_BOLD, 0, 0, 0, DEFAULT_CHARSET, 0, 0, PROOF_QUALITY, 0, face))
+    {
+        SelectObject(dc, font);
+    }
+    ~Font()
+    {
+        DeleteDC(dc);
+        DeleteObject(font);
+    }
+
+    Outline Get(UINT code)
+    {
+        Outline outline;
+        outline.size = GetGlyphOutlineA(dc, code, GGO_GRAY4_BITMAP, &outline.metrics, 0, nullptr, &identity);
+        outline.bytes.assign(outline.size + 16, GUARD);
+        GetGlyphOutlineA(dc, code, GGO_GRAY4_BITMAP, &outline.metrics, outline.size, outline.bytes.data(), &identity);
+        return outline;
+    }
+
+    HDC dc = CreateCompatibleDC(nullptr);
+    HFONT font;
+};
+
+class Glyphs : public testing::TestWithParam<std::pair<int, int>>
+{
+};
+}
+
+TEST_P(Glyphs, AreTightBoxesWithinTheCell)
+{
+    Font font(GetParam().first, GetParam().second);
+    TEXTMETRICA text = {};
+    ASSERT_TRUE(GetTextMetricsA(font.dc, &text));
+    EXPECT_EQ(text.tmHeight, GetParam().first);
+    EXPECT_EQ(text.tmAscent + text.tmDescent, text.tmHeight);
+    EXPECT_EQ(text.tmAveCharWidth, GetParam().second);
+
+    for (const char c : std::string("0123456789AMWgjy")) {
+        SCOPED_TRACE(c);
+        const auto [metrics, size, bytes] = font.Get(static_cast<UINT>(c));
+        const DWORD rowBytes = (metrics.gmBlackBoxX + 3) & ~3U;
+        ASSERT_EQ(size, rowBytes * metrics.gmBlackBoxY);
+        EXPECT_LE(metrics.gmptGlyphOrigin.y, text.tmAscent);
+        EXPECT_GE(metrics.gmptGlyphOrigin.y - static_cast<LONG>(metrics.gmBlackBoxY), -text.tmDescent);
+
+        const auto glyphEnd = bytes.begin() + size;
+        EXPECT_LE(*std::max_element(bytes.begin(), glyphEnd), 16);
+        EXPECT_GT(*std::max_element(bytes.begin(), glyphEnd), 8) << "a bold stroke is more than half covered";
+        EXPECT_EQ(std::count(glyphEnd, bytes.end(), GUARD), 16) << "written past the glyph";
+        const auto hasInk = [](BYTE level) { return level > 0; };
+        EXPECT_TRUE(std::any_of(bytes.begin(), bytes.begin() + rowBytes, hasInk)) << "empty first row";
+        EXPECT_TRUE(std::any_of(glyphEnd - rowBytes, glyphEnd, hasInk)) << "empty last row";
+        for (DWORD i = 0; i < size; ++i)
+            ASSERT_TRUE(i % rowBytes < metrics.gmBlackBoxX || bytes[i] == 0) << "ink in a row's padding";
+    }
+}
+INSTANTIATE_TEST_SUITE_P(TheGamesFonts, Glyphs, testing::Values(std::pair(13, 5), std::pair(18, 6)));
+
+TEST(Glyphs, SpreadOutWithTheWidthAskedFor)
+{
+    Font narrow(18, 6);
+    Font wide(18, 12);
+    int narrowWidth = 0;
+    int wideWidth = 0;
+    for (const char c : std::string("abcdefghijklmnopqrstuvwxyz")) {
+        narrowWidth += narrow.Get(static_cast<UINT>(c)).metrics.gmCellIncX;
+        wideWidth += wide.Get(static_cast<UINT>(c)).metrics.gmCellIncX;
+    }
+    EXPECT_NEAR(wideWidth, 2 * narrowWidth, 13); // half a pixel a letter
+    EXPECT_EQ(narrow.Get('H').metrics.gmBlackBoxY, wide.Get('H').metrics.gmBlackBoxY);
+}
+
+TEST(Glyphs, OfASpaceHaveNoBytesButMoveThePen)
+{
+    Font font(13, 5);
+    const Outline space = font.Get(' ');
+    EXPECT_EQ(space.size, 0U);
+    EXPECT_GT(space.metrics.gmCellIncX, 0);
+    EXPECT_EQ(std::count(space.bytes.begin(), space.bytes.end(), GUARD), 16);
+}
+
+TEST(Glyphs, AreNotWrittenIntoABufferThatIsTooSmall)
+{
+    Font font(13, 5);
+    GLYPHMETRICS metrics = {};
+    std::vector<BYTE> bytes(8, GUARD);
+    EXPECT_EQ(GetGlyphOutlineA(font.dc, 'W', GGO_GRAY4_BITMAP, &metrics, 8, bytes.data(), &identity), GDI_ERROR);
+    EXPECT_EQ(std::count(bytes.begin(), bytes.end(), GUARD), 8);
+}
+
+TEST(Glyphs, FollowTheWindowsCodePage)
+{
+    Font font(18, 6);
+    const std::vector<BYTE> missing = font.Get(0xE974).bytes; // no two-byte characters there
+    EXPECT_FALSE(missing.empty());
+    EXPECT_EQ(font.Get(0x8D).bytes.size(), font.Get(0x90).bytes.size());
+    EXPECT_NE(font.Get(0x80).bytes, missing) << "euro sign";
+    EXPECT_NE(font.Get(0x80).bytes, font.Get(0x8D).bytes) << "euro sign";
+    EXPECT_NE(font.Get(0x9F).bytes, font.Get(0x8D).bytes) << "Y with diaeresis, the table's last";
+    EXPECT_EQ(font.Get(0xC4).metrics.gmCellIncX, font.Get('A').metrics.gmCellIncX) << "A with diaeresis";
+}
+
+TEST(Glyphs, OfAnUnknownFaceAreANearRelatives)
+{
+    Font font(13, 5, "No Such Face Anywhere");
+    ASSERT_NE(font.font, nullptr);
+    EXPECT_GT(font.Get('A').size, 0U);
+}
+
+TEST(Glyphs, CannotBeHadWithoutAFont)
+{
+    const HDC dc = CreateCompatibleDC(nullptr);
+    GLYPHMETRICS glyph = {};
+    TEXTMETRICA text = {};
+    EXPECT_FALSE(GetTextMetricsA(dc, &text));
+    EXPECT_EQ(GetGlyphOutlineA(dc, 'A', GGO_GRAY4_BITMAP, &glyph, 0, nullptr, &identity), GDI_ERROR);
+    DeleteDC(dc);
+}
+
+TEST(Glyphs, AreMissedInAnOrderlyWayWhereNoFontIsInstalled)
+{
+    const TempFolder folder;
+    folder.Write("none.conf", "<fontconfig/>");
+    setenv("FONTCONFIG_FILE", (folder.Path() + "/none.conf").c_str(), 1);
+    const Font font(13, 5);
+    unsetenv("FONTCONFIG_FILE");
+    EXPECT_EQ(font.font, nullptr);
+    CTextImage text;
+    lastError = ENGINE_NO_ERROR;
+    EXPECT_FALSE(text.TextImageCreate(font.font, 16, 128));
+    EXPECT_EQ(lastError, ENGINE_CREATE_FONT);
+}
