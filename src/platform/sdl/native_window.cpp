@@ -53,13 +53,17 @@ void KeepClientSize()
 {
     // A border that is being dragged ends at its last size once more when it is let go.
     constexpr int MOST_REFUSALS = 3;
+    constexpr Uint32 IN_A_ROW_MS = 1000;
     SDL_Point now = {};
     SDL_GetWindowSize(nativeWindow.handle, &now.x, &now.y);
     const bool isOwnSize = SDL_GetWindowFlags(nativeWindow.handle) & (SDL_WINDOW_FULLSCREEN | SDL_WINDOW_MAXIMIZED);
     if (isOwnSize || SameSize(now, nativeWindow.clientSize))
         return;
-    nativeWindow.refusals = SameSize(now, nativeWindow.refusedSize) ? nativeWindow.refusals + 1 : 1;
+    const Uint32 time = SDL_GetTicks();
+    const bool again = SameSize(now, nativeWindow.refusedSize) && time - nativeWindow.refusalTime < IN_A_ROW_MS;
+    nativeWindow.refusals = again ? nativeWindow.refusals + 1 : 1;
     nativeWindow.refusedSize = now;
+    nativeWindow.refusalTime = time;
     // A tiling window manager insists on its size; the frame is then scaled to it.
     if (nativeWindow.refusals <= MOST_REFUSALS)
         SDL_SetWindowSize(nativeWindow.handle, nativeWindow.clientSize.x, nativeWindow.clientSize.y);

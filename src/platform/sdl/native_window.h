@@ -14,7 +14,8 @@ struct NativeWindow {
     SDL_Point clientSize = {};     ///< pixels, as the game set it; the window manager may have another mind
     SDL_Point clientPosition = {}; ///< pixels on the desktop, as the game set it last
     SDL_Point refusedSize = {};    ///< what the window manager made of it instead
-    int refusals = 0;              ///< how often it gave `refusedSize` in a row
+    int refusals = 0;              ///< how often it gave `refusedSize` in quick succession
+    Uint32 refusalTime = 0;        ///< of the last one, ms
     int titleHeight = 0;           ///< of the real frame before full screen, pixels
     bool closing = false;          ///< WM_DESTROY is under way
     CFrameView view;
