@@ -113,6 +113,19 @@ void AwaitTitle(const NativeWindow& window)
     }
 }
 
+/// The release of a button goes elsewhere once the window has gone, SDL then takes the button as held, and the next
+/// press would be lost. Not for long: whoever keeps holding it wants something else.
+void AwaitReleasedMouse()
+{
+    constexpr Uint32 LONGEST_MS = 1000;
+    constexpr Uint32 PAUSE_MS = 4;
+    const Uint32 start = SDL_GetTicks();
+    while (SDL_GetMouseState(nullptr, nullptr) != 0 && SDL_GetTicks() - start < LONGEST_MS) {
+        SDL_Delay(PAUSE_MS);
+        SDL_PumpEvents();
+    }
+}
+
 } // namespace
 
 HWND NativeHandle()
@@ -202,6 +215,7 @@ BOOL ShowWindow(HWND handle, int command)
         return FALSE;
     const bool wasVisible = window->style & WS_VISIBLE;
     if (command == SW_MINIMIZE) {
+        AwaitReleasedMouse();
         SDL_MinimizeWindow(window->handle);
         return wasVisible;
     }
