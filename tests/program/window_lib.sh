@@ -175,16 +175,22 @@ shot() {
         fail "the screen cannot be read"
 }
 
+# alike FILE FILE: the same but for the screen's fewer colours, some waves and small writing. Other pages differ by a
+# tenth and more.
+alike() {
+    convert "$1" "$2" -compose difference -composite -format '%[fx:mean]\n' info: |
+        awk '$1 < 0.02 { alike = 1 } END { exit !alike }'
+}
+
 # shows PICTURE AREA [PART]: the area looks like the picture, or like that part of it.
 shows() {
     shot "$2" "$folder/area"
-    convert "$pictures/$1" -crop "${3:-10000x10000+0+0}" +repage "$folder/area" -compose difference -composite \
-        -format '%[fx:mean]\n' info: >"$folder/difference"
-    [ -n "${VERBOSE:-}" ] && echo "    $* $(cat "$folder/difference")" >&2
-    awk '$1 < 0.02 { near = 1 } END { exit !near }' "$folder/difference"
+    convert "$pictures/$1" -crop "${3:-10000x10000+0+0}" +repage "ppm:$folder/part"
+    alike "$folder/part" "$folder/area"
 }
 
 shows_menu() { shows MainMenu.jpg $WHOLE; }
+shows_pond() { shows bg0.jpg $POND; } # by day, with little in it
 shows_help() { shows "Help$1.jpg" $HELP; }
 
 # lit AREA COLOUR: some of the area has that colour.
@@ -220,7 +226,7 @@ coloured_cells() {
     convert "$folder/area" -scale 30x30 -depth 8 rgb:- | od -An -v -tu1 -w3 >"$now"
     [ -s "$ground" ] || convert "$pictures/bg0.jpg" -scale 30x30 -depth 8 rgb:- | od -An -v -tu1 -w3 >"$ground"
     paste "$ground" "$now" | awk '{ warmth = ($4 - $6) - ($1 - $3); cell = NR - 1 }
-        warmth > 35 || warmth < -35 { print cell % 30, int(cell / 30), warmth > 0 ? "orange" : "blue" }'
+        warmth > 35 || warmth < -35 { print cell % 30, int(cell / 30), (warmth > 0 ? "orange" : "blue") }'
 }
 
 # snake_lies COLOUR across|along: four links of that colour in one row, or in one column. Berries alone never do.
