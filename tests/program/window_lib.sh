@@ -10,6 +10,9 @@ program=$folder/program
 log=$program/Log.txt
 export HOME=$folder/home XDG_CONFIG_HOME=$folder/config XDG_RUNTIME_DIR=$folder/run SDL_AUDIODRIVER=dummy
 export PATH=$folder/bin:$PATH
+export DBUS_SESSION_BUS_ADDRESS=disabled: # not the session of whoever runs the test
+# Libraries that SDL loads for a display and unloads again leave memory behind. The starts without one look for leaks.
+export ASAN_OPTIONS=detect_leaks=0
 unset WAYLAND_DISPLAY SDL_VIDEODRIVER
 settings=$XDG_CONFIG_HOME/Tervalis/settings.toml
 mkdir -p "$folder/bin" "$XDG_CONFIG_HOME/Tervalis" "$XDG_RUNTIME_DIR" "$program"
@@ -17,6 +20,7 @@ chmod 700 "$XDG_RUNTIME_DIR"
 cp -r "$build/tervalis" "$build/Dat" "$build/Wav" "$build/docs" "$program/"
 
 PATIENCE=30 # seconds until what must happen has not happened
+TOLERANCE=0.02 # of 1, the mean difference of pictures: the screen's fewer colours, some waves, small writing
 WHOLE=640x480+0+0
 POND=480x480+160+0
 PANEL=160x90+240+195 # where the paused and the confirmation panel show
@@ -121,16 +125,19 @@ is_at() { [ "$(place)" = "$1" ]; }
 expect_windowed() {
     await "the window is at ${homePlace:=$(place)} again" is_at "$homePlace"
     IFS=x+ read -r _ _ viewLeft viewTop <<<"$homePlace"
-    viewScale=1
+    viewWidth=640
 }
 
-# expect_full_screen: the whole screen is covered, the picture as large as fits with a whole factor.
+# expect_full_screen: the whole screen is covered, the picture as large as fits in its middle.
 expect_full_screen() {
     await "the whole screen is covered" is_at "${screenWidth}x$screenHeight+0+0"
-    viewScale=$((screenHeight / 480))
-    viewLeft=$(((screenWidth - 640 * viewScale) / 2))
-    viewTop=$(((screenHeight - 480 * viewScale) / 2))
+    viewWidth=$((screenWidth * 3 < screenHeight * 4 ? screenWidth : screenHeight * 4 / 3))
+    viewLeft=$(((screenWidth - viewWidth) / 2))
+    viewTop=$(((screenHeight - viewWidth * 3 / 4) / 2))
 }
+
+# scaled LENGTH: of the game's picture, in the screen's pixels.
+scaled() { echo $(($1 * viewWidth / 640)); }
 
 # ---- Keys and mouse ----
 
@@ -152,7 +159,7 @@ type_keys() {
     done
 }
 
-point_at() { xdotool mousemove $((viewLeft + $1 * viewScale)) $((viewTop + $2 * viewScale)); }
+point_at() { xdotool mousemove $((viewLeft + $(scaled "$1"))) $((viewTop + $(scaled "$2"))); }
 
 # click X Y WHAT COMMAND...: holds the button until what it does has happened, for a shorter press may fall between two
 # frames.
@@ -170,16 +177,16 @@ click() {
 shot() {
     local w h x y
     IFS=x+ read -r w h x y <<<"$1"
-    local part=$((w * viewScale))x$((h * viewScale))+$((viewLeft + x * viewScale))+$((viewTop + y * viewScale))
+    local part
+    part=$(scaled "$w")x$(scaled "$h")+$((viewLeft + $(scaled "$x")))+$((viewTop + $(scaled "$y")))
     { import -silent -window root -crop "$part" +repage ppm:- | convert ppm:- -scale "${w}x$h!" "ppm:$2"; } ||
         fail "the screen cannot be read"
 }
 
-# alike FILE FILE: the same but for the screen's fewer colours, some waves and small writing. Other pages differ by a
-# tenth and more.
+# alike FILE FILE: other pages and buttons differ by a tenth and more.
 alike() {
     convert "$1" "$2" -compose difference -composite -format '%[fx:mean]\n' info: |
-        awk '$1 < 0.02 { alike = 1 } END { exit !alike }'
+        awk -v tolerance=$TOLERANCE '$1 < tolerance { alike = 1 } END { exit !alike }'
 }
 
 # shows PICTURE AREA [PART]: the area looks like the picture, or like that part of it.
