@@ -155,12 +155,12 @@ def effect_to_file_rate(sound):
 
 
 def ring_to_file_rate(ring, turn=0.1):
-    """From WORK to RATE, and turned by at most `turn` seconds to start where every channel passes near nothing."""
+    """From WORK to RATE, and turned, by at most `turn` seconds, to start where every channel passes near nothing."""
     half = signal.resample(ring_band(ring, 25), len(ring) // 2, axis=0)
     half -= half.mean(axis=0)
     level = np.abs(half).reshape(len(half), -1).max(axis=1)
-    near = np.maximum(level, np.roll(level, 1))[-int(turn * RATE):]
-    return np.roll(half, len(near) - int(np.argmin(near)), axis=0)
+    ends = np.maximum(level, np.roll(level, 1))[:-int(turn * RATE):-1]
+    return np.roll(half, 1 + int(np.argmin(ends)), axis=0)
 
 
 def to_samples(sound, peak_db):

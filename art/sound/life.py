@@ -59,12 +59,16 @@ def env11(rng):
     return dsp.close(dsp.reverb(dsp.pan(track, 0.25), dsp.room(rng, 1.3, 6000, 0.03), 0.35), 0.002, 0.45)
 
 
+# What sways in the wind, a row: place from left to right, pitch at rest and in the gust, width in hertz, gain.
+STEMS = ((-0.5, 380, 620, 260, 1.0), (0.4, 700, 1150, 420, 0.8), (0.0, 1700, 3000, 1500, 0.55))
+
+
 def env12(rng):
     """Wind in the reeds: a gust swells and sinks, stems hiss and knock, dry leaves rustle against each other."""
     t = dsp.times(2.0)
     gust = dsp.hump(t, -0.05, 1.2) ** 1.5 + 0.6 * dsp.hump(t, 0.85, 2.0)
     sound = dsp.silence(2.0, 2)
-    for place, low, high, width, gain in ((-0.5, 380, 620, 260, 1.0), (0.4, 700, 1150, 420, 0.8), (0.0, 1700, 3000, 1500, 0.55)):
+    for place, low, high, width, gain in STEMS:
         wander = low + (high - low) * np.clip(gust, 0, 1.2) * (1 + 0.12 * np.sin(2 * np.pi * (1.3 + place) * t))
         sound += dsp.pan(gain * dsp.moving_band(dsp.noise(rng, 2.0), wander, np.full(len(t), width)) * gust, place)
     for _ in range(260):
@@ -74,14 +78,15 @@ def env12(rng):
     for _ in range(13):
         at = 0.15 + 1.5 * rng.random()
         stem = bodies.strike(bodies.WOOD, 900 + 900 * rng.random(), 0.006, 0.06, 0.001)
-        dsp.place(sound, dsp.pan(stem, 1.6 * rng.random() - 0.8), at, 1.3 * gust[dsp.length(at)] * (0.3 + 0.7 * rng.random()))
+        gain = 1.3 * gust[dsp.length(at)]
+        dsp.place(sound, dsp.pan(stem, 1.6 * rng.random() - 0.8), at, gain * (0.3 + 0.7 * rng.random()))
     return dsp.close(dsp.band(sound, 120, 7000), 0.08, 0.3)
 
 
 def env13(rng):
-    """An owl far over the water: a soft hoot, a pause, a longer quavering one; close by, the odd drop ticks from a leaf.
+    """An owl far over the water: a soft hoot, a pause, a longer quavering one. Close by, drops tick from a leaf.
 
-    The drops also hold the file's peak, so that the owl itself stays far off.
+    The drops hold the file's peak, so that the owl itself stays far off.
     """
     track = dsp.silence(2.0)
     for start, seconds, quaver in ((0.03, 0.34, 0.0), (0.62, 0.72, 1.0)):

@@ -48,7 +48,8 @@ def bass(rng, seconds, pitch):
     t = dsp.times(seconds + 0.5)
     loud = dsp.decay(t, 0.02, 1.1) * np.minimum(1, (t[-1] - t) / 0.5)
     phase = 2 * np.pi * pitch * t
-    return loud * (np.sin(phase) + 0.35 * np.sin(2 * phase) * np.exp(-t / 0.5) + 0.12 * np.sin(3 * phase) * np.exp(-t / 0.3))
+    overtones = 0.35 * np.sin(2 * phase) * np.exp(-t / 0.5) + 0.12 * np.sin(3 * phase) * np.exp(-t / 0.3)
+    return loud * (np.sin(phase) + overtones)
 
 
 def pad(rng, seconds, pitch):
@@ -59,8 +60,9 @@ def pad(rng, seconds, pitch):
         f = pitch * 2 ** (detune / 1200)
         for partial, strength in ((1, 1.0), (2, 0.33), (3, 0.16), (4, 0.07), (5, 0.035)):
             voice += strength * np.sin(2 * np.pi * f * partial * t + 6.28 * rng.random())
-    swell = np.sin(np.pi / 2 * np.minimum(1, t / 0.9)) ** 2 * np.cos(np.pi / 2 * np.clip((t - seconds) / 1.2, 0, 1)) ** 2
-    return voice * swell * (1 + 0.12 * np.sin(2 * np.pi * 0.5 * t + 6.28 * rng.random()))
+    coming = np.sin(np.pi / 2 * np.minimum(1, t / 0.9)) ** 2
+    going = np.cos(np.pi / 2 * np.clip((t - seconds) / 1.2, 0, 1)) ** 2
+    return voice * coming * going * (1 + 0.12 * np.sin(2 * np.pi * 0.5 * t + 6.28 * rng.random()))
 
 
 def flute(rng, seconds, pitch):

@@ -21,17 +21,22 @@ def select(rng):
     return dsp.close(track, 0.0005, 0.06)
 
 
+# The voices of a glide: pitch beside the lowest, place from left to right, gain.
+VOICES = ((1, -0.5, 0.5), (1.004, 0.5, 0.5), (1.5, 0.2, 0.3), (2.003, -0.2, 0.24), (3.01, 0.0, 0.1))
+
+
 def glide(rng, seconds, pitch, loud, bubbles):
-    """A chord of voices gliding along `pitch`, rushing water around it, `bubbles` (second, pitch, gain) rising through it."""
+    """A chord gliding along `pitch` in rushing water, with `bubbles` (second, pitch, gain) rising through it."""
     sound = dsp.silence(seconds, 2)
-    for ratio, place, gain in ((1, -0.5, 0.5), (1.004, 0.5, 0.5), (1.5, 0.2, 0.3), (2.003, -0.2, 0.24), (3.01, 0.0, 0.1)):
+    for ratio, place, gain in VOICES:
         phase = dsp.turns(pitch * ratio)
         sound += dsp.pan(gain * np.sin(phase + 0.9 * loud * np.sin(phase * 0.5)) * loud, place)
     for place in (-0.6, 0.6):
         rush = dsp.moving_band(dsp.noise(rng, seconds), pitch * 2.6, pitch * 1.3)
         sound += dsp.pan(1.1 * rush * loud, place)
     for at, frequency, gain in bubbles:
-        dsp.place(sound, dsp.pan(bodies.plop(frequency * 0.6, frequency * 1.5, 0.05, 0.02, 0.14), rng.random() - 0.5), at, gain)
+        rising = bodies.plop(frequency * 0.6, frequency * 1.5, 0.05, 0.02, 0.14)
+        dsp.place(sound, dsp.pan(rising, rng.random() - 0.5), at, gain)
     return dsp.reverb(sound, dsp.room(rng, 0.7, 6000), 0.18)
 
 
@@ -70,7 +75,7 @@ def beat(rng):
 
 
 def ice_crack(rng, size):
-    """A crack running through a sheet of ice: its high waves arrive first, the low ones sink after them; shards ring."""
+    """A crack running through a sheet of ice: its high waves arrive first, the low ones after; shards ring."""
     t = dsp.times(0.3)
     pew = np.sin(dsp.turns(350 + 5200 * size * np.exp(-t / 0.018))) * dsp.decay(t, 0.0008, 0.03 + 0.03 * size)
     snap = bodies.splash(rng, 2000, 10000, 0.0004, 0.004 + 0.006 * size, 0.3)
@@ -83,7 +88,8 @@ def freeze(rng):
     track = dsp.silence(1.7, 2)
     for i in range(26):
         at = 0.02 + 0.62 * (i / 26) ** 0.75 + 0.015 * rng.random()
-        dsp.place(track, dsp.pan(ice_crack(rng, rng.random() * i / 26), 1.4 * rng.random() - 0.7), at, 0.1 + 0.3 * i / 26)
+        crack = ice_crack(rng, rng.random() * i / 26)
+        dsp.place(track, dsp.pan(crack, 1.4 * rng.random() - 0.7), at, 0.1 + 0.3 * i / 26)
     dsp.place(track, dsp.pan(ice_crack(rng, 1.0), 0), 0.68, 1.2)
     dsp.place(track, dsp.pan(bodies.plop(190, 75, 0.05, 0.07, 0.4), 0), 0.68, 0.9)
     for _ in range(34):
@@ -100,9 +106,11 @@ def fade(rng):
         at = 0.02 + 1.15 * i / 56 + 0.02 * rng.random()
         step = 5 + int(9 * i / 56 + 5 * rng.random())
         bell = bodies.strike(bodies.BELL, scale_pitch(step), 0.1 + 0.22 * rng.random(), 0.9, 0.006)
-        dsp.place(track, dsp.pan(bell, 1.7 * rng.random() - 0.85), at, (0.35 + 0.65 * rng.random()) * (1 - 0.6 * i / 56))
+        sound = dsp.pan(bell, 1.7 * rng.random() - 0.85)
+        dsp.place(track, sound, at, (0.35 + 0.65 * rng.random()) * (1 - 0.6 * i / 56))
     t = dsp.times(2.0)
-    dust = dsp.band(dsp.noise(rng, 2.0, 2), 5000, 10500) * (dsp.hump(t, 0, 1.5) * (0.6 + 0.4 * np.sin(2 * np.pi * 13 * t)))[:, None]
+    glitter = dsp.hump(t, 0, 1.5) * (0.6 + 0.4 * np.sin(2 * np.pi * 13 * t))
+    dust = dsp.band(dsp.noise(rng, 2.0, 2), 5000, 10500) * glitter[:, None]
     return dsp.close(dsp.reverb(track + 0.1 * dust, dsp.room(rng, 1.4, 9000), 0.3), 0.005, 0.6)
 
 
@@ -140,13 +148,18 @@ def warp(rng):
 
 
 # Second, step of the scale, gain: a run up to the key note, answered by the fifth above it.
-LIFE_FIGURE = ((0.01, 3, 0.7), (0.12, 5, 0.8), (0.23, 7, 0.85), (0.34, 10, 1.0), (0.56, 8, 0.7), (0.67, 10, 0.9), (0.67, 13, 0.6))
+LIFE_FIGURE = (
+    (0.01, 3, 0.7), (0.12, 5, 0.8), (0.23, 7, 0.85), (0.34, 10, 1.0),
+    (0.56, 8, 0.7), (0.67, 10, 0.9), (0.67, 13, 0.6),
+)
 
 
 def lifeup(rng):
     """A short happy figure on the kalimba of the music, with a bell an octave above."""
     track = dsp.silence(1.7, 2)
     for at, step, gain in LIFE_FIGURE:
-        dsp.place(track, dsp.pan(bodies.strike(bodies.KALIMBA, scale_pitch(step), 0.28, 1.0), -0.15), at, gain)
-        dsp.place(track, dsp.pan(bodies.strike(bodies.BELL, 2 * scale_pitch(step), 0.16, 0.8), 0.3), at + 0.004, 0.25 * gain)
+        tine = bodies.strike(bodies.KALIMBA, scale_pitch(step), 0.28, 1.0)
+        bell = bodies.strike(bodies.BELL, 2 * scale_pitch(step), 0.16, 0.8)
+        dsp.place(track, dsp.pan(tine, -0.15), at, gain)
+        dsp.place(track, dsp.pan(bell, 0.3), at + 0.004, 0.25 * gain)
     return dsp.close(dsp.reverb(track, dsp.room(rng, 1.1, 8000), 0.25), 0.001, 0.5)

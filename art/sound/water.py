@@ -37,12 +37,17 @@ def eat(rng):
         snap = bodies.splash(rng, 900, 1800 + 5200 * rng.random(), 0.0006, 0.002 + 0.005 * rng.random(), 0.04)
         dsp.place(track, snap, at, 0.5 * (0.3 + rng.random()) * (1 - 6 * at))
     t = dsp.times(0.22)
-    flesh = dsp.moving_band(dsp.noise(rng, 0.22), dsp.curve(t, ((0, 480), (0.06, 1250), (0.13, 620), (0.22, 1500))), 260)
+    mouth = dsp.curve(t, ((0, 480), (0.06, 1250), (0.13, 620), (0.22, 1500)))
+    flesh = dsp.moving_band(dsp.noise(rng, 0.22), mouth, 260)
     dsp.place(track, flesh * (dsp.hump(t, 0, 0.11) + 0.7 * dsp.hump(t, 0.1, 0.2)), 0.035, 1.7)
-    dsp.place(track, bodies.plop(150, 95, 0.03, 0.03, 0.12), 0.002, 0.55)
+    dsp.place(track, bodies.plop(170, 110, 0.03, 0.02, 0.12), 0.002, 0.25)
     dsp.place(track, bodies.plop(520, 1350, 0.05, 0.018, 0.1), 0.13, 0.5)
     bodies.spray(rng, track, 0.06, 0.26, 10, 1100, 3200, 0.14, 1.4)
     return dsp.close(track, 0.0005, 0.06)
+
+
+# The air a sinking snake leaves: second, pitch of a bubble as it closes and as it bursts, gain.
+GURGLE = ((0.83, 160, 420, 1.0), (1.0, 210, 520, 0.6), (1.14, 260, 640, 0.45), (1.26, 330, 760, 0.3))
 
 
 def die(rng):
@@ -52,11 +57,12 @@ def die(rng):
     dsp.place(track, bodies.strike(bodies.WOOD, 470, 0.035, 0.3), 0.001, 0.4)
     t = dsp.times(0.66)
     wobble = 1 + 0.035 * np.sin(2 * np.pi * 11 * t) * np.minimum(1, t / 0.3)
-    fall = bodies.whistle(rng, 260 * (1350 / 260) ** (1 - t / 0.66) ** 0.8 * wobble, 0.38 * dsp.hump(t, -0.1, 0.72), 0.05, 0.2)
+    pitch = 260 * (1350 / 260) ** (1 - t / 0.66) ** 0.8 * wobble
+    fall = bodies.whistle(rng, pitch, 0.38 * dsp.hump(t, -0.1, 0.72), 0.05, 0.2)
     dsp.place(track, dsp.close(fall, 0.03, 0.04), 0.1)
     dsp.place(track, bodies.splash(rng, 500, 7000, 0.004, 0.09, 0.7), 0.745, 0.75)
     dsp.place(track, bodies.splash(rng, 150, 1100, 0.01, 0.14, 0.8), 0.75, 0.6)
-    for at, low, high, gain in ((0.83, 160, 420, 1.0), (1.0, 210, 520, 0.6), (1.14, 260, 640, 0.45), (1.26, 330, 760, 0.3)):
+    for at, low, high, gain in GURGLE:
         dsp.place(track, bodies.plop(low, high, 0.1, 0.045, 0.3), at, gain)
     bodies.spray(rng, track, 0.78, 1.5, 46, 700, 4200, 0.2, 1.5)
     return dsp.close(dsp.reverb(track, dsp.room(rng, 0.5, 5000), 0.15), 0.0005, 0.3)

@@ -27,7 +27,7 @@ def thunder1(rng):
     crack = channel(rng, 2.0, 260, lambda r: 0.01 + 0.16 * r.random() ** 2.2, 0.0007, 0.006)
     crack += 0.8 * channel(rng, 2.0, 120, lambda r: 0.3 + 0.22 * r.random() ** 1.6, 0.0015, 0.009)
     roll = channel(rng, 2.0, 420, lambda r: 0.03 + 1.85 * r.random() ** 1.3, 0.008, 0.022)
-    tear = dsp.band(dsp.noise(rng, 2.0, 2), 900, 9000) * (dsp.decay(t, 0.004, 0.07) * (0.4 + 0.6 * rng.random(len(t))))[:, None]
+    tear = dsp.band(dsp.noise(rng, 2.0, 2), 900, 9000) * dsp.decay(t, 0.004, 0.07)[:, None]
     sound = np.tanh(0.28 * (crack + 1.1 * dsp.band(roll, 30, 900) + 1.4 * tear))
     sound = dsp.reverb(sound, dsp.room(rng, 1.6, 2500, 0.03), 0.5)
     return dsp.close(sound * np.exp(-t / 1.3)[:, None], 0.001, 0.7)
@@ -59,5 +59,6 @@ def rainloop(rng):
         dsp.ring_place(ring, dsp.pan(drop, 1.8 * rng.random() - 0.9), seconds * rng.random(), 0.03 + 0.4 * near)
     for _ in range(22):
         drip = bodies.plop(330 + 250 * rng.random(), 900 + 500 * rng.random(), 0.06, 0.022, 0.2)
-        dsp.ring_place(ring, dsp.pan(drip, 1.2 * rng.random() - 0.6), seconds * rng.random(), 0.08 + 0.42 * rng.random() ** 3)
+        near = rng.random() ** 3
+        dsp.ring_place(ring, dsp.pan(drip, 1.2 * rng.random() - 0.6), seconds * rng.random(), 0.08 + 0.42 * near)
     return dsp.ring_reverb(ring, dsp.room(rng, 0.4, 6000), 0.15)
