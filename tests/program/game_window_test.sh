@@ -117,7 +117,7 @@ await "the game in the window" plays
 logged_times "Windowed -> Full Screen" 3 && logged_times "Full Screen -> Windowed" 3 || fail "the log of the switches"
 
 step "Another window, minimising"
-xmessage -geometry +0+0 Wait &
+xmessage -geometry +0+0 Wait 2>/dev/null &
 other=$!
 await "the game stands still without the focus" rests $WHOLE
 shows_strip || fail "the still is not the game's last frame"

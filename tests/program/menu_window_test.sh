@@ -34,10 +34,13 @@ hover_all() {
     hover 320 468 245x22+197+457 MainMenuHomepage.jpg 245x22+0+0
 }
 
+# longest_start: in ms; the twelve frames of loading and half a second, on a machine that has nothing else to do.
+longest_start() { awk '{ print ($1 < 0.5 ? 12 * 40 + 500 : 15000) }' /proc/loadavg; }
+
 start_screen 1280 1024
 start_program
 step "The menu began $startMs ms after the start."
-[ "$startMs" -lt 10000 ] || fail "it took $startMs ms to the menu"
+[ "$startMs" -lt "$(longest_start)" ] || fail "it took $startMs ms to the menu"
 expect_windowed
 # The window manager's own title may be a few pixels higher or lower than reckoned with.
 IFS=x+ read -r width height x y <<<"$homePlace"

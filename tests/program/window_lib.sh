@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034 # names for the scripts that source this
 # Sourced by the tests that drive the real program with real keys and mouse: a virtual screen with a window manager,
 # the program on it, its picture and its files.
 #     ..._test.sh FOLDER_OF_THE_PROGRAM FOLDER_OF_THE_PICTURES
@@ -27,10 +28,14 @@ PANEL=160x90+240+195 # where the paused and the confirmation panel show
 HELP=500x390+70+45
 RANKING=320x310+160+85
 
+# shellcheck disable=SC2046 # lists of numbers
 cleanup() {
-    # shellcheck disable=SC2046 # a list of numbers
-    kill $(jobs -p) 2>/dev/null
-    wait
+    kill $(jobs -rp) 2>/dev/null
+    for _ in $(seq 30); do
+        [ -n "$(jobs -rp)" ] || break
+        sleep 0.1
+    done
+    kill -KILL $(jobs -rp) 2>/dev/null
     rm -rf "$folder"
 }
 trap cleanup EXIT
