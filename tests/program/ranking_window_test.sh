@@ -4,10 +4,12 @@
 . "$(dirname "$0")/window_lib.sh"
 
 SCORE=60x16+46+120
+FIRST_NAME=100x16+270+133
 FIRST_PLACE=240x20+200+131
 
 shows_ranking() { shows Ranking.jpg $RANKING; }
 score_has_changed() { ! looks_like "$folder/no_score" $SCORE; }
+name_is_typed() { ! lit $FIRST_NAME yellow; }
 game_is_over() { logged CSectionMain::SectionEnd; }
 
 # way_to_berry: how many columns the nearest berry lies right of the snake, which swims upward; negative for left of it.
@@ -79,8 +81,10 @@ step "The game is over."
 
 KEY_PAUSE=0.3
 await "the ranking page asks for a name" shows_ranking
+await "the cursor blinks in the first place" lit $FIRST_NAME yellow
 has_setting "Rank 1" 0 && fail "the settings were written before the name was entered"
 type_keys shift+a n n x BackSpace minus 7 space b Return
+await "the name is no longer being typed" name_is_typed
 shows_ranking || fail "the end of the name closed the page"
 shot $FIRST_PLACE "$folder/first_place"
 press Return "the menu" shows_menu
