@@ -2,7 +2,7 @@
 
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config libsdl2-dev libfreetype-dev libfontconfig-dev libturbojpeg0-dev
     libtomlplusplus-dev libpng-dev fonts-dejavu-core"
-TEST_PACKAGES="libgtest-dev xvfb xdotool imagemagick openbox x11-utils"
+TEST_PACKAGES="libgtest-dev xvfb xdotool imagemagick openbox x11-utils wmctrl python3"
 CHECK_PACKAGES="clang-format"
 
 say() { printf '%s\n' "$*" >&2; }
@@ -19,7 +19,7 @@ install_packages() {
     if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
         say "This is no Debian relative: nothing was installed. The build needs a C++20 compiler, CMake 3.25, Ninja,"
         say "pkg-config and the development files of SDL2, FreeType, fontconfig, TurboJPEG, toml++ and libpng;"
-        say "the tests also need GoogleTest, Xvfb, xdotool, ImageMagick and openbox."
+        say "the tests also need GoogleTest, Xvfb, xdotool, wmctrl, ImageMagick, openbox, Python and X11's utilities."
         return 0
     fi
     local missing
