@@ -15,4 +15,14 @@ add_custom_command(
     COMMAND ${CMAKE_COMMAND} -E touch ${RUNTIME_DIR}/Wav/.copied
     DEPENDS ${WAVE_FILES}
     COMMENT "Copying the waves")
-add_custom_target(assets ALL DEPENDS ${RUNTIME_DIR}/Dat/Image.xpf ${RUNTIME_DIR}/Wav/.copied)
+
+# The home page that the main menu opens.
+file(GLOB_RECURSE PAGE_FILES CONFIGURE_DEPENDS docs/*)
+add_custom_command(
+    OUTPUT ${RUNTIME_DIR}/docs/.copied
+    COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_CURRENT_SOURCE_DIR}/docs ${RUNTIME_DIR}/docs
+    COMMAND ${CMAKE_COMMAND} -E touch ${RUNTIME_DIR}/docs/.copied
+    DEPENDS ${PAGE_FILES}
+    COMMENT "Copying the home page")
+
+add_custom_target(assets ALL DEPENDS ${RUNTIME_DIR}/Dat/Image.xpf ${RUNTIME_DIR}/Wav/.copied ${RUNTIME_DIR}/docs/.copied)

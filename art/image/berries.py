@@ -145,6 +145,12 @@ def object_picture(kind, size):
     return shrink(DRAW[kind](u * inward, v * inward), fine), shrink(alpha, fine)
 
 
+def ripe(kind):
+    """The picture in the pond. Black outside its rim, since the game also adds it to itself to make it blink."""
+    picture, alpha = object_picture(kind, CELL)
+    return picture * clip(2 * alpha)[..., None], alpha
+
+
 def falling_frame(kind, frame):
     """A berry on its way down: frame 1 large and soft, frame 14 the ripe berry itself.
 
@@ -152,12 +158,10 @@ def falling_frame(kind, frame):
     the berry comes in on a slant over its own shadow, which approaches from the same side.
     """
     left = FRAMES - frame
-    size = falling_size(frame)
-    picture, alpha = object_picture(kind, size)
-    if left:
-        alpha = blur(np.pad(alpha, 4), 0.14 * left)[4:-4, 4:-4]
-        picture = blur(picture, 0.12 * left)
-    return picture, alpha
+    if not left:
+        return ripe(kind)
+    picture, alpha = object_picture(kind, falling_size(frame))
+    return blur(picture, 0.12 * left), blur(np.pad(alpha, 4), 0.14 * left)[4:-4, 4:-4]
 
 
 def shadow():
@@ -169,8 +173,8 @@ def shadow():
 
 def render():
     for kind in COLOURS + ("golden",):
-        save_jpeg(f"bean_{kind}.jpg", object_picture(kind, CELL)[0], dither=False)
-    picture, alpha = object_picture("stone", CELL)
+        save_jpeg(f"bean_{kind}.jpg", ripe(kind)[0], dither=False)
+    picture, alpha = ripe("stone")
     save_jpeg("stone.jpg", picture, dither=False)
     save_mask("mask.bmp", alpha)
     for frame in range(1, FRAMES + 1):

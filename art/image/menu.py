@@ -99,9 +99,9 @@ def key_field(picture, way, x, y):
     lay(picture, mix(rgb("0a2e2d"), rgb("0e4442"), down), cover(inner))
     lay(picture, RIM, cover(np.abs(edge + 0.5) - 0.5) * 0.8)
     middle = KEY_FIELD / 2
-    cx, cy = {"up": (middle, -5), "down": (middle, KEY_FIELD + 5), "left": (-5, middle),
-              "right": (KEY_FIELD + 5, middle)}[way]
-    triangle(picture, x + cx, y + cy, 3.2, way, GOLD)
+    cx, cy = {"up": (middle, -4.5), "down": (middle, KEY_FIELD + 4.5), "left": (-4.5, middle),
+              "right": (KEY_FIELD + 4.5, middle)}[way]
+    triangle(picture, x + cx, y + cy, 2.8, way, GOLD)
 
 
 def options():

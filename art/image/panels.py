@@ -2,7 +2,8 @@
 import numpy as np
 
 from berries import CELL, COLOURS, object_picture
-from canvas import box_distance, clip, cover, lay, mix, put, rgb, save_bmp, save_jpeg, save_keyed, smooth, write
+from canvas import (box_distance, clip, cover, lay, mix, put, quantise, rgb, save_bmp, save_jpeg, save_keyed, smooth,
+                    write)
 from glass import GOLD, SOFT, button, heading, pane, rule, well
 from icons import heart
 from layout import (CENSUS, CONFIRM_BUTTONS, LENGTH, LEVEL, LIVES, MESSAGE_SIZE, NEXT_LEVEL_FIELDS, NEXT_LEVEL_SIZE,
@@ -114,7 +115,7 @@ def messages():
 
 def render():
     picture = strip()
-    save_bmp("LeftPanel.bmp", picture)
+    save_bmp("LeftPanel.bmp", quantise(picture) / 255.0)
     save_jpeg("Progress.jpg", progress())
     for name, panel in messages().items():
         save_jpeg(f"Message{name}.jpg", panel)
