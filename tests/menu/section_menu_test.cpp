@@ -223,9 +223,11 @@ TEST_F(SectionMenuTest, AsksForTheNameOfANewScore)
 {
     menu.rankScores[0] = 900;
     menu.SectionEnd();
+    input.lastChar = 'w'; // left over from steering
     menu.RankingInsert(70);
     EXPECT_TRUE(captureScreen);
     menu.SectionBegin();
+    Frame();
     EXPECT_EQ(OpenPages(), "ranking");
     EXPECT_TRUE(menu.mainMenu.isVisible);
     EXPECT_STREQ(NameField(1), "------");
