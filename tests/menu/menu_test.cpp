@@ -168,7 +168,7 @@ TEST_F(Menu, SoundsOnceForEachButtonTheMouseComesToAndForAPress)
     EXPECT_FALSE(menu.FindButton(3)->clicked);
     EXPECT_EQ(PixelAt(50, 35), HOVER);
     EXPECT_EQ(Plays(CLICK_SOUND), 1);
-    EXPECT_EQ(Stops(CLICK_SOUND), 1) << "it starts anew even while it plays";
+    EXPECT_EQ(Stops(CLICK_SOUND), 1) << "stopped before it is played";
 }
 
 TEST_F(Menu, ChecksOneToggleOfAGroup)
