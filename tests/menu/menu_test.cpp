@@ -33,7 +33,7 @@ protected:
         Paint(image, 10, IMAGE);
         Paint(hover, 10, HOVER);
         Paint(pressed, 10, PRESSED);
-        text.TextImageCreate(font, 16, 128);
+        text.TextImageCreate(font, TEXT_GREY_LEVELS, TEXT_GLYPH_SLOTS);
         menu.MenuCreate(MENU_X, MENU_Y, &background);
         menu.isVisible = true;
         menu.isActive = true;
@@ -103,7 +103,7 @@ protected:
     CImage image;
     CImage hover;
     CImage pressed;
-    HFONT font = CreateFontA(13, 5, 0, 0, FW_BOLD, 0, 0, 0, DEFAULT_CHARSET, 0, 0, PROOF_QUALITY, 0, "Verdana");
+    HFONT font = CreateVerdana(13, 5);
     CTextImage text;
     CMenu menu;
 };
