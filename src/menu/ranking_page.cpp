@@ -74,9 +74,9 @@ void CSectionMenu::RankingPageProcess()
 {
     MenuButton& ok = *rankingMenu.FindButton(BUTTON_RANKING_OK);
     if (MenuText* name = FocusedName()) {
-        if (TakeKey({ VK_RETURN }))
+        if (input.TakeKey({ VK_RETURN }))
             name->focused = false;
-    } else if (TakeKey({ VK_SPACE, VK_RETURN, VK_ESCAPE })) {
+    } else if (input.TakeKey({ VK_SPACE, VK_RETURN, VK_ESCAPE })) {
         ok.clicked = true;
     }
     if (!ok.clicked)

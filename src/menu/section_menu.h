@@ -3,22 +3,18 @@
 #include "app/section.h"
 #include "gfx/image.h"
 #include "gfx/text_image.h"
+#include "menu/help_page.h"
 #include "menu/menu.h"
 #include "menu/settings.h"
 
 #include <array>
 #include <cstdint>
-#include <initializer_list>
 #include <memory>
 
 constexpr int MENU_IMAGES = 20;
-constexpr int MENU_HELP_PAGES = 4;
 
 /// The product's page, relative to the program's folder, which is the current one.
 constexpr char HOME_PAGE[] = "docs\\index.html";
-
-/// Consumes the last key pressed when it is one of these.
-bool TakeKey(std::initializer_list<int> wanted);
 
 /// The main menu and its pages: options, ranking, help. It also carries the settings, so it must outlive the
 /// application object, which saves them.
@@ -53,7 +49,7 @@ public:
     CMenu mainMenu;
     CMenu optionsMenu;
     CMenu rankingMenu;
-    CMenu helpMenus[MENU_HELP_PAGES];
+    CMenu helpMenus[HELP_PAGES];
     CTextImage smallFont;
     CTextImage largeFont;
     uint32_t twoPlayers = 0; ///< 0 = one-player game, 1 = two-player game
@@ -71,6 +67,7 @@ private:
     void BuildOptionsPage();
     void BuildRankingPage();
     void BuildHelpPages();
+    void BuildFootButtons();
 
     void DrawBackground();
     bool MainMenuProcess();
