@@ -32,6 +32,7 @@ public:
 
     /// Reads every stored value and applies it; an absent one gives its default. Returns the store's result code.
     int SettingsLoad();
+    /// Writes every value; nothing until they have been read, for it would replace what is stored by defaults.
     int SettingsSave();
     /// Enters a one-player score that beats the tenth place, and asks for the player's name.
     void RankingInsert(int32_t score);
@@ -58,7 +59,7 @@ public:
     uint32_t rankEntryPending = 0;           ///< a new score waits for its name
     std::array<uint32_t, KEY_BINDINGS> keys = DefaultKeys();
     bool keyConflict = false;  ///< two bindings on the options page are equal
-    bool settingsRead = false; ///< until then the record holds defaults, which must not replace what is stored
+    bool settingsRead = false; ///< SettingsLoad has succeeded
 
 private:
     bool LoadFonts();
