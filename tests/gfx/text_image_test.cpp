@@ -113,19 +113,6 @@ TEST_F(TextImage, JoinsALeadByteWithTheNext)
     }
 }
 
-TEST_F(TextImage, GivesUpTheCharacterUsedLeastRecently)
-{
-    Create(2);
-    for (const char c : { 'B', 'C', 'B', 'A' }) // B at 1, C at 2, B at 3; A takes C's slot, and 2 is taken off
-        text.GetGlyph(static_cast<uint32_t>(c));
-    EXPECT_EQ(text.keys[0].code, static_cast<uint32_t>('A'));
-    EXPECT_EQ(text.keys[0].lastUse, 2U);
-    EXPECT_EQ(text.keys[0].glyphIndex, 1);
-    EXPECT_EQ(text.keys[1].code, static_cast<uint32_t>('B'));
-    EXPECT_EQ(text.keys[1].lastUse, 1U);
-    EXPECT_EQ(text.clock, 2U);
-}
-
 TEST_F(TextImage, KeepsItsKeysSortedAndItsGlyphsRight)
 {
     constexpr int SMALL = 8;
