@@ -2,7 +2,7 @@
 
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config libsdl2-dev libfreetype-dev libfontconfig-dev libturbojpeg0-dev
     libtomlplusplus-dev libpng-dev libhwy-dev fonts-dejavu-core"
-TEST_PACKAGES="libgtest-dev xvfb xdotool imagemagick openbox x11-utils wmctrl python3"
+TEST_PACKAGES="libgtest-dev xvfb xdotool imagemagick openbox x11-utils wmctrl python3 python3-numpy python3-pil"
 BENCH_PACKAGES="libbenchmark-dev libpixman-1-dev python3"
 CHECK_PACKAGES="clang-format clang-tidy"
 
@@ -20,7 +20,8 @@ install_packages() {
     if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
         say "This is no Debian relative: nothing was installed. The build needs a C++20 compiler, CMake 3.25, Ninja,"
         say "pkg-config and the development files of SDL2, FreeType, fontconfig, TurboJPEG, toml++, libpng and Highway;"
-        say "the tests also need GoogleTest, Xvfb, xdotool, wmctrl, ImageMagick, openbox, Python and X11's utilities."
+        say "the tests also need GoogleTest, Xvfb, xdotool, wmctrl, ImageMagick, openbox, X11's utilities and"
+        say "Python with NumPy and Pillow."
         return 0
     fi
     local missing

@@ -5,7 +5,6 @@
 #include "game/geometry.h"
 #include "gfx/error.h"
 #include "res/image_loader.h"
-#include "sound/sound.h"
 
 #include <functional>
 #include <iterator>
@@ -15,8 +14,6 @@ namespace
 {
 constexpr int FONT_HEIGHT = 13;
 constexpr int FONT_WIDTH = 5;
-constexpr int FONT_LEVELS = 16;
-constexpr int FONT_SLOTS = 128;
 
 struct ImageFile {
     const char* path;
@@ -63,19 +60,11 @@ constexpr PanelRow panelRows[] = {
 };
 static_assert(std::size(panelRows) == STATUS_PANELS);
 
-/// Pixels of the panel.
-struct Box {
-    int x;
-    int y;
-    int width;
-    int height;
-};
-
 /// A button lies over one that is part of the panel's picture.
 struct ButtonRow {
     int panel;
     int id;
-    Box box;
+    MenuBox box;
 };
 
 constexpr ButtonRow buttonRows[] = {
@@ -85,19 +74,11 @@ constexpr ButtonRow buttonRows[] = {
     { PANEL_CONFIRM, BUTTON_NO, { 88, 63, 54, 14 } },
 };
 
-constexpr Box helpClose = { 223, 363, 54, 14 };
-constexpr Box helpTabs[HELP_PAGES] = {
-    { 3, 3, 123, 32 },
-    { 126, 3, 123, 32 },
-    { 249, 3, 123, 32 },
-    { 372, 3, 123, 32 },
-};
-
 constexpr int NUMBER_LENGTH = 6; ///< digits of a level or a target
 
 struct TextRow {
     int id;
-    Box box;
+    MenuBox box;
 };
 
 /// On the next-level panel.
@@ -117,21 +98,6 @@ POINT PanelPosition(const CImage& picture, Place place)
         break;
     }
     return { 0, 0 };
-}
-
-bool AddPlainButton(CMenu& panel, int id, const Box& box)
-{
-    return panel.AddButton(id, box.x, box.y, box.width, box.height, nullptr, nullptr, nullptr, SOUND_NONE, SOUND_NONE);
-}
-
-bool AddHelpButtons(CMenu& panel, int page)
-{
-    bool ok = AddPlainButton(panel, HelpCloseId(page), helpClose);
-    for (int other = 0; other < HELP_PAGES; ++other) {
-        if (other != page)
-            ok = ok && AddPlainButton(panel, HelpTabId(page, other), helpTabs[other]);
-    }
-    return ok;
 }
 }
 
@@ -172,18 +138,15 @@ bool CStatusBar::DataLoad(bool& done)
 
 bool CStatusBar::LoadFont()
 {
-    fontHandle = CreateFontA(FONT_HEIGHT, FONT_WIDTH, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0,
-                             PROOF_QUALITY, 0, "Verdana");
-    return font.TextImageCreate(fontHandle, FONT_LEVELS, FONT_SLOTS);
+    fontHandle = CreateVerdana(FONT_HEIGHT, FONT_WIDTH);
+    return font.TextImageCreate(fontHandle, TEXT_GREY_LEVELS, TEXT_GLYPH_SLOTS);
 }
 
 bool CStatusBar::LoadImages()
 {
     images.reset(new (std::nothrow) CImage[STATUS_IMAGES]);
-    if (images == nullptr) {
-        lastError = ENGINE_ALLOCATE_MEMORY;
-        return false;
-    }
+    if (images == nullptr)
+        return FailWith(ENGINE_ALLOCATE_MEMORY);
     for (int i = 0; i < STATUS_IMAGES; ++i) {
         if (!imageFiles[i].load(images[i], imageFiles[i].path))
             return false;
@@ -202,15 +165,13 @@ bool CStatusBar::CreatePanels()
         ok = ok && panels[i]->MenuCreate(static_cast<int>(position.x), static_cast<int>(position.y), &picture);
     }
     for (const ButtonRow& row : buttonRows)
-        ok = ok && AddPlainButton(*panels[row.panel], row.id, row.box);
+        ok = ok && panels[row.panel]->AddHotArea(row.id, row.box);
     for (int page = 0; page < HELP_PAGES; ++page)
-        ok = ok && AddHelpButtons(helpPanels[page], page);
+        ok = ok && AddHelpButtons(helpPanels[page], BUTTON_HELP_FIRST, page);
     for (const auto& [id, box] : textRows)
         ok = ok && nextLevelPanel.AddText(id, box.x, box.y, box.width, box.height, nullptr, &font, 0xFFFF, 0x0000,
                                           ALIGN_CENTRE, TEXT_ENTRY, NUMBER_LENGTH);
-    if (!ok)
-        lastError = ENGINE_ALLOCATE_MEMORY;
-    return ok;
+    return ok || FailWith(ENGINE_ALLOCATE_MEMORY);
 }
 
 void CStatusBar::DataUnload()
@@ -238,6 +199,6 @@ void CStatusBar::StatusBarReset(CPond* owner)
     berryCountdown = 0;
     lifeMark[0] = lifeMark[1] = 0;
     for (CMenu* panel : Panels())
-        HidePanel(*panel);
-    ShowPanel(leftPanel);
+        panel->Hide();
+    leftPanel.Show();
 }

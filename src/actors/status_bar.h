@@ -2,6 +2,7 @@
 
 #include "gfx/image.h"
 #include "gfx/text_image.h"
+#include "menu/help_page.h"
 #include "menu/menu.h"
 
 #include <array>
@@ -11,7 +12,6 @@
 class CPond;
 
 constexpr int STATUS_IMAGES = 17;
-constexpr int HELP_PAGES = 4;
 constexpr int STATUS_PANELS = 10;
 constexpr int FIRST_TARGET = 500;   ///< score that clears level 1
 constexpr int COUNT_UP_FRAMES = 75; ///< of the target's figure at a new level
@@ -61,9 +61,6 @@ private:
     bool LoadImages();
     bool CreatePanels();
 
-    static void ShowPanel(CMenu& panel);
-    static void HidePanel(CMenu& panel);
-    static bool IsOpen(const CMenu& panel) { return panel.isVisible && panel.isActive; }
     bool IsAnyCoiling() const;
     bool IsHelpVisible() const;
     bool IsInGame(int player) const; ///< players count from 0

@@ -39,15 +39,5 @@ enum PanelItemId : int {
     BUTTON_NO = 5,
     TEXT_LEVEL = 6,
     TEXT_TARGET = 7,
-    BUTTON_HELP_FIRST = 8,
+    BUTTON_HELP_FIRST = 8, ///< those of the help pages
 };
-
-/// A help page, counted from 0, has a close button and then a tab for each other page.
-constexpr int HelpCloseId(int page)
-{
-    return BUTTON_HELP_FIRST + page * HELP_PAGES;
-}
-constexpr int HelpTabId(int page, int otherPage)
-{
-    return HelpCloseId(page) + otherPage + (otherPage < page ? 1 : 0);
-}

@@ -73,7 +73,7 @@ void CStatusBar::StatusBarLevelCleared()
 
     leftPanel.isActive = false;
     for (CMenu* panel : { &levelClearedPanel, &nextLevelPanel }) {
-        ShowPanel(*panel);
+        panel->Show();
         PlaceAbove(*panel);
     }
     ShowNumber(nextLevelPanel, TEXT_LEVEL, level);
@@ -94,25 +94,25 @@ void CStatusBar::ClearBerries()
 
 void CStatusBar::ProcessLevelClearedPanel()
 {
-    if (!IsOpen(levelClearedPanel))
+    if (!levelClearedPanel.IsOpen())
         return;
     SlideIn(levelClearedPanel);
     if (coilWait > 0)
         --coilWait;
     if (coilWait == 0 && SlideOut(levelClearedPanel))
-        HidePanel(levelClearedPanel);
+        levelClearedPanel.Hide();
 }
 
 void CStatusBar::ProcessNextLevelPanel()
 {
-    if (!IsOpen(nextLevelPanel))
+    if (!nextLevelPanel.IsOpen())
         return;
     if (!levelClearedPanel.isVisible && IsAnyCoiling() && SlideIn(nextLevelPanel))
         countUp = COUNT_UP_FRAMES;
     if (nextLevelPanel.y == RestingY(nextLevelPanel) && countUp == 0)
         StatusBarNextLevel();
     if (!IsAnyCoiling() && SlideOut(nextLevelPanel)) {
-        HidePanel(nextLevelPanel);
+        nextLevelPanel.Hide();
         leftPanel.isActive = true;
     }
 }
@@ -138,12 +138,12 @@ void CStatusBar::StatusBarGameOver()
     if (gameOverPanel.isVisible)
         return;
     leftPanel.isActive = false;
-    ShowPanel(gameOverPanel);
+    gameOverPanel.Show();
     PlaceAbove(gameOverPanel);
 }
 
 void CStatusBar::ProcessGameOverPanel()
 {
-    if (IsOpen(gameOverPanel) && SlideIn(gameOverPanel))
+    if (gameOverPanel.IsOpen() && SlideIn(gameOverPanel))
         pond->fadeOut = END_FADE_FRAMES;
 }

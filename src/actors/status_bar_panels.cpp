@@ -8,15 +8,6 @@
 
 namespace
 {
-/// True once for a press of the key.
-bool TakeKey(int key)
-{
-    if (input.lastKeyDown != key)
-        return false;
-    input.lastKeyDown = 0;
-    return true;
-}
-
 bool IsDismissKey(int key)
 {
     return key == VK_SPACE || key == VK_RETURN || key == VK_ESCAPE;
@@ -31,18 +22,6 @@ bool IsClicked(CMenu& panel, int button)
 {
     return panel.FindButton(button)->clicked;
 }
-}
-
-void CStatusBar::ShowPanel(CMenu& panel)
-{
-    panel.isVisible = true;
-    panel.isActive = true;
-}
-
-void CStatusBar::HidePanel(CMenu& panel)
-{
-    panel.isVisible = false;
-    panel.isActive = false;
 }
 
 bool CStatusBar::IsHelpVisible() const
@@ -79,13 +58,13 @@ void CStatusBar::StatusBarProcess(CImage& screen)
 
 void CStatusBar::ProcessStripButtons()
 {
-    if (!IsOpen(leftPanel))
+    if (!leftPanel.IsOpen())
         return;
-    if (!pond->snake[0].isPaused && TakeKey(VK_SPACE))
+    if (!pond->snake[0].isPaused && input.TakeKey({ VK_SPACE }))
         Click(leftPanel, BUTTON_PAUSE);
-    if (!confirmPanel.isVisible && TakeKey(VK_ESCAPE))
+    if (!confirmPanel.isVisible && input.TakeKey({ VK_ESCAPE }))
         Click(leftPanel, BUTTON_QUIT);
-    if (!IsHelpVisible() && TakeKey(VK_F1))
+    if (!IsHelpVisible() && input.TakeKey({ VK_F1 }))
         Click(leftPanel, BUTTON_HELP);
 
     CMenu* opened = nullptr;
@@ -97,7 +76,7 @@ void CStatusBar::ProcessStripButtons()
         opened = &confirmPanel;
     if (opened == nullptr)
         return;
-    ShowPanel(*opened);
+    opened->Show();
     leftPanel.isActive = false;
     SetPaused(true);
     captureScreen = true;
@@ -105,30 +84,30 @@ void CStatusBar::ProcessStripButtons()
 
 void CStatusBar::ProcessPausedPanel()
 {
-    if (!IsOpen(pausedPanel))
+    if (!pausedPanel.IsOpen())
         return;
     panelOpen = true;
     if (pond->snake[0].isPaused && IsDismissKey(input.lastKeyDown))
         Click(pausedPanel, BUTTON_RESUME);
-    if (!IsHelpVisible() && TakeKey(VK_F1))
+    if (!IsHelpVisible() && input.TakeKey({ VK_F1 }))
         Click(pausedPanel, BUTTON_HELP);
 
     if (IsClicked(pausedPanel, BUTTON_RESUME)) {
         ResumeGame(pausedPanel);
     } else if (IsClicked(pausedPanel, BUTTON_HELP)) {
-        HidePanel(pausedPanel);
-        ShowPanel(helpPanels[0]);
+        pausedPanel.Hide();
+        helpPanels[0].Show();
     }
 }
 
 void CStatusBar::ProcessConfirmPanel()
 {
-    if (!IsOpen(confirmPanel))
+    if (!confirmPanel.IsOpen())
         return;
     panelOpen = true;
-    if (TakeKey(VK_RETURN) || TakeKey(VK_SPACE))
+    if (input.TakeKey({ VK_RETURN, VK_SPACE }))
         Click(confirmPanel, BUTTON_YES);
-    else if (TakeKey(VK_ESCAPE))
+    else if (input.TakeKey({ VK_ESCAPE }))
         Click(confirmPanel, BUTTON_NO);
 
     if (IsClicked(confirmPanel, BUTTON_YES)) {
@@ -144,33 +123,20 @@ void CStatusBar::ProcessConfirmPanel()
 void CStatusBar::ResumeGame(CMenu& panel)
 {
     panelOpen = false;
-    HidePanel(panel);
+    panel.Hide();
     leftPanel.isActive = true;
     SetPaused(false);
 }
 
 void CStatusBar::ProcessHelpPages()
 {
-    const auto open = std::ranges::find_if(helpPanels, IsOpen);
+    const auto open = std::ranges::find_if(helpPanels, &CMenu::IsOpen);
     if (open == std::end(helpPanels))
         return;
-    const int page = static_cast<int>(open - std::begin(helpPanels));
     panelOpen = true;
-    if (IsDismissKey(input.lastKeyDown)) {
-        input.lastKeyDown = 0;
-        Click(*open, HelpCloseId(page));
-    }
-
-    if (IsClicked(*open, HelpCloseId(page))) {
-        HidePanel(*open);
-        ShowPanel(pausedPanel);
+    const int next = ProcessHelpPage(*open, BUTTON_HELP_FIRST, static_cast<int>(open - std::begin(helpPanels)));
+    if (next == HELP_STAY)
         return;
-    }
-    for (int other = 0; other < HELP_PAGES; ++other) {
-        if (other == page || !IsClicked(*open, HelpTabId(page, other)))
-            continue;
-        HidePanel(*open);
-        ShowPanel(helpPanels[other]);
-        return;
-    }
+    open->Hide();
+    (next == HELP_CLOSE ? pausedPanel : helpPanels[next]).Show();
 }

@@ -60,8 +60,7 @@ CGame::CGame(const char* windowName, int clientWidth, int clientHeight, bool sta
 
 CGame::~CGame()
 {
-    if (sectionMenu.settingsRead) // a copy that stopped before that holds nothing but defaults
-        sectionMenu.SettingsSave();
+    sectionMenu.SettingsSave();
     if (instanceMutex)
         CloseHandle(instanceMutex);
 }

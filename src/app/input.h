@@ -1,8 +1,13 @@
 #pragma once
 
+#include <initializer_list>
+
 /// Mouse and keyboard as the window procedure last saw them; it alone writes here. Readers consume a key by setting
 /// `lastKeyDown` to 0 and a click by clearing `mouseLeftDown`, so that one press acts once.
 struct InputState {
+    /// Consumes the last key pressed when it is one of these.
+    bool TakeKey(std::initializer_list<int> wanted);
+
     int mouseX = 0; ///< client pixels; negative left of or above the window while a button is held
     int mouseY = 0;
     bool mouseLeftDown = false;

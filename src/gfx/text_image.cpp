@@ -63,6 +63,12 @@ bool RenderGlyph(CGlyph& glyph, HDC dc, uint32_t code, int ascent)
 }
 }
 
+HFONT CreateVerdana(int height, int width)
+{
+    return CreateFontA(height, width, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0, PROOF_QUALITY, 0,
+                       "Verdana");
+}
+
 CTextImage::~CTextImage()
 {
     TextImageFree();

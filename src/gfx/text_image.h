@@ -7,6 +7,14 @@
 #include <cstdint>
 #include <memory>
 
+// What every text of the game is made with.
+constexpr int TEXT_GREY_LEVELS = 16;
+constexpr int TEXT_GLYPH_SLOTS = 128;
+
+/// The game's typeface, Verdana in bold: height of the cell and width of the average character in pixels. The caller
+/// deletes it, not before the text images that use it. Null when there is no font.
+HFONT CreateVerdana(int height, int width);
+
 /// One cached character.
 struct CGlyph {
     int32_t offsetX = 0; ///< minus the glyph origin's x

@@ -1,5 +1,7 @@
 #include "menu/menu.h"
 
+#include "sound/sound.h"
+
 #include <new>
 
 namespace
@@ -58,6 +60,11 @@ bool CMenu::AddButton(int id, int boxX, int boxY, int boxWidth, int boxHeight, C
                                .hoverSound = hoverSound,
                                .clickSound = clickSound };
     return true;
+}
+
+bool CMenu::AddHotArea(int id, const MenuBox& box)
+{
+    return AddButton(id, box.x, box.y, box.width, box.height, nullptr, nullptr, nullptr, SOUND_NONE, SOUND_NONE);
 }
 
 bool CMenu::AddToggle(int id, int group, int boxX, int boxY, int boxWidth, int boxHeight, CImage* image,

@@ -6,6 +6,14 @@
 #include <cstdint>
 #include <memory>
 
+/// Pixels, relative to the menu.
+struct MenuBox {
+    int x;
+    int y;
+    int width;
+    int height;
+};
+
 /// A click area with up to three pictures. Boxes are relative to the menu.
 struct MenuButton {
     int32_t id = 0;
@@ -87,6 +95,8 @@ public:
     /// The Add operations answer false when their list is full.
     bool AddButton(int id, int boxX, int boxY, int boxWidth, int boxHeight, CImage* image, CImage* hoverImage,
                    CImage* pressedImage, int hoverSound, int clickSound);
+    /// A button without pictures and sounds, over one that is part of the background.
+    bool AddHotArea(int id, const MenuBox& box);
     bool AddToggle(int id, int group, int boxX, int boxY, int boxWidth, int boxHeight, CImage* image,
                    CImage* hoverImage, CImage* checkedImage, int hoverSound, int clickSound);
     bool AddText(int id, int boxX, int boxY, int boxWidth, int boxHeight, CImage* image, CTextImage* font,
@@ -95,6 +105,10 @@ public:
     MenuButton* FindButton(int id);
     MenuToggle* FindToggle(int id);
     MenuText* FindText(int id);
+    /// Shown and hidden, the menu also takes and loses mouse and keyboard.
+    void Show() { isVisible = isActive = true; }
+    void Hide() { isVisible = isActive = false; }
+    bool IsOpen() const { return isVisible && isActive; }
     /// One frame: draws the panel onto `target` and handles mouse and keyboard.
     void MenuProcess(CImage& target);
 

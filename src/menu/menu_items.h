@@ -38,23 +38,7 @@ enum MenuItem : int {
     BUTTON_RANKING_OK = 24,
     FIELD_NAME_FIRST = 25,  ///< ten places
     FIELD_SCORE_FIRST = 35, ///< ten places
-};
-
-/// A button of a help page: back to the main menu, or the tab of another page. Pages count from 0.
-struct HelpButton {
-    int page;
-    int id;
-    int opens;
-};
-
-constexpr int HELP_BACK = -1;
-
-/// Page by page, back first: the first clicked one in this order acts.
-constexpr HelpButton helpButtons[] = {
-    { 0, 45, HELP_BACK }, { 0, 46, 1 }, { 0, 47, 2 }, { 0, 48, 3 }, //
-    { 1, 49, HELP_BACK }, { 1, 50, 0 }, { 1, 51, 2 }, { 1, 52, 3 }, //
-    { 2, 53, HELP_BACK }, { 2, 54, 0 }, { 2, 55, 1 }, { 2, 56, 3 }, //
-    { 3, 57, HELP_BACK }, { 3, 58, 0 }, { 3, 59, 1 }, { 3, 60, 2 },
+    BUTTON_HELP_FIRST = 45, ///< those of the help pages
 };
 
 // Text colours, RGB565.

@@ -1,8 +1,8 @@
 #include "app/globals.h"
 #include "app/log.h"
+#include "gfx/error.h"
 #include "menu/menu_items.h"
 #include "menu/section_menu.h"
-#include "platform/gdi.h"
 #include "res/image_loader.h"
 #include "sound/sound.h"
 
@@ -12,8 +12,14 @@ namespace
 {
 
 constexpr SoundFile menuSounds[] = {
-    { 0, "Wav\\popo.wav" }, { 1, "Wav\\select.wav" }, { 2, "Wav\\loop.wav" },  { 3, "Wav\\env1.wav" },
-    { 4, "Wav\\env8.wav" }, { 5, "Wav\\env11.wav" },  { 6, "Wav\\env12.wav" }, { 7, "Wav\\env13.wav" },
+    { SOUND_MENU_HOVER, "Wav\\popo.wav" },
+    { SOUND_MENU_CLICK, "Wav\\select.wav" },
+    { SOUND_MUSIC, "Wav\\loop.wav" },
+    { SOUND_MENU_ENV_FIRST, "Wav\\env1.wav" },
+    { SOUND_MENU_ENV_FIRST + 1, "Wav\\env8.wav" },
+    { SOUND_MENU_ENV_FIRST + 2, "Wav\\env11.wav" },
+    { SOUND_MENU_ENV_FIRST + 3, "Wav\\env12.wav" },
+    { SOUND_MENU_ENV_LAST, "Wav\\env13.wav" },
 };
 
 struct MenuFont {
@@ -26,9 +32,6 @@ constexpr MenuFont menuFonts[] = {
     { &CSectionMenu::smallFont, 13, 5 },
     { &CSectionMenu::largeFont, 18, 6 },
 };
-
-constexpr int GREY_LEVELS = 16;
-constexpr int GLYPH_SLOTS = 128;
 
 struct PictureFile {
     int picture;
@@ -53,73 +56,81 @@ struct PictureView {
 };
 
 constexpr PictureView pictureViews[] = {
-    { 10, PICTURE_MAIN_ITEMS, 0, 172, 36 },     { 11, PICTURE_MAIN_ITEMS, 172, 154, 36 },
-    { 12, PICTURE_MAIN_ITEMS, 326, 111, 36 },   { 13, PICTURE_MAIN_ITEMS, 437, 94, 36 },
-    { 14, PICTURE_MAIN_ITEMS, 531, 60, 36 },    { 15, PICTURE_MAIN_ITEMS, 591, 60, 36 },
-    { 16, PICTURE_OPTIONS_ITEMS, 0, 72, 23 },   { 17, PICTURE_OPTIONS_ITEMS, 72, 85, 23 },
-    { 18, PICTURE_OPTIONS_ITEMS, 157, 26, 23 }, { 19, PICTURE_OPTIONS_ITEMS, 183, 33, 23 },
+    { PICTURE_HOVER_FIRST, PICTURE_MAIN_ITEMS, 0, 172, 36 },
+    { PICTURE_HOVER_FIRST + 1, PICTURE_MAIN_ITEMS, 172, 154, 36 },
+    { PICTURE_HOVER_FIRST + 2, PICTURE_MAIN_ITEMS, 326, 111, 36 },
+    { PICTURE_HOVER_FIRST + 3, PICTURE_MAIN_ITEMS, 437, 94, 36 },
+    { PICTURE_HOVER_FIRST + 4, PICTURE_MAIN_ITEMS, 531, 60, 36 },
+    { PICTURE_HOVER_FIRST + 5, PICTURE_MAIN_ITEMS, 591, 60, 36 },
+    { PICTURE_CHECKED_FIRST, PICTURE_OPTIONS_ITEMS, 0, 72, 23 },
+    { PICTURE_CHECKED_FIRST + 1, PICTURE_OPTIONS_ITEMS, 72, 85, 23 },
+    { PICTURE_CHECKED_FIRST + 2, PICTURE_OPTIONS_ITEMS, 157, 26, 23 },
+    { PICTURE_CHECKED_FIRST + 3, PICTURE_OPTIONS_ITEMS, 183, 33, 23 },
 };
 
 struct MainButton {
     int id;
-    int x;
-    int y;
-    int width;
-    int height;
+    MenuBox box;
     int hoverPicture;
 };
 
 constexpr MainButton mainButtons[] = {
-    { BUTTON_HOME_PAGE, 197, 457, 245, 22, PICTURE_HOME_PAGE },
-    { BUTTON_ONE_PLAYER, 116, 158, 172, 36, PICTURE_HOVER_FIRST },
-    { BUTTON_TWO_PLAYERS, 359, 158, 154, 36, PICTURE_HOVER_FIRST + 1 },
-    { BUTTON_RANKING, 76, 267, 111, 36, PICTURE_HOVER_FIRST + 2 },
-    { BUTTON_OPTIONS, 460, 267, 94, 36, PICTURE_HOVER_FIRST + 3 },
-    { BUTTON_HELP, 173, 379, 60, 36, PICTURE_HOVER_FIRST + 4 },
-    { BUTTON_QUIT, 407, 379, 60, 36, PICTURE_HOVER_FIRST + 5 },
+    { BUTTON_HOME_PAGE, { 197, 457, 245, 22 }, PICTURE_HOME_PAGE },
+    { BUTTON_ONE_PLAYER, { 116, 158, 172, 36 }, PICTURE_HOVER_FIRST },
+    { BUTTON_TWO_PLAYERS, { 359, 158, 154, 36 }, PICTURE_HOVER_FIRST + 1 },
+    { BUTTON_RANKING, { 76, 267, 111, 36 }, PICTURE_HOVER_FIRST + 2 },
+    { BUTTON_OPTIONS, { 460, 267, 94, 36 }, PICTURE_HOVER_FIRST + 3 },
+    { BUTTON_HELP, { 173, 379, 60, 36 }, PICTURE_HOVER_FIRST + 4 },
+    { BUTTON_QUIT, { 407, 379, 60, 36 }, PICTURE_HOVER_FIRST + 5 },
 };
 
-/// The buttons in the foot of a page: hot areas of one size over words in its picture.
-constexpr int FOOT_BUTTON_WIDTH = 54;
-constexpr int FOOT_BUTTON_HEIGHT = 14;
-
+/// The buttons in the foot of a page lie over words in its picture.
 struct FootButton {
+    CMenu CSectionMenu::*page;
     int id;
-    int x;
+    MenuBox box;
 };
 
-constexpr FootButton optionsButtons[] = {
-    { BUTTON_OPTIONS_OK, 133 },
-    { BUTTON_OPTIONS_CANCEL, 203 },
-    { BUTTON_OPTIONS_DEFAULT, 63 },
+constexpr FootButton footButtons[] = {
+    { &CSectionMenu::optionsMenu, BUTTON_OPTIONS_OK, { 133, 203, 54, 14 } },
+    { &CSectionMenu::optionsMenu, BUTTON_OPTIONS_CANCEL, { 203, 203, 54, 14 } },
+    { &CSectionMenu::optionsMenu, BUTTON_OPTIONS_DEFAULT, { 63, 203, 54, 14 } },
+    { &CSectionMenu::rankingMenu, BUTTON_RANKING_OK, { 133, 283, 54, 14 } },
 };
 
 struct OptionsToggle {
     int id;
     int group;
-    int x;
-    int y;
-    int width;
+    MenuBox box;
     int checkedPicture;
 };
 
 constexpr OptionsToggle optionsToggles[] = {
-    { TOGGLE_WINDOWED, GROUP_DISPLAY, 90, 14, 72, PICTURE_CHECKED_FIRST },
-    { TOGGLE_FULL_SCREEN, GROUP_DISPLAY, 180, 14, 85, PICTURE_CHECKED_FIRST + 1 },
-    { TOGGLE_SOUND_ON, GROUP_SOUND, 90, 39, 26, PICTURE_CHECKED_FIRST + 2 },
-    { TOGGLE_SOUND_OFF, GROUP_SOUND, 129, 39, 33, PICTURE_CHECKED_FIRST + 3 },
+    { TOGGLE_WINDOWED, GROUP_DISPLAY, { 90, 14, 72, 23 }, PICTURE_CHECKED_FIRST },
+    { TOGGLE_FULL_SCREEN, GROUP_DISPLAY, { 180, 14, 85, 23 }, PICTURE_CHECKED_FIRST + 1 },
+    { TOGGLE_SOUND_ON, GROUP_SOUND, { 90, 39, 26, 23 }, PICTURE_CHECKED_FIRST + 2 },
+    { TOGGLE_SOUND_OFF, GROUP_SOUND, { 129, 39, 33, 23 }, PICTURE_CHECKED_FIRST + 3 },
 };
 
 constexpr int KEY_FIELD_SIZE = 33;
+constexpr int KEY_NAME_LENGTH = 10;
+constexpr int PLAYER_NAME_LENGTH = 20;
+
+/// A column of the ranking: a field for each place, one below the other.
+struct RankingColumn {
+    int firstId;
+    MenuBox top;
+};
+
+constexpr RankingColumn rankingColumns[] = {
+    { FIELD_NAME_FIRST, { 150, 48, 20, 16 } },
+    { FIELD_SCORE_FIRST, { 260, 48, 20, 16 } },
+};
+constexpr int RANKING_ROW_HEIGHT = 20;
 
 void CreateCentred(CMenu& page, CImage& picture)
 {
     page.MenuCreate((backBuffer.width - picture.width) / 2, (backBuffer.height - picture.height) / 2, &picture);
-}
-
-void AddFootButton(CMenu& page, int id, int x, int y)
-{
-    page.AddButton(id, x, y, FOOT_BUTTON_WIDTH, FOOT_BUTTON_HEIGHT, nullptr, nullptr, nullptr, SOUND_NONE, SOUND_NONE);
 }
 
 }
@@ -128,9 +139,8 @@ bool CSectionMenu::LoadFonts()
 {
     for (const MenuFont& row : menuFonts) {
         // The text image keeps using the font, so it is never deleted.
-        const HFONT font = CreateFontA(row.height, row.width, 0, 0, FW_BOLD, 0, 0, 0, DEFAULT_CHARSET, 0, 0,
-                                       PROOF_QUALITY, 0, "Verdana");
-        if (!(this->*row.text).TextImageCreate(font, GREY_LEVELS, GLYPH_SLOTS))
+        const HFONT font = CreateVerdana(row.height, row.width);
+        if (!(this->*row.text).TextImageCreate(font, TEXT_GREY_LEVELS, TEXT_GLYPH_SLOTS))
             return false;
     }
     return true;
@@ -140,7 +150,7 @@ bool CSectionMenu::LoadPictures()
 {
     images.reset(new (std::nothrow) CImage[MENU_IMAGES]);
     if (!images)
-        return false;
+        return FailWith(ENGINE_ALLOCATE_MEMORY);
     for (const PictureFile& file : pictureFiles) {
         if (!LoadJpegFile(images[file.picture], file.path))
             return false;
@@ -153,52 +163,45 @@ bool CSectionMenu::LoadPictures()
 void CSectionMenu::BuildMainMenu()
 {
     mainMenu.MenuCreate(0, 0, &images[PICTURE_MAIN_MENU]);
-    for (const MainButton& button : mainButtons)
-        mainMenu.AddButton(button.id, button.x, button.y, button.width, button.height, nullptr,
-                           &images[button.hoverPicture], nullptr, SOUND_MENU_HOVER, SOUND_MENU_CLICK);
+    for (const auto& [id, box, hoverPicture] : mainButtons)
+        mainMenu.AddButton(id, box.x, box.y, box.width, box.height, nullptr, &images[hoverPicture], nullptr,
+                           SOUND_MENU_HOVER, SOUND_MENU_CLICK);
 }
 
 void CSectionMenu::BuildOptionsPage()
 {
     CreateCentred(optionsMenu, images[PICTURE_OPTIONS]);
-    for (const FootButton& button : optionsButtons)
-        AddFootButton(optionsMenu, button.id, button.x, 203);
-    for (const OptionsToggle& toggle : optionsToggles) {
-        CImage& checked = images[toggle.checkedPicture];
-        optionsMenu.AddToggle(toggle.id, toggle.group, toggle.x, toggle.y, toggle.width, 23, nullptr, nullptr, &checked,
+    for (const auto& [id, group, box, checkedPicture] : optionsToggles)
+        optionsMenu.AddToggle(id, group, box.x, box.y, box.width, box.height, nullptr, nullptr, &images[checkedPicture],
                               SOUND_NONE, SOUND_NONE);
-    }
     for (const KeyBinding& binding : keyBindings)
         optionsMenu.AddText(binding.field, binding.x, binding.y, KEY_FIELD_SIZE, KEY_FIELD_SIZE, nullptr, &largeFont,
-                            TEXT_WHITE, TEXT_YELLOW, ALIGN_CENTRE, KEY_CAPTURE, 10);
+                            TEXT_WHITE, TEXT_YELLOW, ALIGN_CENTRE, KEY_CAPTURE, KEY_NAME_LENGTH);
 }
 
 void CSectionMenu::BuildRankingPage()
 {
-    constexpr int NAME_LENGTH = 20;
     CreateCentred(rankingMenu, images[PICTURE_RANKING]);
-    AddFootButton(rankingMenu, BUTTON_RANKING_OK, 133, 283);
-    const auto addColumn = [this](int firstId, int x) {
+    for (const auto& [firstId, top] : rankingColumns) {
         for (int place = 0; place < RANKING_PLACES; ++place)
-            rankingMenu.AddText(firstId + place, x, 48 + 20 * place, 20, 16, nullptr, &smallFont, TEXT_WHITE,
-                                TEXT_YELLOW, ALIGN_CENTRE, TEXT_ENTRY, NAME_LENGTH);
-    };
-    addColumn(FIELD_NAME_FIRST, 150);
-    addColumn(FIELD_SCORE_FIRST, 260);
+            rankingMenu.AddText(firstId + place, top.x, top.y + RANKING_ROW_HEIGHT * place, top.width, top.height,
+                                nullptr, &smallFont, TEXT_WHITE, TEXT_YELLOW, ALIGN_CENTRE, TEXT_ENTRY,
+                                PLAYER_NAME_LENGTH);
+    }
 }
 
 void CSectionMenu::BuildHelpPages()
 {
-    for (int page = 0; page < MENU_HELP_PAGES; ++page)
+    for (int page = 0; page < HELP_PAGES; ++page) {
         CreateCentred(helpMenus[page], images[PICTURE_HELP_FIRST + page]);
-    for (const HelpButton& button : helpButtons) {
-        CMenu& page = helpMenus[button.page];
-        if (button.opens == HELP_BACK)
-            AddFootButton(page, button.id, 223, 363);
-        else
-            page.AddButton(button.id, 3 + 123 * button.opens, 3, 123, 32, nullptr, nullptr, nullptr, SOUND_NONE,
-                           SOUND_NONE);
+        AddHelpButtons(helpMenus[page], BUTTON_HELP_FIRST, page);
     }
+}
+
+void CSectionMenu::BuildFootButtons()
+{
+    for (const auto& [page, id, box] : footButtons)
+        (this->*page).AddHotArea(id, box);
 }
 
 bool CSectionMenu::DataLoad(bool& done)
@@ -224,6 +227,7 @@ bool CSectionMenu::DataLoad(bool& done)
         BuildOptionsPage();
         BuildRankingPage();
         BuildHelpPages();
+        BuildFootButtons();
         done = true;
         WriteLog("CSectionMenu::DataLoad 3");
         break;

@@ -32,8 +32,8 @@ void DrawAt(CImage& target, const CMenu& menu, const Item& item, CImage* image)
         image->Draw(target, menu.x + item.x, menu.y + item.y);
 }
 
-/// From its start, even when it still plays.
-void PlayAnew(int sound)
+/// A stopped sound keeps its position: one that still plays goes on from there, one that has ended starts again.
+void StopAndPlay(int sound)
 {
     if (sound == SOUND_NONE)
         return;
@@ -66,7 +66,7 @@ Item* Hover(CImage& target, const CMenu& menu, std::span<Item> items, int32_t& h
     }
     const int32_t id = hovered != nullptr ? hovered->id : -1;
     if (hovered != nullptr && id != hoveredId)
-        PlayAnew(hovered->hoverSound);
+        StopAndPlay(hovered->hoverSound);
     hoveredId = id;
     return hovered;
 }
@@ -77,7 +77,7 @@ bool TakeClick(const Item* hovered)
 {
     if (hovered == nullptr || !input.mouseLeftDown)
         return false;
-    PlayAnew(hovered->clickSound);
+    StopAndPlay(hovered->clickSound);
     input.mouseLeftDown = false;
     return true;
 }

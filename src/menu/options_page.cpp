@@ -1,3 +1,4 @@
+#include "app/globals.h"
 #include "gfx/display.h"
 #include "menu/menu_items.h"
 #include "menu/section_menu.h"
@@ -36,9 +37,9 @@ void CSectionMenu::OptionsPageProcess()
     MenuButton& ok = *optionsMenu.FindButton(BUTTON_OPTIONS_OK);
     MenuButton& cancel = *optionsMenu.FindButton(BUTTON_OPTIONS_CANCEL);
     // None of these keys can be bound.
-    if (TakeKey({ VK_SPACE, VK_RETURN }))
+    if (input.TakeKey({ VK_SPACE, VK_RETURN }))
         ok.clicked = true;
-    else if (TakeKey({ VK_ESCAPE }))
+    else if (input.TakeKey({ VK_ESCAPE }))
         cancel.clicked = true;
 
     if (ok.clicked) {

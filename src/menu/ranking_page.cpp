@@ -29,6 +29,7 @@ void CSectionMenu::RankingInsert(int32_t score)
     rankNames[place][0] = 0;
 
     rankingMenu.FindText(FIELD_NAME_FIRST + place)->focused = true;
+    input.lastChar = 0; // a letter that steered the snake is no part of the name
     rankEntryPending = 1;
     RankingPageFill();
     captureScreen = true; // the game's last frame is the still behind the page
@@ -73,9 +74,9 @@ void CSectionMenu::RankingPageProcess()
 {
     MenuButton& ok = *rankingMenu.FindButton(BUTTON_RANKING_OK);
     if (MenuText* name = FocusedName()) {
-        if (TakeKey({ VK_RETURN }))
+        if (input.TakeKey({ VK_RETURN }))
             name->focused = false;
-    } else if (TakeKey({ VK_SPACE, VK_RETURN, VK_ESCAPE })) {
+    } else if (input.TakeKey({ VK_SPACE, VK_RETURN, VK_ESCAPE })) {
         ok.clicked = true;
     }
     if (!ok.clicked)

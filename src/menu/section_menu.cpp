@@ -12,7 +12,7 @@
 #include "sound/sound.h"
 
 #include <algorithm>
-#include <initializer_list>
+#include <iterator>
 
 namespace
 {
@@ -21,31 +21,6 @@ constexpr DWORD NO_FOCUS_SLEEP_MS = 100;
 constexpr uint32_t STILL_OPACITY = 128; // half brightness
 constexpr int AMBIENCE_FRAMES = 1000;   // each ambience sound comes once in as many frames, on average
 
-void Show(CMenu& page)
-{
-    page.isVisible = true;
-    page.isActive = true;
-}
-
-void Hide(CMenu& page)
-{
-    page.isVisible = false;
-    page.isActive = false;
-}
-
-bool IsOpen(const CMenu& page)
-{
-    return page.isVisible && page.isActive;
-}
-
-}
-
-bool TakeKey(std::initializer_list<int> wanted)
-{
-    if (std::find(wanted.begin(), wanted.end(), input.lastKeyDown) == wanted.end())
-        return false;
-    input.lastKeyDown = 0;
-    return true;
 }
 
 CSectionMenu::~CSectionMenu()
@@ -55,11 +30,11 @@ CSectionMenu::~CSectionMenu()
 
 bool CSectionMenu::SectionBegin()
 {
-    Show(mainMenu);
-    Hide(optionsMenu);
-    Hide(rankingMenu);
+    mainMenu.Show();
+    optionsMenu.Hide();
+    rankingMenu.Hide();
     for (CMenu& page : helpMenus)
-        Hide(page);
+        page.Hide();
     if (rankEntryPending != 0)
         OpenPage(rankingMenu);
     SetCursor(LoadCursorA(nullptr, IDC_ARROW));
@@ -89,14 +64,14 @@ bool CSectionMenu::SectionProcess()
     for (CMenu& page : helpMenus)
         page.MenuProcess(backBuffer);
 
-    if (IsOpen(mainMenu) && !MainMenuProcess())
+    if (mainMenu.IsOpen() && !MainMenuProcess())
         return true;
-    if (IsOpen(optionsMenu))
+    if (optionsMenu.IsOpen())
         OptionsPageProcess();
-    if (IsOpen(rankingMenu))
+    if (rankingMenu.IsOpen())
         RankingPageProcess();
-    for (int page = 0; page < MENU_HELP_PAGES; ++page) {
-        if (IsOpen(helpMenus[page]))
+    for (int page = 0; page < HELP_PAGES; ++page) {
+        if (helpMenus[page].IsOpen())
             HelpPageProcess(page);
     }
     PlayAmbience();
@@ -128,7 +103,7 @@ bool CSectionMenu::MainMenuProcess()
     };
 
     const auto isVisible = [](const CMenu& page) { return page.isVisible; };
-    if (std::none_of(std::begin(helpMenus), std::end(helpMenus), isVisible) && TakeKey({ VK_F1 }))
+    if (std::none_of(std::begin(helpMenus), std::end(helpMenus), isVisible) && input.TakeKey({ VK_F1 }))
         mainMenu.FindButton(BUTTON_HELP)->clicked = true;
     for (const Row& row : actions) {
         if (mainMenu.FindButton(row.button)->clicked) {
@@ -189,34 +164,26 @@ void CSectionMenu::OpenHelp()
 void CSectionMenu::OpenPage(CMenu& page)
 {
     mainMenu.isActive = false;
-    Show(page);
+    page.Show();
 }
 
 void CSectionMenu::ClosePage(CMenu& page)
 {
     page.isVisible = false;
-    Show(mainMenu);
+    mainMenu.Show();
 }
 
 void CSectionMenu::HelpPageProcess(int page)
 {
-    const bool leave = TakeKey({ VK_SPACE, VK_RETURN, VK_ESCAPE });
-    for (const HelpButton& row : helpButtons) {
-        if (row.page != page)
-            continue;
-        MenuButton* button = helpMenus[page].FindButton(row.id);
-        if (row.opens == HELP_BACK && leave)
-            button->clicked = true;
-        if (!button->clicked)
-            continue;
-        if (row.opens == HELP_BACK) {
-            ClosePage(helpMenus[page]);
-        } else {
-            helpMenus[page].isVisible = false;
-            Show(helpMenus[row.opens]);
-        }
+    const int next = ProcessHelpPage(helpMenus[page], BUTTON_HELP_FIRST, page);
+    if (next == HELP_STAY)
+        return;
+    if (next == HELP_CLOSE) {
+        ClosePage(helpMenus[page]);
         return;
     }
+    helpMenus[page].isVisible = false;
+    helpMenus[next].Show();
 }
 
 void CSectionMenu::PlayAmbience()

@@ -3,22 +3,18 @@
 #include "app/section.h"
 #include "gfx/image.h"
 #include "gfx/text_image.h"
+#include "menu/help_page.h"
 #include "menu/menu.h"
 #include "menu/settings.h"
 
 #include <array>
 #include <cstdint>
-#include <initializer_list>
 #include <memory>
 
 constexpr int MENU_IMAGES = 20;
-constexpr int MENU_HELP_PAGES = 4;
 
 /// The product's page, relative to the program's folder, which is the current one.
 constexpr char HOME_PAGE[] = "docs\\index.html";
-
-/// Consumes the last key pressed when it is one of these.
-bool TakeKey(std::initializer_list<int> wanted);
 
 /// The main menu and its pages: options, ranking, help. It also carries the settings, so it must outlive the
 /// application object, which saves them.
@@ -36,6 +32,7 @@ public:
 
     /// Reads every stored value and applies it; an absent one gives its default. Returns the store's result code.
     int SettingsLoad();
+    /// Writes every value; nothing until they have been read, for it would replace what is stored by defaults.
     int SettingsSave();
     /// Enters a one-player score that beats the tenth place, and asks for the player's name.
     void RankingInsert(int32_t score);
@@ -53,7 +50,7 @@ public:
     CMenu mainMenu;
     CMenu optionsMenu;
     CMenu rankingMenu;
-    CMenu helpMenus[MENU_HELP_PAGES];
+    CMenu helpMenus[HELP_PAGES];
     CTextImage smallFont;
     CTextImage largeFont;
     uint32_t twoPlayers = 0; ///< 0 = one-player game, 1 = two-player game
@@ -62,7 +59,7 @@ public:
     uint32_t rankEntryPending = 0;           ///< a new score waits for its name
     std::array<uint32_t, KEY_BINDINGS> keys = DefaultKeys();
     bool keyConflict = false;  ///< two bindings on the options page are equal
-    bool settingsRead = false; ///< until then the record holds defaults, which must not replace what is stored
+    bool settingsRead = false; ///< SettingsLoad has succeeded
 
 private:
     bool LoadFonts();
@@ -71,6 +68,7 @@ private:
     void BuildOptionsPage();
     void BuildRankingPage();
     void BuildHelpPages();
+    void BuildFootButtons();
 
     void DrawBackground();
     bool MainMenuProcess();

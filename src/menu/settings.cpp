@@ -3,6 +3,7 @@
 #include "app/mode_switch.h"
 #include "gfx/display.h"
 #include "menu/section_menu.h"
+#include "platform/kernel.h"
 #include "platform/registry.h"
 #include "sound/sound.h"
 
@@ -92,6 +93,9 @@ int CSectionMenu::SettingsLoad()
 
 int CSectionMenu::SettingsSave()
 {
+    // A copy that stopped early, or could not read the store, holds defaults where a ranking may be stored.
+    if (!settingsRead)
+        return static_cast<int>(ERROR_READ_FAULT);
     HKEY key = nullptr;
     if (const LONG result = OpenSettings(key); result != static_cast<LONG>(ERROR_SUCCESS))
         return result;

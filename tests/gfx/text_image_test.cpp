@@ -12,7 +12,6 @@
 
 namespace
 {
-constexpr int SLOTS = 128;
 constexpr uint16_t WHITE = 0xFFFF;
 
 /// A text image in the strip's font, and a black picture to draw into.
@@ -21,7 +20,7 @@ class TextImage : public testing::Test
 protected:
     TextImage()
     {
-        Create(SLOTS);
+        Create(TEXT_GLYPH_SLOTS);
         picture.Create(160, 32);
     }
     ~TextImage() override
@@ -30,7 +29,7 @@ protected:
         DeleteObject(font);
     }
 
-    void Create(int slots) { ASSERT_TRUE(text.TextImageCreate(font, 16, slots)); }
+    void Create(int slots) { ASSERT_TRUE(text.TextImageCreate(font, TEXT_GREY_LEVELS, slots)); }
 
     std::vector<uint16_t> Draw(int x, const char* line)
     {
@@ -40,7 +39,7 @@ protected:
     }
     int Advance(uint32_t code) { return text.GetGlyph(code)->advance; }
 
-    HFONT font = CreateFontA(13, 5, 0, 0, FW_BOLD, 0, 0, 0, DEFAULT_CHARSET, 0, 0, PROOF_QUALITY, 0, "Verdana");
+    HFONT font = CreateVerdana(13, 5);
     CTextImage text;
     CImage picture;
 };
@@ -114,24 +113,11 @@ TEST_F(TextImage, JoinsALeadByteWithTheNext)
     }
 }
 
-TEST_F(TextImage, GivesUpTheCharacterUsedLeastRecently)
-{
-    Create(2);
-    for (const char c : { 'B', 'C', 'B', 'A' }) // B at 1, C at 2, B at 3; A takes C's slot, and 2 is taken off
-        text.GetGlyph(static_cast<uint32_t>(c));
-    EXPECT_EQ(text.keys[0].code, static_cast<uint32_t>('A'));
-    EXPECT_EQ(text.keys[0].lastUse, 2U);
-    EXPECT_EQ(text.keys[0].glyphIndex, 1);
-    EXPECT_EQ(text.keys[1].code, static_cast<uint32_t>('B'));
-    EXPECT_EQ(text.keys[1].lastUse, 1U);
-    EXPECT_EQ(text.clock, 2U);
-}
-
 TEST_F(TextImage, KeepsItsKeysSortedAndItsGlyphsRight)
 {
     constexpr int SMALL = 8;
     CTextImage reference;
-    ASSERT_TRUE(reference.TextImageCreate(font, 16, SLOTS));
+    ASSERT_TRUE(reference.TextImageCreate(font, TEXT_GREY_LEVELS, TEXT_GLYPH_SLOTS));
     Create(SMALL);
     std::list<uint32_t> recent; // the latest first
     uint32_t state = 1;

@@ -19,6 +19,7 @@ void MenuFixture::SetUp()
     const WAVEFORMATEX format{ 1, 2, 22050, 88200, 4, 16, 0 };
     for (int id = SOUND_MENU_HOVER; id <= SOUND_MENU_ENV_LAST; ++id)
         ASSERT_TRUE(SoundCreate(id, &format, 16));
+    ASSERT_EQ(menu.SettingsLoad(), 0);
     bool loaded = false;
     while (!loaded)
         ASSERT_TRUE(menu.DataLoad(loaded));

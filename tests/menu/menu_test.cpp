@@ -33,7 +33,7 @@ protected:
         Paint(image, 10, IMAGE);
         Paint(hover, 10, HOVER);
         Paint(pressed, 10, PRESSED);
-        text.TextImageCreate(font, 16, 128);
+        text.TextImageCreate(font, TEXT_GREY_LEVELS, TEXT_GLYPH_SLOTS);
         menu.MenuCreate(MENU_X, MENU_Y, &background);
         menu.isVisible = true;
         menu.isActive = true;
@@ -103,7 +103,7 @@ protected:
     CImage image;
     CImage hover;
     CImage pressed;
-    HFONT font = CreateFontA(13, 5, 0, 0, FW_BOLD, 0, 0, 0, DEFAULT_CHARSET, 0, 0, PROOF_QUALITY, 0, "Verdana");
+    HFONT font = CreateVerdana(13, 5);
     CTextImage text;
     CMenu menu;
 };
@@ -168,7 +168,7 @@ TEST_F(Menu, SoundsOnceForEachButtonTheMouseComesToAndForAPress)
     EXPECT_FALSE(menu.FindButton(3)->clicked);
     EXPECT_EQ(PixelAt(50, 35), HOVER);
     EXPECT_EQ(Plays(CLICK_SOUND), 1);
-    EXPECT_EQ(Stops(CLICK_SOUND), 1) << "it starts anew even while it plays";
+    EXPECT_EQ(Stops(CLICK_SOUND), 1) << "stopped before it is played";
 }
 
 TEST_F(Menu, ChecksOneToggleOfAGroup)

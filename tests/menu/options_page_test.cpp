@@ -134,16 +134,6 @@ TEST_F(OptionsPageTest, SoundOffStopsTheMusicAtOnceAndSoundOnStartsIt)
     EXPECT_TRUE(IsSaved("\"No Sound\" = 0"));
 }
 
-TEST_F(OptionsPageTest, OkWithoutAChangeLeavesTheDisplayAlone)
-{
-    Open();
-    const std::string log = Log();
-    const int placements = fake.Calls("SetWindowPos");
-    Press(VK_RETURN);
-    EXPECT_EQ(Log(), log);
-    EXPECT_EQ(fake.Calls("SetWindowPos"), placements);
-}
-
 TEST_F(OptionsPageTest, AFailedSwitchKeepsAndSavesTheModeInForce)
 {
     for (const bool fails : { true, false }) {

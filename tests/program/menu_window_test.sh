@@ -160,4 +160,17 @@ point_at 10 10
 await "the menu" shows_menu
 wmctrl -c Tervalis
 expect_end
+step "Ended while its message box is open, which holds up no other copy"
+mv "$program/Dat" "$folder/"
+"$program/tervalis" 2>"$folder/errors" &
+pid=$!
+await "a message box, which has a process of its own" eval 'box=$(pgrep -P $pid)'
+kill -TERM $pid
+await "the program ends" has_ended
+mv "$folder/Dat" "$program/"
+kill -0 "$box" 2>/dev/null || fail "the box went too, and nothing was tested"
+start_program
+wmctrl -c Tervalis
+expect_end
+kill "$box"
 echo "The menu does what it should."

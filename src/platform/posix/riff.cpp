@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
-#include <memory>
+#include <new>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -15,7 +15,7 @@ struct HMMIO__ {
 
     explicit HMMIO__(int openFile) : descriptor(openFile)
     {
-        info.pchBuffer = buffer.get();
+        info.pchBuffer = buffer;
         DropBuffer(0);
     }
     HMMIO__(const HMMIO__&) = delete;
@@ -43,8 +43,8 @@ struct HMMIO__ {
     }
 
     int descriptor;
-    std::unique_ptr<char[]> buffer{ new char[BUFFER_BYTES] };
     MMIOINFO info{};
+    char buffer[BUFFER_BYTES];
 };
 
 namespace
@@ -108,7 +108,12 @@ MMRESULT ReadChunkHeader(HMMIO file, MMCKINFO& chunk)
 HMMIO mmioOpenA(LPSTR path, MMIOINFO*, DWORD)
 {
     const int descriptor = OpenFile(path);
-    return descriptor < 0 ? nullptr : new HMMIO__(descriptor);
+    if (descriptor < 0)
+        return nullptr;
+    const HMMIO file = new (std::nothrow) HMMIO__(descriptor);
+    if (!file)
+        close(descriptor);
+    return file;
 }
 
 MMRESULT mmioClose(HMMIO file, UINT)

@@ -4,9 +4,8 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <fcntl.h>
-#include <memory>
+#include <filesystem>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -17,6 +16,9 @@ namespace
 constexpr mode_t USER_FILE = 0600;
 constexpr mode_t USER_FOLDER = 0700;
 constexpr int ASIDE_NAMES = 1000;
+constexpr int MAX_LINKS = 40;
+constexpr int LOCK_TRIES = 20;
+constexpr useconds_t LOCK_WAIT_US = 25000;
 
 /// An open file, closed at the end of its scope.
 struct Descriptor {
@@ -51,11 +53,32 @@ LONG LastCode(DWORD otherwise)
     }
 }
 
-/// The file itself where `path` is a link to one.
+/// The file itself where `path` is a link, also when it is not there yet.
 std::string ResolveLink(const std::string& path)
 {
-    const std::unique_ptr<char, decltype(&free)> resolved(realpath(path.c_str(), nullptr), free);
-    return resolved ? resolved.get() : path;
+    std::filesystem::path file = path;
+    std::error_code error;
+    for (int i = 0; i < MAX_LINKS; ++i) {
+        const std::filesystem::path next = std::filesystem::read_symlink(file, error);
+        if (error)
+            break;
+        file = file.parent_path() / next;
+    }
+    return file.string();
+}
+
+/// One writer at a time. False where folders cannot be locked, or when another program keeps the lock: saving must not
+/// hold up the player for longer than a moment. The system drops the lock of a program that dies.
+bool LockFolder(int folder)
+{
+    for (int i = 0; i < LOCK_TRIES; ++i) {
+        if (flock(folder, LOCK_EX | LOCK_NB) == 0)
+            return true;
+        if (errno != EWOULDBLOCK && errno != EINTR)
+            return false;
+        usleep(LOCK_WAIT_US);
+    }
+    return false;
 }
 
 std::string FolderOf(const std::string& path)
@@ -118,10 +141,8 @@ LONG ReplaceSmallFile(const std::string& path, const std::string& content)
     const Descriptor folder(open(FolderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (folder.fd < 0)
         return LastCode(ERROR_WRITE_FAULT);
-    // One writer at a time, where folders can be locked. The system drops the lock of a program that dies.
-    flock(folder.fd, LOCK_EX);
-
-    const std::string draft = target + ".tmp";
+    // Without the lock somebody else may be at work on the common draft.
+    const std::string draft = target + ".tmp" + (LockFolder(folder.fd) ? "" : "." + std::to_string(getpid()));
     unlink(draft.c_str()); // left by a program that died while it saved
     LONG result = WriteNewFile(draft, content);
     if (result == Code(ERROR_SUCCESS) && rename(draft.c_str(), target.c_str()) != 0)

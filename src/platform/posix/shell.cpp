@@ -50,6 +50,17 @@ std::string FullPath(LPCSTR file)
     _exit(0);
 }
 
+/// Waits for a pipe's other ends to be closed, or for a byte: false.
+bool IsClosedUnused(int pipeEnd)
+{
+    char byte = 0;
+    ssize_t count;
+    do {
+        count = read(pipeEnd, &byte, 1);
+    } while (count < 0 && errno == EINTR);
+    return count == 0;
+}
+
 /// Starts the desktop's opener without waiting for it; its argument reaches it as it is.
 bool StartOpener(std::string argument)
 {
@@ -62,12 +73,11 @@ bool StartOpener(std::string argument)
     if (child == 0)
         StartAndLeave(arguments, ends[1]);
     close(ends[1]);
-    char failed = 0;
     bool started = child > 0;
     if (started) {
         while (waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
         }
-        started = read(ends[0], &failed, 1) == 0;
+        started = IsClosedUnused(ends[0]);
     }
     close(ends[0]);
     return started;

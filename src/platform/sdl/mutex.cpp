@@ -4,21 +4,48 @@
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
+#include <pthread.h>
 #include <string>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
+#include <vector>
 
 namespace
 {
 /// A lock on a file. The system drops it when the descriptor is closed, also by the process's death. The file itself
 /// stays: removing it would let a third process lock a new file while a second one still holds the old.
 struct NamedMutex final : KernelObject {
-    explicit NamedMutex(int openDescriptor) : descriptor(openDescriptor) {}
-    ~NamedMutex() override { close(descriptor); }
+    explicit NamedMutex(int openDescriptor);
+    ~NamedMutex() override;
 
-    const int descriptor;
+    int descriptor;
 };
+
+/// All that are open. Never destroyed itself, for the last one is closed by a global object's destructor.
+std::vector<NamedMutex*>& openMutexes = *new std::vector<NamedMutex*>;
+
+NamedMutex::NamedMutex(int openDescriptor) : descriptor(openDescriptor)
+{
+    openMutexes.push_back(this);
+}
+
+NamedMutex::~NamedMutex()
+{
+    std::erase(openMutexes, this);
+    if (descriptor >= 0)
+        close(descriptor);
+}
+
+/// Runs in every forked child: one that stays, such as a message box, must not keep the lock when its parent dies.
+void CloseInChild()
+{
+    for (NamedMutex* mutex : openMutexes)
+        close(std::exchange(mutex->descriptor, -1));
+}
+
+[[maybe_unused]] const int forkHandler = pthread_atfork(nullptr, nullptr, CloseInChild);
 
 /// One per user and name: in the session's own folder, else in the one for temporary files.
 std::string LockPath(std::string name)

@@ -1,0 +1,11 @@
+#include "app/input.h"
+
+#include <algorithm>
+
+bool InputState::TakeKey(std::initializer_list<int> wanted)
+{
+    if (std::ranges::find(wanted, lastKeyDown) == wanted.end())
+        return false;
+    lastKeyDown = 0;
+    return true;
+}
