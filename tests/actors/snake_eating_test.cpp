@@ -1,8 +1,5 @@
 #include "snake_fixture.h"
 
-#include "platform/fake_platform.h"
-#include "sound/sound.h"
-
 namespace
 {
 struct ScoreCase {
@@ -100,22 +97,5 @@ TEST_F(SnakeEating, EatsInTheFrameOfItsDeath)
     Frame();
     EXPECT_TRUE(Snake().isDying);
     EXPECT_EQ(Snake().score, 5);
-}
-
-TEST_F(SnakeEating, HeartBeatsBeforeFullLength)
-{
-    fake.Reset();
-    SoundInit(FAKE_WINDOW);
-    const WAVEFORMATEX format{ WAVE_FORMAT_PCM, 1, 22050, 44100, 2, 16, 0 };
-    ASSERT_TRUE(SoundCreate(SOUND_BEAT_2, &format, 100));
-    const FakeSoundBuffer& beat = *fake.soundBuffers.at(0);
-    Snake().player = 2;
-    PutSnakeBeforeGrid(24);
-    Frame();
-    EXPECT_TRUE(beat.playing && beat.looping);
-    PutSnakeBeforeGrid(25);
-    Frame();
-    EXPECT_FALSE(beat.playing);
-    SoundRelease();
 }
 }

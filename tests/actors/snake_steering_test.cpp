@@ -1,5 +1,7 @@
 #include "snake_fixture.h"
 
+#include "game/water.h"
+
 #include <string>
 #include <vector>
 
@@ -85,5 +87,32 @@ TEST_F(SnakeSteering, StartsOnlyWithBothHeadsOnTheGrid)
     pond->snake[1].segments[0].x = 112;
     Frame();
     EXPECT_FALSE(Snake().isWaiting);
+}
+
+struct WakeCase {
+    int speed;
+    int y; ///< of the head
+    int key;
+    bool isWaiting;
+    bool splashes;
+    const char* why;
+};
+
+TEST_F(SnakeSteering, SplashesWhenFastOrTurningAtAnEvenPlace)
+{
+    constexpr WakeCase cases[] = {
+        { 2, 242, 0, false, false, "straight on" },  { 2, 242, LEFT, false, true, "a turn is queued" },
+        { 2, 241, LEFT, false, false, "odd place" }, { 4, 241, 0, false, true, "fast" },
+        { 4, 242, LEFT, true, false, "it waits" },
+    };
+    for (const WakeCase& given : cases) {
+        PutSnake(240, given.y);
+        Snake().speed = given.speed;
+        Snake().isWaiting = given.isWaiting;
+        Snake().turnCount = 0;
+        WaterInit(waterBufferA, waterBufferB, 5, 3);
+        Frame(given.key);
+        EXPECT_EQ(water.current[(given.y + 8) * POND_SIZE + 248] != 0, given.splashes) << given.why;
+    }
 }
 }
