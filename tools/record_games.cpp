@@ -53,7 +53,7 @@ RecordedGame Record(const GamePlan& plan)
         game->Frame(key);
         watcher.Look(game->pond);
         ++recording.frames;
-        if (recording.frames % RecordedGame::STRETCH == 0)
+        if (recording.frames % RecordedGame::STRETCH == 0 || game->pond.gameOver)
             recording.checksums.push_back(StateChecksum(game->pond));
     }
     Report(plan, recording, watcher, game->pond);

@@ -12,9 +12,6 @@ namespace
 {
 constexpr int START_LIVES = 2;
 constexpr int BERRY_DISTANCE = 6; ///< cells that new berries keep from a head, in columns and in rows
-
-constexpr int SPLASH_RADIUS = 4;
-constexpr int SPLASH_DEPTH = 102;
 }
 
 CSnake::~CSnake() = default;
@@ -168,5 +165,5 @@ int CSnake::BeatSound() const
 
 void CSnake::Splash(const Segment& segment)
 {
-    DisturbWater(segment.x + CELL_SIZE / 2, segment.y + CELL_SIZE / 2, SPLASH_RADIUS, SPLASH_DEPTH);
+    SplashCell(segment.x, segment.y, LIGHT_SPLASH);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "game/geometry.h"
 #include "gfx/image.h"
 
 #include <cstdint>
@@ -13,9 +14,6 @@ struct Segment {
     int32_t y = 0;
     int32_t dir = 0; ///< where it goes: one of the player's four key codes
 };
-
-/// A row of the tables that depend on where a segment goes.
-enum class Direction : int { NONE = -1, UP = 0, DOWN = 1, LEFT = 2, RIGHT = 3 };
 
 constexpr int MAX_SEGMENTS = 25;
 constexpr int TURN_QUEUE = 10;

@@ -92,9 +92,10 @@ void CSnake::CountStreak(int colour)
     lastColour = colour;
 }
 
-/// The new segment waits on the tail's spot and unrolls behind it. A full-length snake has frozen before it eats.
+/// The new segment waits on the tail's spot and unrolls behind it.
 void CSnake::Grow()
 {
+    // Not reached: a snake freezes at full length before it eats, and one that is gone does not. Kept for the array.
     if (length == 0 || length == MAX_SEGMENTS)
         return;
     segments[length] = segments[length - 1];

@@ -66,12 +66,13 @@ void CSnake::RunEffects()
     RunPendingEffect();
 }
 
-/// Pops one segment off the tail. The head itself is never popped.
+/// Pops one segment off the tail.
 void CSnake::StepShrink()
 {
     if (shrinkCount <= 0)
         return;
     --shrinkCount;
+    // Not reached: a streak of five leaves more than the half that goes. Kept, for the head must never be popped.
     if (length <= 1)
         return;
     Splash(segments[length - 1]);

@@ -3,7 +3,8 @@
 #include "gfx/blit.h"
 #include "res/image_loader.h"
 
-#include <cstdio>
+#include <cstddef>
+#include <memory>
 
 namespace
 {
@@ -14,36 +15,14 @@ constexpr const char* arrowFiles[ARROW_IMAGES] = {
     "Dat\\Image/ArrowRight.bmp",
 };
 
-/// Pictures that are numbered from 1 on, each with its own mask; the patterns take the number.
-struct NumberedFiles {
-    const char* picture;
-    const char* mask;
-};
 constexpr NumberedFiles eyeFiles{ "Dat\\Image/snakeeye%02d.jpg", "Dat\\Image/snakeeye%02d_.bmp" };
 constexpr NumberedFiles bumpEyeFiles{ "Dat\\Image/bumpeye%d.jpg", "Dat\\Image/bumpeye%d_.bmp" };
 
-bool LoadMaskedImage(CImage& image, const NumberedFiles& files, int number)
+/// An array of heads, each with its mask.
+bool LoadHeads(std::unique_ptr<CImage[]>& images, int count, const NumberedFiles& files)
 {
-    char path[64];
-    std::snprintf(path, sizeof path, files.picture, number);
-    if (!LoadJpegFile(image, path))
-        return false;
-    CImage mask;
-    std::snprintf(path, sizeof path, files.mask, number);
-    if (!LoadMaskFile(mask, path))
-        return false;
-    image.CopyAlpha(mask);
-    image.blit = BlitAlpha;
-    return true;
-}
-
-bool LoadMaskedImages(CImage* images, int count, const NumberedFiles& files)
-{
-    for (int i = 0; i < count; ++i) {
-        if (!LoadMaskedImage(images[i], files, i + 1))
-            return false;
-    }
-    return true;
+    return AllocateImages(images, count) &&
+           LoadMaskedFiles({ images.get(), static_cast<size_t>(count) }, files, BlitAlpha);
 }
 }
 
@@ -54,16 +33,8 @@ bool CSnake::SnakeLoadImage()
         return false;
     bodyImage.blit = BlitAdd;
 
-    eyeImages = std::make_unique<CImage[]>(EYE_IMAGES);
-    if (!LoadMaskedImages(eyeImages.get(), EYE_IMAGES, eyeFiles))
-        return false;
-    bumpEyeImages = std::make_unique<CImage[]>(BUMP_EYE_IMAGES);
-    if (!LoadMaskedImages(bumpEyeImages.get(), BUMP_EYE_IMAGES, bumpEyeFiles))
-        return false;
-    if (!LoadArrows())
-        return false;
-
-    if (!LoadJpegFile(shadowImage, "Dat\\Image/shadow.jpg"))
+    if (!LoadHeads(eyeImages, EYE_IMAGES, eyeFiles) || !LoadHeads(bumpEyeImages, BUMP_EYE_IMAGES, bumpEyeFiles) ||
+        !LoadArrows() || !LoadJpegFile(shadowImage, "Dat\\Image/shadow.jpg"))
         return false;
     shadowImage.blit = BlitSub;
     WriteLog("CSnake::SnakeLoadImage");
@@ -72,7 +43,8 @@ bool CSnake::SnakeLoadImage()
 
 bool CSnake::LoadArrows()
 {
-    arrowImages = std::make_unique<CImage[]>(ARROW_IMAGES);
+    if (!AllocateImages(arrowImages, ARROW_IMAGES))
+        return false;
     for (int i = 0; i < ARROW_IMAGES; ++i) {
         if (!LoadBmpFile(arrowImages[i], arrowFiles[i]))
             return false;

@@ -1,8 +1,5 @@
 #pragma once
 
-#include "actors/snake.h"
-#include "game/geometry.h"
-
 // The numbers that more than one of the snake's subjects needs.
 
 constexpr int START_LENGTH = 5; ///< segments at a game's, a life's and a level's start, and after a freeze
@@ -16,23 +13,3 @@ constexpr int RAIN_FRAMES = 375; ///< thunder first
 constexpr int RAIN_FALLS = 350;  ///< below it, it rains
 
 constexpr int FACE_FRAMES = 20; ///< a dead snake's bumped head shows before its body vanishes
-
-/// What a direction means on the pond.
-struct Course {
-    int dx;
-    int dy;
-    int heading;
-    Direction reverse;
-};
-/// Up, down, left, right.
-constexpr Course courses[] = {
-    { 0, -1, HEADING_UP, Direction::DOWN },
-    { 0, 1, HEADING_DOWN, Direction::UP },
-    { -1, 0, HEADING_LEFT, Direction::RIGHT },
-    { 1, 0, HEADING_RIGHT, Direction::LEFT },
-};
-/// `direction` must not be NONE.
-constexpr const Course& CourseOf(Direction direction)
-{
-    return courses[static_cast<int>(direction)];
-}

@@ -9,10 +9,7 @@
 
 namespace
 {
-constexpr int SLIDE_SPEED = 20; ///< pixels a frame, downward
-constexpr int END_FADE_FRAMES = 125;
-constexpr int SPLASH_RADIUS = 8; ///< of a berry that a level's end takes away
-constexpr int SPLASH_DEPTH = 170;
+constexpr int SLIDE_SPEED = 20;    ///< pixels a frame, downward
 constexpr int GATHER_SPEED = 2;    ///< of coiling snakes, pixels a frame
 constexpr int FRESH_BERRIES = 5;   ///< at a level's start
 constexpr int BERRY_INTERVAL = 10; ///< frames between them
@@ -88,7 +85,7 @@ void CStatusBar::ClearBerries()
             continue;
         cell.occupied = false;
         if (cell.growth == 0)
-            DisturbWater(cell.x + CELL_SIZE / 2, cell.y + CELL_SIZE / 2, SPLASH_RADIUS, SPLASH_DEPTH);
+            SplashCell(cell.x, cell.y, BERRY_SPLASH);
     }
 }
 
@@ -145,5 +142,5 @@ void CStatusBar::StatusBarGameOver()
 void CStatusBar::ProcessGameOverPanel()
 {
     if (gameOverPanel.IsOpen() && SlideIn(gameOverPanel))
-        pond->fadeOut = END_FADE_FRAMES;
+        pond->fadeOut = FADE_OUT_START;
 }

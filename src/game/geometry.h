@@ -31,6 +31,29 @@ enum Heading : int {
     HEADING_DOWN = 40,
 };
 
+/// A row of the tables that depend on a direction.
+enum class Direction : int { NONE = -1, UP = 0, DOWN = 1, LEFT = 2, RIGHT = 3 };
+
+/// What a direction means on the pond.
+struct Course {
+    int dx;
+    int dy;
+    int heading;
+    Direction reverse;
+};
+/// By Direction.
+constexpr Course courses[] = {
+    { 0, -1, HEADING_UP, Direction::DOWN },
+    { 0, 1, HEADING_DOWN, Direction::UP },
+    { -1, 0, HEADING_LEFT, Direction::RIGHT },
+    { 1, 0, HEADING_RIGHT, Direction::LEFT },
+};
+/// `direction` must not be NONE.
+constexpr const Course& CourseOf(Direction direction)
+{
+    return courses[static_cast<int>(direction)];
+}
+
 /// Berry colours. Golden berries only arise from lasers.
 enum BerryColour : int {
     RED = 0,

@@ -74,6 +74,7 @@ constexpr int GROWTH_FRAMES = 14; ///< falling-berry images per colour
 constexpr int GROWTH_IMAGES = GROWTH_FRAMES * ORDINARY_COLOURS;
 constexpr int GROWTH_START = 28; ///< frames of growth of a new berry
 constexpr int HIGHLIGHTS = 5;
+constexpr int FADE_OUT_START = 125; ///< `fadeOut` as the end of a game begins
 
 /// The state of the moon and of loading, which outlives a game.
 struct SceneryState {
@@ -131,7 +132,7 @@ public:
     CSnake snake[2];
     CStatusBar statusBar;
     bool gameOver = false; ///< the end-of-game fade has finished
-    int32_t fadeOut = 0;   ///< end-of-game fade counter, 125 falling by 2 a frame
+    int32_t fadeOut = 0;   ///< end-of-game fade counter, FADE_OUT_START falling by 2 a frame
     Cell cells[CELL_COUNT];
     Shockwave shockwave;
     CImage dayBackground;

@@ -19,7 +19,8 @@ struct EyeTests {
     EyeTest tests[4]; ///< the first berry counts
 };
 
-// Heading down looks at its right side first. Kept: recorded games and their pictures rely on it.
+// Heading down looks at its right side first, which decides the expression with a berry on either side. Kept: part of
+// how the game looks.
 constexpr EyeTests eyeTable[] = {
     { HEADING_LEFT, { { 0, 1, 3 }, { -1, 1, 2 }, { 0, -1, 5 }, { -1, -1, 4 } } },
     { HEADING_UP, { { -1, 0, 3 }, { -1, -1, 2 }, { 1, 0, 5 }, { 1, -1, 4 } } },

@@ -57,7 +57,7 @@ void CPond::DrawRipeBerry(Cell& cell, CImage& pondPicture)
     if (cell.splashed)
         return;
     cell.splashed = true;
-    DisturbWater(cell.x + CELL_SIZE / 2, cell.y + CELL_SIZE / 2, 8, 170);
+    SplashCell(cell.x, cell.y, BERRY_SPLASH);
     SoundStop(SOUND_DROP); // one that still plays would go on instead of starting anew
     SoundPlay(SOUND_DROP, false);
 }

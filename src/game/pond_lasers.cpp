@@ -14,25 +14,13 @@ constexpr int BURST_FRAMES = 20;
 constexpr int GOLDEN_RING_RADIUS = 64;
 constexpr int RING_STEP = 3; ///< pixels a frame
 
-struct Move {
-    int heading;
-    int x;
-    int y;
-};
-constexpr Move laserMoves[] = {
-    { HEADING_LEFT, -CELL_SIZE, 0 },
-    { HEADING_UP, 0, -CELL_SIZE },
-    { HEADING_RIGHT, CELL_SIZE, 0 },
-    { HEADING_DOWN, 0, CELL_SIZE },
-};
-
 void MoveLaser(Laser& laser)
 {
-    const Move* move = std::ranges::find(laserMoves, laser.heading, &Move::heading);
-    if (move == std::end(laserMoves))
+    const Course* course = std::ranges::find(courses, laser.heading, &Course::heading);
+    if (course == std::end(courses))
         return;
-    laser.x += move->x;
-    laser.y += move->y;
+    laser.x += course->dx * CELL_SIZE;
+    laser.y += course->dy * CELL_SIZE;
 }
 
 struct RingPoint {
@@ -152,5 +140,5 @@ void CPond::StrikeRingPoint(int x, int y, int radius)
     if (!IsCell(index) || !cells[index].IsLanded())
         return;
     cells[index].occupied = false;
-    DisturbWater(cells[index].x + CELL_SIZE / 2, cells[index].y + CELL_SIZE / 2, 4, 102);
+    SplashCell(cells[index].x, cells[index].y, LIGHT_SPLASH);
 }

@@ -5,9 +5,8 @@
 #include "sound/sound.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <iterator>
 #include <span>
-#include <string>
 
 namespace
 {
@@ -47,6 +46,7 @@ constexpr SoundFile pondSounds[] = {
     { SOUND_RAIN_2, "Wav\\rainloop.wav" },
     { SOUND_BEAT_2, "Wav\\beat.wav" },
 };
+static_assert(AllIdsDiffer(pondSounds) && std::size(pondSounds) == SOUND_POND_LAST - SOUND_POND_FIRST + 1);
 
 constexpr PictureFile objectFiles[] = {
     { RED, "Dat\\Image/bean_red.jpg" },       { GREEN, "Dat\\Image/bean_green.jpg" },
@@ -68,12 +68,7 @@ constexpr GrowthFile growthFiles[] = {
     { PURPLE, "Dat\\Image/bean_purple%d.jpg" },
 };
 
-std::string NumberedPath(const char* pattern, int number)
-{
-    char path[64];
-    std::snprintf(path, sizeof path, pattern, number);
-    return path;
-}
+constexpr NumberedFiles laserFiles{ "Dat\\Image/light%d.jpg", "Dat\\Image/light%d_.bmp" };
 
 /// A JPEG picture, drawn that way.
 bool LoadWithBlit(CImage& image, const char* path, BlitRoutine blit)
@@ -84,16 +79,10 @@ bool LoadWithBlit(CImage& image, const char* path, BlitRoutine blit)
     return true;
 }
 
-/// Gives each picture the mask as its alpha plane. False when there is no memory for one.
-bool ApplyMask(std::span<CImage> images, const CImage& mask, BlitRoutine blit)
+/// Pictures that share a mask.
+bool ApplyMaskToAll(std::span<CImage> images, const CImage& mask, BlitRoutine blit)
 {
-    for (CImage& image : images) {
-        image.CopyAlpha(mask);
-        if (!image.alpha)
-            return false;
-        image.blit = blit;
-    }
-    return true;
+    return std::ranges::all_of(images, [&](CImage& image) { return ApplyMask(image, mask, blit); });
 }
 
 bool LoadPictureFiles(CImage* images, std::span<const PictureFile> files)
@@ -143,37 +132,30 @@ bool CPond::LoadPictures()
 
 bool CPond::LoadObjectImages()
 {
-    objectImages = std::make_unique<CImage[]>(OBJECT_IMAGES);
     CImage mask;
-    return LoadPictureFiles(objectImages.get(), objectFiles) && LoadMaskFile(mask, "Dat\\Image/mask.bmp") &&
-           ApplyMask({ objectImages.get(), OBJECT_IMAGES }, mask, BlitAlpha);
+    return AllocateImages(objectImages, OBJECT_IMAGES) && LoadPictureFiles(objectImages.get(), objectFiles) &&
+           LoadMaskFile(mask, "Dat\\Image/mask.bmp") &&
+           ApplyMaskToAll({ objectImages.get(), OBJECT_IMAGES }, mask, BlitAlpha);
 }
 
 bool CPond::LoadLaserImages()
 {
-    laserImages = std::make_unique<CImage[]>(LASER_IMAGES);
-    for (int i = 0; i < LASER_IMAGES; ++i) {
-        CImage& image = laserImages[i];
-        CImage mask;
-        if (!LoadJpegFile(image, NumberedPath("Dat\\Image/light%d.jpg", i + 1).c_str()) ||
-            !LoadMaskFile(mask, NumberedPath("Dat\\Image/light%d_.bmp", i + 1).c_str()) ||
-            !ApplyMask({ &image, 1 }, mask, BlitAlpha))
-            return false;
-    }
-    return true;
+    return AllocateImages(laserImages, LASER_IMAGES) &&
+           LoadMaskedFiles({ laserImages.get(), LASER_IMAGES }, laserFiles, BlitAlpha);
 }
 
 bool CPond::LoadPopupImages()
 {
-    popupImages = std::make_unique<CImage[]>(POPUP_IMAGES);
     CImage mask;
-    return LoadMaskFile(mask, "Dat\\Image/add_.bmp") && LoadPictureFiles(popupImages.get(), popupFiles) &&
-           ApplyMask({ popupImages.get(), POPUP_IMAGES }, mask, BlitAlphaOpacity);
+    return AllocateImages(popupImages, POPUP_IMAGES) && LoadMaskFile(mask, "Dat\\Image/add_.bmp") &&
+           LoadPictureFiles(popupImages.get(), popupFiles) &&
+           ApplyMaskToAll({ popupImages.get(), POPUP_IMAGES }, mask, BlitAlphaOpacity);
 }
 
 bool CPond::LoadGrowthImages()
 {
-    growthImages = std::make_unique<CImage[]>(GROWTH_IMAGES);
+    if (!AllocateImages(growthImages, GROWTH_IMAGES))
+        return false;
     for (int frame = 1; frame <= GROWTH_FRAMES; ++frame)
         if (!LoadGrowthFrame(frame))
             return false;
@@ -187,14 +169,13 @@ bool CPond::LoadGrowthFrame(int frame)
         return growthImages[file.colour * GROWTH_FRAMES + frame - 1];
     };
     for (const GrowthFile& file : growthFiles)
-        if (!LoadJpegFile(image(file), NumberedPath(file.pattern, frame).c_str()))
+        if (!LoadJpegFile(image(file), NumberedPath(file.pattern, frame).data()))
             return false;
     CImage mask;
-    if (!LoadMaskFile(mask, NumberedPath("Dat\\Image/mask%d.bmp", frame).c_str()))
+    if (!LoadMaskFile(mask, NumberedPath("Dat\\Image/mask%d.bmp", frame).data()))
         return false;
-    return std::ranges::all_of(growthFiles, [&](const GrowthFile& file) {
-        return ApplyMask({ &image(file), 1 }, mask, BlitAlphaOpacity);
-    });
+    return std::ranges::all_of(growthFiles,
+                               [&](const GrowthFile& file) { return ApplyMask(image(file), mask, BlitAlphaOpacity); });
 }
 
 bool CPond::LoadMoonImages()
@@ -202,8 +183,7 @@ bool CPond::LoadMoonImages()
     CImage masks[2];
     return LoadJpegFile(moonImages[0], "Dat\\Image/Moon1.jpg") && LoadJpegFile(moonImages[1], "Dat\\Image/Moon2.jpg") &&
            LoadMaskFile(masks[0], "Dat\\Image/Moon1_.bmp") && LoadMaskFile(masks[1], "Dat\\Image/Moon2_.bmp") &&
-           ApplyMask({ &moonImages[0], 1 }, masks[0], BlitAlphaOpacity) &&
-           ApplyMask({ &moonImages[1], 1 }, masks[1], BlitAlphaOpacity);
+           ApplyMask(moonImages[0], masks[0], BlitAlphaOpacity) && ApplyMask(moonImages[1], masks[1], BlitAlphaOpacity);
 }
 
 void CPond::UnDataLoad()

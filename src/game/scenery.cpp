@@ -9,7 +9,6 @@ namespace
 constexpr int DAY_FRAMES = 100 * FRAMES_PER_SECOND; ///< from dusk to dawn, from dawn to dusk
 constexpr int TRANSITION_FRAMES = 50;               ///< of a dusk or dawn
 constexpr int NIGHT_OPACITY = 50;                   ///< of the day picture, darkened to night
-constexpr int FADE_OUT_START = 125;                 ///< the value of `fadeOut` as the end of a game begins
 constexpr int INTRO_FRAMES = 31;
 
 constexpr int MOON_SIZE = 130;
@@ -28,12 +27,20 @@ bool SubtractGrey(CImage& light, int grey)
     return true;
 }
 
+/// A pond beside the pond, in whole ponds right and down.
+struct Copy {
+    int columns;
+    int rows;
+};
+constexpr Copy wrappedCopies[] = {
+    { 0, 0 }, { -1, 0 }, { 0, -1 }, { -1, -1 }, { 1, 0 }, { 0, 1 }, { 1, 1 }, { 1, -1 }, { -1, 1 },
+};
+
 /// The pond wraps around: a light near an edge also shines in from the opposite one.
 void DrawWrapped(CImage& light, CImage& target, int x, int y)
 {
-    for (const int offsetY : { -POND_SIZE, 0, POND_SIZE })
-        for (const int offsetX : { -POND_SIZE, 0, POND_SIZE })
-            light.Draw(target, x + offsetX, y + offsetY);
+    for (const Copy& copy : wrappedCopies)
+        light.Draw(target, x + copy.columns * POND_SIZE, y + copy.rows * POND_SIZE);
 }
 }
 

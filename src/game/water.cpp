@@ -1,5 +1,6 @@
 #include "game/water.h"
 
+#include "game/geometry.h"
 #include "game/water_rows.h"
 
 #include <algorithm>
@@ -90,6 +91,11 @@ void DisturbWater(int x, int y, int radius, int depth)
         for (int64_t px = left; px < right; ++px)
             if ((px - x) * (px - x) + (py - y) * (py - y) < int64_t{ radius } * radius)
                 water.current[py * water.fieldWidth + px] = static_cast<int16_t>(depth);
+}
+
+void SplashCell(int x, int y, const CellSplash& splash)
+{
+    DisturbWater(x + CELL_SIZE / 2, y + CELL_SIZE / 2, splash.radius, splash.depth);
 }
 
 void WaterFrame(const uint16_t* source, int x0, int y0, int width, int height, uint16_t* target, int targetX,

@@ -24,6 +24,16 @@ void WaterInit(CImage& first, CImage& second, int dampingShift, int refractionSh
 /// row are left out.
 void DisturbWater(int x, int y, int radius, int depth);
 
+/// A splash in the middle of a cell.
+struct CellSplash {
+    int radius;
+    int depth;
+};
+constexpr CellSplash BERRY_SPLASH{ 8, 170 }; ///< of a berry that lands or sinks
+constexpr CellSplash LIGHT_SPLASH{ 4, 102 }; ///< of a snake's segment or of what a ring strikes
+/// (x, y) is the cell's top-left corner.
+void SplashCell(int x, int y, const CellSplash& splash);
+
 /// Shows the part (x0, y0, width, height) of the picture `source`, whose rows are as long as the field's, displaced by
 /// the water's slopes, at (targetX, targetY) of `target`; then advances the water one step. Width: a multiple of 4.
 void WaterFrame(const uint16_t* source, int x0, int y0, int width, int height, uint16_t* target, int targetX,

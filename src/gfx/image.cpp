@@ -189,3 +189,10 @@ void CImage::Draw(CImage& target, int targetX, int targetY, int anchorX, int anc
     target.x = savedTarget[0];
     target.y = savedTarget[1];
 }
+
+bool AllocateImages(std::unique_ptr<CImage[]>& images, int count)
+{
+    images.reset();
+    images.reset(new (std::nothrow) CImage[static_cast<size_t>(count)]);
+    return images || FailWith(ENGINE_ALLOCATE_MEMORY);
+}

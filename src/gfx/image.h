@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 
 class CImage;
 
@@ -76,3 +77,6 @@ private:
     void ReleasePixels();
     void ReleaseAlpha();
 };
+
+/// Frees the images held, then makes `count` empty ones. False: ENGINE_ALLOCATE_MEMORY, and none are held.
+bool AllocateImages(std::unique_ptr<CImage[]>& images, int count);

@@ -3,7 +3,9 @@
 #include "platform/directsound.h"
 #include "platform/types.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
 
 /// Sound ids. One id is one voice: a sound that both players may need at once has a row for each.
 enum SoundId : int {
@@ -41,6 +43,14 @@ struct SoundFile {
     int id;
     const char* path; ///< relative to the program's folder
 };
+constexpr bool AllIdsDiffer(std::span<const SoundFile> sounds)
+{
+    for (size_t i = 0; i < sounds.size(); ++i)
+        for (size_t j = 0; j < i; ++j)
+            if (sounds[i].id == sounds[j].id)
+                return false;
+    return true;
+}
 
 /// Sets up the sound device for that window. Without one the program runs on, silent.
 void SoundInit(HWND window);

@@ -1,6 +1,7 @@
 #include "snake_fixture.h"
 
 #include "gfx/blit.h"
+#include "support/allocations.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -149,5 +150,15 @@ TEST_F(SnakeDrawing, AMissingPictureLeavesTheSnakeAsItWas)
     EXPECT_EQ(Snake().player, 1);
     EXPECT_EQ(Snake().score, 7);
     EXPECT_EQ(Snake().keyUp, UP);
+}
+
+TEST_F(SnakeDrawing, NoPictureIsTakenWithoutMemoryForItsPlanes)
+{
+    int plane = 1;
+    for (FailPlane(plane); !Snake().SnakeLoadImage() && plane < 1000; FailPlane(plane))
+        ++plane;
+    FailPlane(0);
+    // Each head and each mask has one of pixels and one of alpha.
+    EXPECT_GT(plane, 4 * (EYE_IMAGES + BUMP_EYE_IMAGES) + ARROW_IMAGES) << "the first that was not missed";
 }
 }

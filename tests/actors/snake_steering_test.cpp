@@ -1,46 +1,47 @@
 #include "snake_fixture.h"
 
-#include <string>
+#include "game/water.h"
+
 #include <vector>
 
 namespace
 {
 struct KeyCase {
-    const char* name;
+    const char* why;
     int heading;
     std::vector<int> keys;
     std::vector<int> queued;
 };
-class SnakeKeys : public SnakeFixture, public testing::WithParamInterface<KeyCase>
-{
-};
-
-TEST_P(SnakeKeys, AreQueuedOrRefused)
-{
-    PutSnake(241, 241); // never on the grid: nothing leaves the queue
-    Head().dir = GetParam().heading;
-    for (const int key : GetParam().keys)
-        Frame(key);
-    const std::vector<int> queue(Snake().turnQueue, Snake().turnQueue + Snake().turnCount);
-    EXPECT_EQ(queue, GetParam().queued);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Steering, SnakeKeys,
-    testing::Values(KeyCase{ "Turn", UP, { LEFT }, { LEFT } }, KeyCase{ "OwnDirection", UP, { UP }, { UP } },
-                    KeyCase{ "ReverseOfUp", UP, { DOWN }, {} }, KeyCase{ "ReverseOfDown", DOWN, { UP }, {} },
-                    KeyCase{ "ReverseOfLeft", LEFT, { RIGHT }, {} }, KeyCase{ "ReverseOfRight", RIGHT, { LEFT }, {} },
-                    KeyCase{ "ReverseOfLastQueued", UP, { LEFT, RIGHT }, { LEFT } },
-                    KeyCase{ "ReverseInTwoSteps", UP, { LEFT, DOWN }, { LEFT, DOWN } },
-                    KeyCase{ "Repeated", UP, { LEFT, LEFT }, { LEFT } },
-                    KeyCase{ "OthersKeys", UP, { 'W', 13, 0, LEFT }, { LEFT } },
-                    KeyCase{ "EleventhDropped",
-                             UP,
-                             { LEFT, UP, LEFT, UP, LEFT, UP, LEFT, UP, LEFT, UP, LEFT },
-                             { LEFT, UP, LEFT, UP, LEFT, UP, LEFT, UP, LEFT, UP } }),
-    [](const auto& test) { return std::string(test.param.name); });
-
 using SnakeSteering = SnakeFixture;
+
+TEST_F(SnakeSteering, QueuesOrRefusesKeys)
+{
+    const KeyCase cases[] = {
+        { "turn", UP, { LEFT }, { LEFT } },
+        { "own direction", UP, { UP }, { UP } },
+        { "reverse of up", UP, { DOWN }, {} },
+        { "reverse of down", DOWN, { UP }, {} },
+        { "reverse of left", LEFT, { RIGHT }, {} },
+        { "reverse of right", RIGHT, { LEFT }, {} },
+        { "reverse of the last queued", UP, { LEFT, RIGHT }, { LEFT } },
+        { "reverse in two steps", UP, { LEFT, DOWN }, { LEFT, DOWN } },
+        { "repeated", UP, { LEFT, LEFT }, { LEFT } },
+        { "others' keys", UP, { 'W', 13, 0, LEFT }, { LEFT } },
+        { "the eleventh",
+          UP,
+          { LEFT, UP, LEFT, UP, LEFT, UP, LEFT, UP, LEFT, UP, LEFT },
+          { LEFT, UP, LEFT, UP, LEFT, UP, LEFT, UP, LEFT, UP } },
+    };
+    for (const KeyCase& given : cases) {
+        Snake().turnCount = 0;
+        for (const int key : given.keys) {
+            PutSnake(241, 241); // never on the grid: nothing leaves the queue
+            Head().dir = given.heading;
+            Frame(key);
+        }
+        EXPECT_EQ(std::vector(Snake().turnQueue, Snake().turnQueue + Snake().turnCount), given.queued) << given.why;
+    }
+}
 
 TEST_F(SnakeSteering, TurnsOncePerGridPoint)
 {
@@ -75,15 +76,30 @@ TEST_F(SnakeSteering, WaitingSnakeLooksRoundUntilItsStartKey)
     EXPECT_EQ(Head().x, 242);
 }
 
-TEST_F(SnakeSteering, StartsOnlyWithBothHeadsOnTheGrid)
+struct WakeCase {
+    int speed;
+    int y; ///< of the head
+    int key;
+    bool isWaiting;
+    bool splashes;
+    const char* why;
+};
+
+TEST_F(SnakeSteering, SplashesWhenFastOrTurningAtAnEvenPlace)
 {
-    PutSnake(240, 240);
-    Snake().isWaiting = true;
-    pond->snake[1].segments[0] = { .x = 100, .y = 96, .dir = 'D' };
-    Frame(UP);
-    EXPECT_TRUE(Snake().isWaiting);
-    pond->snake[1].segments[0].x = 112;
-    Frame();
-    EXPECT_FALSE(Snake().isWaiting);
+    constexpr WakeCase cases[] = {
+        { 2, 242, 0, false, false, "straight on" },  { 2, 242, LEFT, false, true, "a turn is queued" },
+        { 2, 241, LEFT, false, false, "odd place" }, { 4, 241, 0, false, true, "fast" },
+        { 4, 242, LEFT, true, false, "it waits" },
+    };
+    for (const WakeCase& given : cases) {
+        PutSnake(240, given.y);
+        Snake().speed = given.speed;
+        Snake().isWaiting = given.isWaiting;
+        Snake().turnCount = 0;
+        WaterInit(waterBufferA, waterBufferB, 5, 3);
+        Frame(given.key);
+        EXPECT_EQ(water.current[(given.y + 8) * POND_SIZE + 248] != 0, given.splashes) << given.why;
+    }
 }
 }

@@ -1,6 +1,7 @@
 #include "game/pond_fixture.h"
 
 #include <algorithm>
+#include <span>
 #include <vector>
 
 namespace
@@ -85,6 +86,62 @@ TEST_F(PondDrawing, RaisePopupsForTwentySixFrames)
     EXPECT_NE(Pixel(backBuffer, POND_LEFT, 148), 0x1234);
     pond.ShowPopup(0, 200, POPUP_5);
     EXPECT_EQ(pond.popups[0].opacity, 255) << "slots are free again";
+}
+
+/// Pictures of one layer; together they all cover one point of the screen.
+struct Layer {
+    const char* name;
+    std::vector<CImage*> images;
+};
+
+std::vector<CImage*> Pointers(std::span<CImage> images)
+{
+    std::vector<CImage*> pointers;
+    for (CImage& image : images)
+        pointers.push_back(&image);
+    return pointers;
+}
+
+TEST_F(PondDrawing, CoverEachOtherInOrder)
+{
+    constexpr int X = 240;
+    constexpr int Y = 240;
+    StartGame(1);
+    const Layer topToBottom[] = {
+        { "arrow of the other snake", Pointers({ pond.snake[1].arrowImages.get(), ARROW_IMAGES }) },
+        { "falling berry", Pointers({ pond.growthImages.get(), GROWTH_IMAGES }) },
+        { "popup", Pointers({ pond.popupImages.get(), POPUP_IMAGES }) },
+        { "moon", Pointers(pond.moonImages) },
+        { "head", Pointers({ pond.snake[0].eyeImages.get(), EYE_IMAGES }) },
+        { "body", { &pond.snake[0].bodyImage } },
+        { "laser", Pointers({ pond.laserImages.get(), LASER_IMAGES }) },
+        { "stone", Pointers({ pond.objectImages.get(), OBJECT_IMAGES }) },
+        { "its shadow", { &pond.shadowImage } },
+        { "the snake's shadow", { &pond.snake[0].shadowImage } },
+        { "night", { &pond.nightBackground } },
+    };
+    pond.lightImage.Fill(0); // nothing is added to the night
+    uint16_t colour = 0;
+    for (const Layer& layer : topToBottom) {
+        ++colour;
+        for (CImage* image : layer.images)
+            Paint(*image, colour);
+    }
+    colour = 0;
+    for (const Layer& layer : topToBottom) {
+        pond.isDay = false;
+        scenery.moonY = Y;
+        PlaceHead(0, X, Y);
+        PlaceHead(1, X + CELL_SIZE, Y);
+        MakeStone(pond.cells[CellAt(X, Y)]);
+        pond.cells[CellAt(X - CELL_SIZE, Y - CELL_SIZE)] = { X - CELL_SIZE, Y - CELL_SIZE, true, false, RED, 0, 28 };
+        pond.popups[0] = { true, X, Y, POPUP_5, 255 };
+        pond.lasers[0] = { true, X, Y, HEADING_LEFT };
+        Play(1);
+        EXPECT_EQ(Pixel(backBuffer, POND_LEFT + X + 10, Y + 10), ++colour) << layer.name;
+        for (CImage* image : layer.images)
+            image->blit = [](CImage&, const CImage&) {}; // off, for what lies below
+    }
 }
 
 TEST_F(PondDrawing, BlinkHighlightedBerriesFiveFramesInTen)

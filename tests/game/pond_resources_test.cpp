@@ -1,6 +1,9 @@
 #include "game/pond_fixture.h"
 
+#include "res/image_loader.h"
+
 #include <filesystem>
+#include <string>
 
 namespace
 {
@@ -30,6 +33,28 @@ TEST_F(PondResources, GivePicturesTheirMasksAndWayOfDrawing)
     }
     EXPECT_EQ(pond.shadowImage.blit, BlitSub);
     EXPECT_EQ(pond.lightImage.blit, BlitAdd);
+
+    const struct {
+        const CImage& image;
+        std::string file;
+    } loaded[] = {
+        { pond.objectImages[RED], "bean_red" },
+        { pond.objectImages[GOLDEN], "bean_golden" },
+        { pond.objectImages[STONE_IMAGE], "stone" },
+        { pond.popupImages[POPUP_LIFE_UP], "lifeup" },
+        { pond.laserImages[7], "light8" },
+        { pond.moonImages[1], "Moon2" },
+        { pond.growthImages[RED * GROWTH_FRAMES], "bean_red1" },
+        { pond.growthImages[GREEN * GROWTH_FRAMES + 5], "bean_green6" },
+        { pond.growthImages[BLUE * GROWTH_FRAMES + 5], "bean_blue6" },
+        { pond.growthImages[ORANGE * GROWTH_FRAMES + 5], "bean_orange6" },
+        { pond.growthImages[PURPLE * GROWTH_FRAMES + 13], "bean_purple14" },
+    };
+    for (const auto& [image, file] : loaded) {
+        CImage own;
+        ASSERT_TRUE(LoadJpegFile(own, ("Dat/Image/" + file + ".jpg").c_str()));
+        EXPECT_EQ(Pixel(image, 0, 0), Pixel(own, 0, 0)) << file;
+    }
 
     CImage night; // the day at opacity 50
     ASSERT_TRUE(night.Create(POND_SIZE, POND_SIZE));

@@ -1,5 +1,4 @@
 #include "game/pond_fixture.h"
-#include "sound/sound.h"
 
 #include <algorithm>
 
@@ -93,33 +92,5 @@ TEST_F(Pond, GameIsLostWhenEverySnakeInPlayIsOut)
     pond.fadeOut = 50;
     Play(1);
     EXPECT_FALSE(pond.statusBar.gameOverPanel.isVisible) << "the end is under way already";
-}
-
-TEST_F(Pond, AmbienceHasASoundForFiveNumbersInAThousand)
-{
-    SoundInit(FAKE_WINDOW);
-    const WAVEFORMATEX format = { 1, 1, 22050, 44100, 2, 16, 0 };
-    for (int id = SOUND_POND_FIRST; id <= SOUND_POND_LAST; ++id)
-        ASSERT_TRUE(SoundCreate(id, &format, 64));
-    for (const int number : { 23, 24, 28, 29 }) {
-        const auto draws = [number](uint32_t seed) {
-            SeedRandom(seed);
-            return Random() % 1000 == number;
-        };
-        uint32_t seed = 0;
-        while (!draws(seed))
-            ++seed;
-        SeedRandom(seed);
-        Play(1);
-        for (int id = SOUND_POND_FIRST; id <= SOUND_POND_LAST; ++id) {
-            FakeSoundBuffer& sound = *fake.soundBuffers[id - SOUND_POND_FIRST];
-            EXPECT_EQ(sound.plays, id == number && number <= SOUND_ENV_LAST && number >= SOUND_ENV_FIRST) << number;
-            sound.plays = 0;
-        }
-    }
-    pond.GameEnd();
-    for (const FakeSoundBuffer* sound : fake.soundBuffers)
-        EXPECT_FALSE(sound->playing) << "leaving stops every sound of the pond";
-    SoundRelease();
 }
 }

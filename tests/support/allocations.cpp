@@ -7,11 +7,17 @@
 namespace
 {
 std::atomic<int> allocations = 0;
+std::atomic<int> planesUntilFailure = 0;
 }
 
 int AllocationCount()
 {
     return allocations;
+}
+
+void FailPlane(int number)
+{
+    planesUntilFailure = number;
 }
 
 // The other forms of `new` call these two.
@@ -25,7 +31,10 @@ void* operator new(size_t size)
 
 void* operator new(size_t size, std::align_val_t alignment)
 {
+    // Only the planes are aligned beyond the ordinary.
     ++allocations;
+    if (planesUntilFailure > 0 && --planesUntilFailure == 0)
+        throw std::bad_alloc();
     const size_t unit = static_cast<size_t>(alignment);
     if (void* memory = std::aligned_alloc(unit, (size + unit - 1) / unit * unit))
         return memory;

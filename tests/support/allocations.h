@@ -2,3 +2,6 @@
 
 /// How often the program has asked for memory with `new`.
 int AllocationCount();
+
+/// Lets the request number `number` from now on for a picture's plane find no memory; 0: none.
+void FailPlane(int number);

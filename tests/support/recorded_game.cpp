@@ -13,7 +13,7 @@ constexpr int KEYS_PER_LINE = 12;
 //   seed 17
 //   frames 9000
 //   key 61:37 83:38 ...
-//   sum 00f1...          one line a stretch
+//   sum 00f1...          one line a stretch, the last one for the end
 
 RecordedGame ReadRecordedGame(const std::string& path)
 {

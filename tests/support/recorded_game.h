@@ -11,7 +11,8 @@ struct KeyPress {
     int key;   ///< virtual-key code
 };
 
-/// A whole game: its seed and keys, and the checksum of the state after each stretch of frames.
+/// A whole game: its seed and keys, and the checksum of the state after each stretch of frames, the last of which may
+/// be shorter.
 struct RecordedGame {
     static constexpr int STRETCH = 500; ///< frames
 

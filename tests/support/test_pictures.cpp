@@ -2,6 +2,8 @@
 
 #include <turbojpeg.h>
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstdio>
 #include <stdexcept>
@@ -88,9 +90,18 @@ constexpr PictureRow pictures[] = {
 
 constexpr uint8_t GREY = 128;
 
-std::string GreyJpeg(int width, int height)
+/// Blue, green and red of a JPEG picture: differ from one to the next, also as RGB565 and after JPEG's rounding.
+std::array<uint8_t, 3> ColourOf(int picture)
 {
-    const std::vector<uint8_t> pixels(static_cast<size_t>(width) * static_cast<size_t>(height) * 3, GREY);
+    const auto level = [](int step) { return static_cast<uint8_t>(16 * (step % 16) + 12); };
+    return { GREY, level(picture / 16), level(picture) };
+}
+
+std::string PlainJpeg(const std::array<uint8_t, 3>& colour, int width, int height)
+{
+    std::vector<uint8_t> pixels;
+    for (int i = 0; i < width * height; ++i)
+        pixels.insert(pixels.end(), colour.begin(), colour.end());
     tjhandle codec = tjInitCompress();
     unsigned char* bytes = nullptr;
     unsigned long size = 0;
@@ -142,13 +153,13 @@ std::string Numbered(const char* pattern, int number)
 
 TestPictures::TestPictures()
 {
+    int made = 0;
     for (const PictureRow& row : pictures) {
         const std::string pattern = std::string("Dat/Image/") + row.pattern;
-        const std::string file =
-            pattern.ends_with(".jpg") ? GreyJpeg(row.width, row.height) : GreyBmp(row.width, row.height);
-        if (row.count == ONE_FILE)
-            folder.Write(pattern, file);
-        for (int number = 1; number <= row.count; ++number)
-            folder.Write(Numbered(pattern.c_str(), number), file);
+        for (int number = 1; number <= std::max(row.count, 1); ++number) {
+            const std::string path = row.count == ONE_FILE ? pattern : Numbered(pattern.c_str(), number);
+            folder.Write(path, path.ends_with(".jpg") ? PlainJpeg(ColourOf(made++), row.width, row.height)
+                                                      : GreyBmp(row.width, row.height));
+        }
     }
 }
