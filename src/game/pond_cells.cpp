@@ -53,7 +53,7 @@ int CPond::FindBerryCell(int start)
     const CountGrid snakes = CountSnakes();
     for (int i = 0; i < CELL_COUNT; ++i) {
         const int cell = (start + i) % CELL_COUNT;
-        if (!cells[cell].occupied && snakes[static_cast<size_t>(cell)] == 0 && IsFarFromHeads(cell))
+        if (!cells[cell].occupied && snakes[cell] == 0 && IsFarFromHeads(cell))
             return cell;
     }
     return start;
@@ -152,7 +152,7 @@ bool CPond::IsOccupied(int x, int y)
     if (!IsCell(cell))
         return false;
     const CountGrid snakes = CountSnakes();
-    return snakes[static_cast<size_t>(cell)] + (cells[cell].IsStone() ? 1 : 0) > 1;
+    return snakes[cell] + (cells[cell].IsStone() ? 1 : 0) > 1;
 }
 
 void CPond::FadeStones(int count)

@@ -53,7 +53,7 @@ void CPond::DrawLandedObjects(CImage& pondPicture)
 
 void CPond::DrawRipeBerry(Cell& cell, CImage& pondPicture)
 {
-    objectImages[static_cast<size_t>(cell.colour)].Draw(pondPicture, cell.x, cell.y);
+    objectImages[cell.colour].Draw(pondPicture, cell.x, cell.y);
     if (cell.splashed)
         return;
     cell.splashed = true;
@@ -69,7 +69,7 @@ void CPond::DrawStartHighlight(CImage& pondPicture)
         if (index < 0 || !cells[index].ripe || blinkCounter % BLINK_FRAMES >= BLINK_FRAMES / 2)
             continue;
         CImage glow;
-        if (!glow.Copy(objectImages[static_cast<size_t>(cells[index].colour)]))
+        if (!glow.Copy(objectImages[cells[index].colour]))
             continue;
         glow.blit = BlitAdd;
         glow.Draw(pondPicture, cells[index].x, cells[index].y);
@@ -84,8 +84,8 @@ void CPond::DrawGrowingBerries(CImage& screen)
         if (!cell.occupied || cell.growth < 1)
             continue;
         const int frame = GROWTH_FRAMES - cell.growth / 2;
-        CImage& image = growthImages[static_cast<size_t>(cell.colour * GROWTH_FRAMES + frame)];
-        image.opacity = static_cast<uint32_t>(255 - 9 * cell.growth);
+        CImage& image = growthImages[cell.colour * GROWTH_FRAMES + frame];
+        image.opacity = 255 - 9 * cell.growth;
         image.Draw(screen, cell.x + POND_LEFT, cell.y);
         if (cell.growth / 2 == 1) {
             cell.growth = 0;
@@ -108,8 +108,8 @@ void CPond::DrawPopups(CImage& screen)
     for (Popup& popup : popups) {
         if (!popup.active)
             continue;
-        CImage& image = popupImages[static_cast<size_t>(popup.kind)];
-        image.opacity = static_cast<uint32_t>(popup.opacity);
+        CImage& image = popupImages[popup.kind];
+        image.opacity = popup.opacity;
         image.Draw(screen, popup.x + POND_LEFT, popup.y);
         popup.opacity -= POPUP_FADE;
         popup.y -= POPUP_RISE;

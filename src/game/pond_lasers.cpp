@@ -4,6 +4,7 @@
 #include "sound/sound.h"
 
 #include <algorithm>
+#include <array>
 #include <numbers>
 
 namespace
@@ -90,7 +91,7 @@ void CPond::StepLasers(CImage& pondPicture)
 /// One cell further. Lasers do not wrap around the pond's edges, and fly over growing berries.
 void CPond::StepFlight(Laser& laser, CImage& pondPicture)
 {
-    laserImages[static_cast<size_t>(laser.frame)].Draw(pondPicture, laser.x - FLIGHT_OFFSET, laser.y - FLIGHT_OFFSET);
+    laserImages[laser.frame].Draw(pondPicture, laser.x - FLIGHT_OFFSET, laser.y - FLIGHT_OFFSET);
     laser.frame = (laser.frame + 1) % LASER_FLIGHT_IMAGES;
     MoveLaser(laser);
     if (!IsOnPond(laser.x, laser.y)) {
@@ -122,7 +123,7 @@ void CPond::HitCell(Cell& cell)
 void CPond::StepBurst(Laser& laser, CImage& pondPicture)
 {
     constexpr int burstImages = LASER_IMAGES - LASER_FLIGHT_IMAGES;
-    CImage& image = laserImages[static_cast<size_t>(LASER_FLIGHT_IMAGES + laser.frame % burstImages)];
+    CImage& image = laserImages[LASER_FLIGHT_IMAGES + laser.frame % burstImages];
     image.Draw(pondPicture, laser.x - (image.width - CELL_SIZE) / 2, laser.y - (image.height - CELL_SIZE) / 2);
     ++laser.frame;
     if (laser.frame == BURST_FRAMES)

@@ -153,7 +153,7 @@ bool CPond::LoadLaserImages()
 {
     laserImages = std::make_unique<CImage[]>(LASER_IMAGES);
     for (int i = 0; i < LASER_IMAGES; ++i) {
-        CImage& image = laserImages[static_cast<size_t>(i)];
+        CImage& image = laserImages[i];
         CImage mask;
         if (!LoadJpegFile(image, NumberedPath("Dat\\Image/light%d.jpg", i + 1).c_str()) ||
             !LoadMaskFile(mask, NumberedPath("Dat\\Image/light%d_.bmp", i + 1).c_str()) ||
@@ -184,7 +184,7 @@ bool CPond::LoadGrowthImages()
 bool CPond::LoadGrowthFrame(int frame)
 {
     const auto image = [this, frame](const GrowthFile& file) -> CImage& {
-        return growthImages[static_cast<size_t>(file.colour * GROWTH_FRAMES + frame - 1)];
+        return growthImages[file.colour * GROWTH_FRAMES + frame - 1];
     };
     for (const GrowthFile& file : growthFiles)
         if (!LoadJpegFile(image(file), NumberedPath(file.pattern, frame).c_str()))

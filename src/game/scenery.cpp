@@ -92,7 +92,7 @@ bool CPond::MakeNightBackground()
 void CPond::DrawDarkenedDay(CImage& target, int opacity)
 {
     dayBackground.blit = BlitFadeToBlack;
-    dayBackground.opacity = static_cast<uint32_t>(opacity);
+    dayBackground.opacity = opacity;
     dayBackground.Draw(target);
     dayBackground.blit = BlitCopy;
 }
@@ -141,7 +141,7 @@ bool CPond::DrawIntro(CImage& pondPicture)
     CImage faded;
     if (faded.Copy(pondPicture)) {
         faded.blit = BlitFadeToBlack;
-        faded.opacity = static_cast<uint32_t>(8 * introFrames);
+        faded.opacity = 8 * introFrames;
         faded.Draw(backBuffer, POND_LEFT, 0);
     }
     statusBar.StatusBarProcess(backBuffer);

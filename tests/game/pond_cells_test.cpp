@@ -98,7 +98,7 @@ TEST_F(PondCells, LookAtBerriesBesideTheHead)
             if (i != 4)
                 cases.push_back({ row.heading, head, { head + (i / 3 - 1) * 30 + i % 3 - 1 }, row.eyeFrames[i], "" });
     for (const LookCase& look : cases) {
-        pond.NewGame(0, KEYS, KEYS + 4);
+        pond.NewGame(0, testKeys[0], testKeys[1]);
         for (const int cell : look.berries)
             MakeRipe(pond.cells[cell], RED);
         int colour = -1;

@@ -1,8 +1,5 @@
 #include "game/pond_fixture.h"
 
-#include "game/water.h"
-#include "gfx/blit.h"
-
 #include <algorithm>
 #include <vector>
 
@@ -28,7 +25,7 @@ TEST_F(PondDrawing, HideAShadowUnderAnObjectDownRight)
         { 29, 60, false, "last column: the first cell two rows below" },
         { 29, 30, true, "last column: the first cell one row below" },
     };
-    Paint(pond.shadowImage, SHADOW, BlitCopy);
+    Paint(pond.shadowImage, SHADOW);
     for (const ShadowCase& given : cases) {
         StartGame(0);
         MakeStone(pond.cells[given.cell]);
@@ -41,9 +38,9 @@ TEST_F(PondDrawing, HideAShadowUnderAnObjectDownRight)
 
 TEST_F(PondDrawing, LetBerriesFallLandAndSplash)
 {
-    Paint(pond.shadowImage, SHADOW, BlitCopy);
+    Paint(pond.shadowImage, SHADOW);
     for (int i = 0; i < GROWTH_IMAGES; ++i)
-        Paint(pond.growthImages[static_cast<size_t>(i)], static_cast<uint16_t>(i + 1), BlitCopy);
+        Paint(pond.growthImages[i], i + 1);
     pond.PlaceBerry(GREEN, 100);
     const Cell& cell = pond.cells[100];
     std::vector<int> frames;
@@ -51,7 +48,7 @@ TEST_F(PondDrawing, LetBerriesFallLandAndSplash)
         const int growth = cell.growth;
         Play(1);
         const int shown = Pixel(backBuffer, POND_LEFT + cell.x, cell.y) - 1;
-        EXPECT_EQ(pond.growthImages[static_cast<size_t>(shown)].opacity, 255U - 9U * static_cast<unsigned>(growth));
+        EXPECT_EQ(pond.growthImages[shown].opacity, 255U - 9U * static_cast<unsigned>(growth));
         EXPECT_EQ(Pixel(pondImage, cell.x + distance, cell.y + distance), SHADOW) << growth;
         EXPECT_NE(Pixel(pondImage, cell.x + distance - 1, cell.y + distance), SHADOW) << growth;
         frames.push_back(shown - GREEN * GROWTH_FRAMES + 1);
@@ -74,7 +71,7 @@ TEST_F(PondDrawing, LetBerriesFallLandAndSplash)
 
 TEST_F(PondDrawing, RaisePopupsForTwentySixFrames)
 {
-    Paint(pond.popupImages[POPUP_40], 0x1234, BlitCopy);
+    Paint(pond.popupImages[POPUP_40], 0x1234);
     for (int i = 0; i < 21; ++i)
         pond.ShowPopup(20 * i, 200, POPUP_40);
     Play(1);
@@ -92,13 +89,12 @@ TEST_F(PondDrawing, RaisePopupsForTwentySixFrames)
 
 TEST_F(PondDrawing, BlinkHighlightedBerriesFiveFramesInTen)
 {
-    Paint(pond.objectImages[BLUE], 0x0841, BlitCopy);
+    Paint(pond.objectImages[BLUE], 0x0841);
     pond.dayBackground.Fill(0);
     pond.PlaceBerry(BLUE, 100);
     pond.PlaceBerry(BLUE, 200); // still growing
     const Cell& cell = pond.cells[100];
     MakeRipe(pond.cells[100], BLUE);
-    pond.cells[100].growth = 0;
     for (int frame = 0; frame < 10; ++frame) {
         Play(1);
         EXPECT_EQ(Pixel(pondImage, cell.x, cell.y), frame < 5 ? 0x1082 : 0x0841) << frame;

@@ -1,7 +1,5 @@
 #include "game/pond_fixture.h"
 
-#include "gfx/blit.h"
-
 #include <filesystem>
 
 namespace

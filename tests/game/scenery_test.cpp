@@ -1,7 +1,5 @@
 #include "game/pond_fixture.h"
 
-#include "gfx/blit.h"
-
 namespace
 {
 using Scenery = PondTest;
@@ -29,8 +27,8 @@ TEST_F(Scenery, TurnsDayIntoNightAndBack)
 }
 
 struct LightCase {
-    bool isDay;
     int transition;
+    bool isDay;
     uint16_t light; ///< white less the grey that dims it
     const char* why;
 };
@@ -38,13 +36,13 @@ struct LightCase {
 TEST_F(Scenery, LightsGrowAtDuskAndWaneAtDawn)
 {
     constexpr LightCase cases[] = {
-        { true, 0, 0x0000, "none by day" },
-        { true, 50, 0x0841, "first frame of dusk: 245" },
-        { true, 25, 0x8430, "amid dusk: 120" },
-        { true, 1, 0xFFFF, "last frame of dusk: undimmed" },
-        { false, 0, 0xFFFF, "night" },
-        { false, 50, 0xFFFF, "first frame of dawn: undimmed" },
-        { false, 1, 0x0841, "last frame of dawn: 245" },
+        { 0, true, 0x0000, "none by day" },
+        { 50, true, 0x0841, "first frame of dusk: 245" },
+        { 25, true, 0x8430, "amid dusk: 120" },
+        { 1, true, 0xFFFF, "last frame of dusk: undimmed" },
+        { 0, false, 0xFFFF, "night" },
+        { 50, false, 0xFFFF, "first frame of dawn: undimmed" },
+        { 1, false, 0x0841, "last frame of dawn: 245" },
     };
     pond.dayBackground.Fill(0);
     pond.nightBackground.Fill(0);
@@ -90,8 +88,8 @@ TEST_F(Scenery, MoonFadesInBelowTheMiddleAndOutNearTheTop)
 
 TEST_F(Scenery, MoonsTakeTurns)
 {
-    Paint(pond.moonImages[0], 0x1234, BlitCopy);
-    Paint(pond.moonImages[1], 0x4321, BlitCopy);
+    Paint(pond.moonImages[0], 0x1234);
+    Paint(pond.moonImages[1], 0x4321);
     pond.isDay = false;
     scenery.moonY = 300;
     pond.moonImages[1].opacity = 40;

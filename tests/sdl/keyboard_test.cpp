@@ -1,0 +1,118 @@
+#include "sdl/window_fixture.h"
+
+#include <string>
+
+namespace
+{
+class KeyboardTest : public WindowFixture
+{
+protected:
+    std::string Characters() const
+    {
+        std::string characters;
+        for (const Received& one : received)
+            if (one.message == WM_CHAR)
+                characters += static_cast<char>(one.wParam);
+        return characters;
+    }
+};
+
+using Sequence = std::vector<UINT>;
+
+bool IsRepeat(const Received& message)
+{
+    return (message.lParam >> 30) & 1;
+}
+}
+
+TEST_F(KeyboardTest, GivesTheCharacterRightBehindItsKey)
+{
+    PushKey(true, SDL_SCANCODE_E, SDLK_e);
+    PushText("e");
+    PushKey(true, SDL_SCANCODE_BACKSPACE, SDLK_BACKSPACE);
+    PushKey(false, SDL_SCANCODE_E, SDLK_e);
+    RunMessages();
+    EXPECT_EQ(Messages(), Sequence({ WM_KEYDOWN, WM_CHAR, WM_KEYDOWN, WM_CHAR, WM_KEYUP }));
+    EXPECT_EQ(received[0].wParam, 'E');
+    EXPECT_EQ(Characters(), "e\b");
+}
+
+TEST_F(KeyboardTest, PassesAutoRepeatOnAsKeyDown)
+{
+    PushKey(true, SDL_SCANCODE_LEFT, SDLK_LEFT);
+    PushKey(true, SDL_SCANCODE_LEFT, SDLK_LEFT);
+    RunMessages();
+    ASSERT_EQ(Messages(), Sequence({ WM_KEYDOWN, WM_KEYDOWN }));
+    EXPECT_FALSE(IsRepeat(received[0]));
+    EXPECT_TRUE(IsRepeat(received[1]));
+}
+
+TEST_F(KeyboardTest, KeepsAltAndF10FromThePlayer)
+{
+    PushKey(true, SDL_SCANCODE_LALT, SDLK_LALT, KMOD_LALT);
+    PushKey(true, SDL_SCANCODE_RETURN, SDLK_RETURN, KMOD_LALT);
+    PushKey(false, SDL_SCANCODE_RETURN, SDLK_RETURN, KMOD_LALT);
+    PushKey(true, SDL_SCANCODE_A, SDLK_a, KMOD_LALT);
+    PushText("a");
+    PushKey(false, SDL_SCANCODE_A, SDLK_a, KMOD_LALT);
+    PushKey(false, SDL_SCANCODE_LALT, SDLK_LALT);
+    PushKey(true, SDL_SCANCODE_F10, SDLK_F10);
+    PushKey(false, SDL_SCANCODE_F10, SDLK_F10);
+    RunMessages();
+    EXPECT_EQ(Messages(), Sequence({ WM_SYSKEYDOWN, WM_SYSKEYDOWN, WM_SYSKEYUP, WM_SYSKEYDOWN, WM_SYSKEYUP, WM_SYSKEYUP,
+                                     WM_SYSKEYDOWN, WM_SYSKEYUP }));
+}
+
+TEST_F(KeyboardTest, TakesControlWithAltAsAnOrdinaryKey)
+{
+    PushKey(true, SDL_SCANCODE_E, SDLK_e, KMOD_LALT | KMOD_LCTRL);
+    PushKey(false, SDL_SCANCODE_E, SDLK_e, KMOD_LALT | KMOD_LCTRL);
+    RunMessages();
+    EXPECT_EQ(received.front().message, WM_KEYDOWN);
+    EXPECT_EQ(received.back().message, WM_KEYUP);
+}
+
+TEST_F(KeyboardTest, ReleasesTheCodeThatWasPressedAfterNumLockChanged)
+{
+    PushKey(true, SDL_SCANCODE_KP_8, SDLK_KP_8, KMOD_NUM);
+    PushKey(false, SDL_SCANCODE_KP_8, SDLK_KP_8, 0);
+    RunMessages();
+    EXPECT_EQ(received.back().message, WM_KEYUP);
+    EXPECT_EQ(received.back().wParam, static_cast<WPARAM>(VK_NUMPAD0 + 8));
+}
+
+TEST_F(KeyboardTest, HoldsNoKeyAfterTheFocusIsLost)
+{
+    PushKey(true, SDL_SCANCODE_W, SDLK_w);
+    PushKey(true, SDL_SCANCODE_LALT, SDLK_LALT, KMOD_LALT);
+    PushKey(true, SDL_SCANCODE_RETURN, SDLK_RETURN, KMOD_LALT);
+    RunMessages();
+    received.clear();
+    PushWindowEvent(SDL_WINDOWEVENT_FOCUS_LOST);
+    RunMessages();
+    EXPECT_EQ(Messages(), Sequence({ WM_KEYUP, WM_KEYUP, WM_KEYUP, WM_KILLFOCUS })) << "and Alt+Enter does not switch";
+    received.clear();
+    PushWindowEvent(SDL_WINDOWEVENT_FOCUS_LOST);
+    RunMessages();
+    EXPECT_EQ(Messages(), Sequence({ WM_KILLFOCUS })) << "each key is released once";
+}
+
+TEST_F(KeyboardTest, GivesTextInTheAnsiCodePage)
+{
+    PushText("\xC3\xA9\xE2\x82\xACx");                  // e acute, euro sign
+    PushText("a\xD0\xB6\xF0\x9F\x90\x8D\xE3\x81\x82z"); // Cyrillic, a snake, kana
+    RunMessages();
+    EXPECT_EQ(Characters(), "\xE9\x80xaz");
+}
+
+TEST_F(KeyboardTest, TakesNoTextFromCommandKeys)
+{
+    PushKey(true, SDL_SCANCODE_RCTRL, SDLK_RCTRL, KMOD_RCTRL);
+    PushText("1");
+    PushKey(false, SDL_SCANCODE_RCTRL, SDLK_RCTRL);
+    PushKey(true, SDL_SCANCODE_RALT, SDLK_RALT, KMOD_RALT); // chooses characters on many layouts
+    PushText("@");
+    PushKey(false, SDL_SCANCODE_RALT, SDLK_RALT);
+    RunMessages();
+    EXPECT_EQ(Characters(), "@");
+}

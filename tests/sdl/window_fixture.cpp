@@ -1,0 +1,106 @@
+#include "sdl/window_fixture.h"
+
+#include "platform/sdl/native_window.h"
+
+#include <cstdlib>
+
+namespace
+{
+std::vector<Received>* receiver = nullptr;
+}
+
+LRESULT WindowFixture::Procedure(HWND target, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    receiver->push_back({ message, wParam, lParam });
+    if (message != WM_DESTROY)
+        return DefWindowProcA(target, message, wParam, lParam);
+    PostQuitMessage(7);
+    return 0;
+}
+
+void WindowFixture::SetUp()
+{
+    setenv("SDL_VIDEODRIVER", "dummy", 1);
+    setenv("SDL_RENDER_DRIVER", "software", 1);
+    receiver = &received;
+    WNDCLASSA windowClass = {};
+    windowClass.lpfnWndProc = Procedure;
+    windowClass.lpszClassName = "Test";
+    RegisterClassA(&windowClass);
+    const DWORD style = WS_CAPTION | WS_SYSMENU;
+    RECT outer = { 0, 0, 640, 480 };
+    AdjustWindowRectEx(&outer, style, FALSE, 0);
+    window = CreateWindowExA(0, "Test", "Test", style, 0, 0, outer.right - outer.left, outer.bottom - outer.top,
+                             nullptr, nullptr, nullptr, nullptr);
+    ASSERT_NE(window, nullptr);
+    SetWindowPos(window, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_SHOWWINDOW);
+    RunMessages();
+    received.clear();
+}
+
+void WindowFixture::TearDown()
+{
+    DestroyWindow(window);
+    RunMessages();
+}
+
+bool WindowFixture::RunMessages()
+{
+    MSG message = {};
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE)) {
+        if (!GetMessageA(&message, nullptr, 0, 0))
+            return true;
+        TranslateMessage(&message);
+        DispatchMessageA(&message);
+    }
+    return false;
+}
+
+std::vector<UINT> WindowFixture::Messages() const
+{
+    std::vector<UINT> messages;
+    for (const Received& one : received)
+        messages.push_back(one.message);
+    return messages;
+}
+
+void WindowFixture::PushKey(bool down, SDL_Scancode position, SDL_Keycode symbol, int modifiers)
+{
+    SDL_Event event = {};
+    event.key.type = down ? SDL_KEYDOWN : SDL_KEYUP;
+    event.key.keysym = { position, symbol, static_cast<Uint16>(modifiers), 0 };
+    SDL_PushEvent(&event);
+}
+
+void WindowFixture::PushText(const char* text)
+{
+    SDL_Event event = {};
+    event.text.type = SDL_TEXTINPUT;
+    SDL_strlcpy(event.text.text, text, sizeof event.text.text);
+    SDL_PushEvent(&event);
+}
+
+void WindowFixture::PushWindowEvent(SDL_WindowEventID id)
+{
+    SDL_Event event = {};
+    event.window.type = SDL_WINDOWEVENT;
+    event.window.event = static_cast<Uint8>(id);
+    SDL_PushEvent(&event);
+}
+
+void WindowFixture::PushMotion(int x, int y)
+{
+    SDL_Event event = {};
+    event.motion.type = SDL_MOUSEMOTION;
+    event.motion.x = x;
+    event.motion.y = y;
+    SDL_PushEvent(&event);
+}
+
+uint32_t WindowFixture::ScreenPixel(int x, int y)
+{
+    const SDL_Rect place = { x, y, 1, 1 };
+    uint32_t pixel = 0;
+    SDL_RenderReadPixels(SDL_GetRenderer(nativeWindow.handle), &place, SDL_PIXELFORMAT_ARGB8888, &pixel, 4);
+    return pixel & 0xF8F8F8;
+}

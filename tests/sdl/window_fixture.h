@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/window.h"
+
+#include <SDL.h>
+#include <cstdint>
+#include <gtest/gtest.h>
+#include <vector>
+
+/// What a window procedure was given.
+struct Received {
+    UINT message;
+    WPARAM wParam;
+    LPARAM lParam;
+};
+
+/// A shown window with a client area of 640 x 480 on SDL's driver without a screen, which is 1024 x 768, and the
+/// messages that reach its procedure.
+class WindowFixture : public testing::Test
+{
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    /// Gives the window all that waits for it; true when the quit message was among it.
+    bool RunMessages();
+    /// The messages received so far, in order, without their words.
+    std::vector<UINT> Messages() const;
+
+    static void PushKey(bool down, SDL_Scancode position, SDL_Keycode symbol, int modifiers = 0);
+    static void PushText(const char* text);
+    static void PushWindowEvent(SDL_WindowEventID id);
+    static void PushMotion(int x, int y);
+
+    /// A screen pixel as 0xRRGGBB, each channel in the five bits that every conversion keeps.
+    static uint32_t ScreenPixel(int x, int y);
+
+    HWND window = nullptr;
+    std::vector<Received> received;
+
+private:
+    static LRESULT Procedure(HWND target, UINT message, WPARAM wParam, LPARAM lParam);
+};

@@ -1,0 +1,128 @@
+#include "platform/sdl/native_window.h"
+#include "platform/sdl/window_state.h"
+#include "sdl/window_fixture.h"
+
+#include <cstdlib>
+
+namespace
+{
+using Sequence = std::vector<UINT>;
+
+class WindowTest : public WindowFixture
+{
+protected:
+    SDL_Point ClientSize() const
+    {
+        SDL_Point size = {};
+        SDL_GetWindowSize(nativeWindow.handle, &size.x, &size.y);
+        return size;
+    }
+};
+}
+
+TEST_F(WindowTest, SizesAndPlacesTheClientAreaInsideTheFrame)
+{
+    RECT outer = { 0, 0, 500, 300 };
+    AdjustWindowRectEx(&outer, static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE)), FALSE, 0);
+    SetWindowPos(window, nullptr, 100 + outer.left, 200 + outer.top, outer.right - outer.left, outer.bottom - outer.top,
+                 SWP_NOZORDER);
+    int x = 0;
+    int y = 0;
+    SDL_GetWindowPosition(nativeWindow.handle, &x, &y);
+    EXPECT_EQ(ClientSize().x, 500);
+    EXPECT_EQ(ClientSize().y, 300);
+    EXPECT_EQ(x, 100);
+    EXPECT_EQ(y, 200);
+}
+
+TEST_F(WindowTest, UndoesWhatTheBorderDoesUnlessTheWindowManagerInsists)
+{
+    const auto userResizes = [this](int width, int height) {
+        SDL_SetWindowSize(nativeWindow.handle, width, height);
+        PushWindowEvent(SDL_WINDOWEVENT_RESIZED);
+        RunMessages();
+        return ClientSize().x;
+    };
+    EXPECT_EQ(userResizes(700, 500), 640);
+    EXPECT_EQ(userResizes(800, 600), 640);
+    int attempts = 0;
+    while (userResizes(900, 500) == 640 && attempts < 10)
+        ++attempts;
+    EXPECT_EQ(ClientSize().x, 900) << "no endless quarrel";
+    PushMotion(450, 250);
+    RunMessages();
+    EXPECT_EQ(received.back().lParam, MAKELPARAM(320, 240)) << "the frame is scaled to that size";
+}
+
+TEST_F(WindowTest, ClosesThroughTheProcedure)
+{
+    PushWindowEvent(SDL_WINDOWEVENT_CLOSE);
+    PushMotion(1, 1);
+    EXPECT_TRUE(RunMessages());
+    EXPECT_EQ(Messages(), Sequence({ WM_SYSCOMMAND, WM_CLOSE, WM_DESTROY })) << "nothing follows the window's end";
+    EXPECT_EQ(GetDC(window), nullptr);
+    EXPECT_FALSE(DestroyWindow(window));
+}
+
+TEST_F(WindowTest, ClosesOnAltF4)
+{
+    PushKey(true, SDL_SCANCODE_F4, SDLK_F4, KMOD_LALT);
+    EXPECT_TRUE(RunMessages());
+    EXPECT_EQ(received.back().message, WM_DESTROY);
+}
+
+TEST_F(WindowTest, GivesTheExitCodeWithTheQuitMessage)
+{
+    DestroyWindow(window);
+    MSG message = {};
+    EXPECT_FALSE(GetMessageA(&message, nullptr, 0, 0));
+    EXPECT_EQ(message.wParam, 7u);
+    EXPECT_FALSE(PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE)) << "it comes once";
+}
+
+TEST_F(WindowTest, TurnsMaximisingIntoACommand)
+{
+    PushWindowEvent(SDL_WINDOWEVENT_MAXIMIZED);
+    RunMessages();
+    ASSERT_EQ(Messages(), Sequence({ WM_SYSCOMMAND }));
+    EXPECT_EQ(received[0].wParam, SC_MAXIMIZE);
+    EXPECT_EQ(SDL_GetWindowFlags(nativeWindow.handle) & SDL_WINDOW_MAXIMIZED, 0u);
+}
+
+TEST_F(WindowTest, KnowsWhetherItHasTheFocus)
+{
+    PushWindowEvent(SDL_WINDOWEVENT_FOCUS_LOST);
+    RunMessages();
+    EXPECT_FALSE(WindowHasFocus());
+    PushWindowEvent(SDL_WINDOWEVENT_FOCUS_GAINED);
+    RunMessages();
+    EXPECT_TRUE(WindowHasFocus());
+    EXPECT_EQ(Messages(), Sequence({ WM_KILLFOCUS, WM_SETFOCUS }));
+}
+
+TEST_F(WindowTest, ShowsAndHidesTheCursor)
+{
+    const HCURSOR arrow = LoadCursorA(nullptr, IDC_ARROW);
+    SetCursor(nullptr);
+    EXPECT_EQ(SDL_ShowCursor(SDL_QUERY), SDL_DISABLE);
+    EXPECT_EQ(SetCursor(arrow), nullptr);
+    EXPECT_EQ(SDL_ShowCursor(SDL_QUERY), SDL_ENABLE);
+}
+
+TEST_F(WindowTest, WritesMessageBoxesOutWhereNobodySeesThem)
+{
+    testing::internal::CaptureStderr();
+    MessageBoxA(nullptr, "Can not load file", "Error", MB_ICONERROR);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Error: Can not load file\n");
+}
+
+TEST_F(WindowTest, CannotBeMadeWithoutADisplay)
+{
+    DestroyWindow(window);
+    RunMessages();
+    setenv("SDL_VIDEODRIVER", "no such driver", 1);
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(CreateWindowExA(0, "Test", "Test", WS_CAPTION, 0, 0, 640, 480, nullptr, nullptr, nullptr, nullptr),
+              nullptr);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("Test: cannot open the display"), std::string::npos);
+}
