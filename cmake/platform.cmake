@@ -12,7 +12,8 @@ pkg_check_modules(FONTCONFIG REQUIRED IMPORTED_TARGET fontconfig)
 pkg_check_modules(TURBOJPEG REQUIRED IMPORTED_TARGET libturbojpeg)
 find_package(tomlplusplus REQUIRED)
 
-target_link_libraries(tervalis_game PUBLIC PkgConfig::TURBOJPEG)
+pkg_check_modules(HWY REQUIRED IMPORTED_TARGET libhwy)
+target_link_libraries(tervalis_game PUBLIC PkgConfig::TURBOJPEG PkgConfig::HWY)
 
 file(GLOB BASE_SOURCES CONFIGURE_DEPENDS src/platform/posix/*.cpp)
 add_library(tervalis_platform_base STATIC ${BASE_SOURCES})

@@ -1,7 +1,7 @@
 # Sourced by play.sh, test.sh and .ci/run: installs Debian packages that are missing.
 
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config libsdl2-dev libfreetype-dev libfontconfig-dev libturbojpeg0-dev
-    libtomlplusplus-dev libpng-dev fonts-dejavu-core"
+    libtomlplusplus-dev libpng-dev libhwy-dev fonts-dejavu-core"
 TEST_PACKAGES="libgtest-dev xvfb xdotool imagemagick openbox x11-utils"
 CHECK_PACKAGES="clang-format"
 
@@ -18,8 +18,8 @@ missing_packages() {
 install_packages() {
     if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
         say "This is no Debian relative: nothing was installed. The build needs a C++20 compiler, CMake 3.25, Ninja,"
-        say "pkg-config and the development files of SDL2, FreeType, fontconfig, TurboJPEG, toml++ and libpng;"
-        say "the tests also need GoogleTest, Xvfb, xdotool, ImageMagick and openbox."
+        say "pkg-config and the development files of SDL2, FreeType, fontconfig, TurboJPEG, toml++, libpng and"
+        say "Highway; the tests also need GoogleTest, Xvfb, xdotool, ImageMagick and openbox."
         return 0
     fi
     local missing

@@ -43,16 +43,16 @@ void CopyPart(const uint16_t* source, const ShownPart& part)
     }
 }
 
-void StepRow(int y)
+void StepRow(const WaterKernels& kernels, int y)
 {
     const ptrdiff_t start = static_cast<ptrdiff_t>(y) * water.fieldWidth;
     const int16_t* current = water.current + start;
-    StepWaterRow(current, water.previous + start, water.fieldWidth, LeftOf(current, 0, y),
-                 ClampShift(water.dampingShift));
+    kernels.stepRow(current, water.previous + start, water.fieldWidth, LeftOf(current, 0, y),
+                    ClampShift(water.dampingShift));
 }
 
 /// Displaces the whole groups of four samples of that row that lie in the part.
-void RefractRow(const uint16_t* source, const ShownPart& part, int y)
+void RefractRow(const WaterKernels& kernels, const uint16_t* source, const ShownPart& part, int y)
 {
     const int first = (part.x + 3) / 4 * 4;
     const int end = (part.x + part.width) / 4 * 4;
@@ -60,8 +60,8 @@ void RefractRow(const uint16_t* source, const ShownPart& part, int y)
         return;
     const int16_t* current = water.current + static_cast<ptrdiff_t>(y) * water.fieldWidth + first;
     const WaterSource picture = { source, water.fieldWidth, water.fieldHeight };
-    RefractWaterRow(current, picture, first, y, end - first, LeftOf(current, first, y),
-                    ClampShift(water.refractionShift), part.TargetRow(y) + (first - part.x));
+    kernels.refractRow(current, picture, first, y, end - first, LeftOf(current, first, y),
+                       ClampShift(water.refractionShift), part.TargetRow(y) + (first - part.x));
 }
 }
 
@@ -97,10 +97,11 @@ void WaterFrame(const uint16_t* source, int x0, int y0, int width, int height, u
 {
     const ptrdiff_t stride = targetPitch / static_cast<ptrdiff_t>(sizeof(uint16_t));
     const ShownPart part = { x0, y0, width, height, target + targetY * stride + targetX, stride };
+    const WaterKernels& kernels = BestWaterKernels();
     CopyPart(source, part);
     for (int y = 1; y < water.fieldHeight - 1; ++y) {
-        StepRow(y);
-        RefractRow(source, part, y);
+        StepRow(kernels, y);
+        RefractRow(kernels, source, part, y);
     }
     std::swap(water.current, water.previous);
 }

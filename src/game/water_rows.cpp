@@ -1,66 +1,195 @@
+// Compiled once per instruction set. Vectors begin where a group of four samples does, so that a lane's number modulo
+// four is its place in its group.
 #include "game/water_rows.h"
 
-#include <algorithm>
-#include <cstddef>
-#include <limits>
+#include "game/water_rules.h"
 
+#include <cstddef>
+
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "game/water_rows.cpp"
+#include <hwy/foreach_target.h>
+#include <hwy/highway.h>
+
+HWY_BEFORE_NAMESPACE();
 namespace
 {
-constexpr int GROUP = 4; ///< samples that are summed up together, each in the order of its place in the group
-
-constexpr int Saturate(int height)
+namespace HWY_NAMESPACE
 {
-    return std::clamp<int>(height, std::numeric_limits<int16_t>::min(), std::numeric_limits<int16_t>::max());
-}
+namespace hn = hwy::HWY_NAMESPACE;
 
-/// The order matters only where a partial sum saturates; recorded games rely on it.
-constexpr int SumInOrder(int a, int b, int c, int d)
-{
-    return Saturate(Saturate(Saturate(a + b) + c) + d);
-}
+/// One row of heights among its neighbours.
+struct HeightRow {
+    const int16_t* samples;
+    int width;    ///< samples from row to row
+    int16_t left; ///< of the first sample
 
-/// A damped wave: the mean of the four neighbours carried on past the height before.
-constexpr int16_t NextHeight(int neighbours, int before, int dampingShift)
-{
-    const int next = Saturate((neighbours >> 1) - before);
-    return static_cast<int16_t>(Saturate(next - (next >> dampingShift)));
-}
-
-constexpr int Slope(int before, int after, int refractionShift)
-{
-    return Saturate(before - after) >> refractionShift;
-}
-}
-
-void StepWaterRow(const int16_t* current, int16_t* previous, int width, int16_t left, int dampingShift)
-{
-    const int16_t* up = current - width;
-    const int16_t* down = current + width;
-    const auto step = [&](int x, int neighbours) { previous[x] = NextHeight(neighbours, previous[x], dampingShift); };
-    for (int x = 0; x + GROUP <= width; x += GROUP) {
-        step(x, SumInOrder(left, up[x], down[x], current[x + 1]));
-        step(x + 1, SumInOrder(up[x + 1], down[x + 1], current[x + 2], current[x]));
-        step(x + 2, SumInOrder(up[x + 2], down[x + 2], current[x + 3], current[x + 1]));
-        step(x + 3, SumInOrder(up[x + 3], down[x + 3], current[x + 2], current[x + 4]));
-        left = current[x + 3];
+    WaterNeighbours Around(int x) const
+    {
+        const int16_t* sample = samples + x;
+        return { sample[-width], sample[width], x == 0 ? left : sample[-1], sample[1] };
     }
+};
+
+/// The heights around as many samples as a vector has lanes.
+template <class V>
+struct VectorNeighbours {
+    V up;
+    V down;
+    V left;
+    V right;
+};
+
+template <class Lanes>
+VectorNeighbours<hn::Vec<Lanes>> LoadAround(Lanes lanes, const HeightRow& row, int x)
+{
+    const int16_t* first = row.samples + x;
+    return { hn::LoadU(lanes, first - row.width), hn::LoadU(lanes, first + row.width), hn::LoadU(lanes, first - 1),
+             hn::LoadU(lanes, first + 1) };
 }
 
-void RefractWaterRow(const int16_t* current, const WaterSource& source, int x, int y, int count, int16_t left,
-                     int refractionShift, uint16_t* target)
-{
-    const int16_t* up = current - source.width;
-    const int16_t* down = current + source.width;
-    const ptrdiff_t pixelCount = static_cast<ptrdiff_t>(source.width) * source.height;
-    const ptrdiff_t first = static_cast<ptrdiff_t>(y) * source.width + x;
-    for (int i = 0; i < count; ++i) {
-        const int rows = Slope(up[i], down[i], refractionShift);
-        const int columns = Slope(left, current[i + 1], refractionShift) >> 1;
-        left = current[i];
-        if (rows == 0 && columns == 0)
-            continue;
-        const ptrdiff_t displaced = first + i + static_cast<ptrdiff_t>(rows) * source.width + columns;
-        if (displaced >= 0 && displaced < pixelCount)
-            target[i] = source.pixels[displaced];
+struct StepRule {
+    HeightRow current;
+    int16_t* previous;
+    int dampingShift;
+
+    void Sample(int x) const
+    {
+        previous[x] = NextHeight(NeighbourSum(current.Around(x), x % WATER_GROUP), previous[x], dampingShift);
     }
+
+    template <class Lanes>
+    void Vector(Lanes lanes, int x) const
+    {
+        const auto sum = NeighbourSums(lanes, LoadAround(lanes, current, x));
+        const auto next = hn::SaturatedSub(hn::ShiftRight<1>(sum), hn::LoadU(lanes, previous + x));
+        hn::StoreU(hn::SaturatedSub(next, hn::ShiftRightSame(next, dampingShift)), lanes, previous + x);
+    }
+
+    template <class Lanes, class V>
+    static V NeighbourSums(Lanes lanes, const VectorNeighbours<V>& heights)
+    {
+        const auto& [up, down, left, right] = heights;
+        const V upAndDown = hn::SaturatedAdd(up, down);
+        const V first = hn::SaturatedAdd(hn::SaturatedAdd(hn::SaturatedAdd(left, up), down), right);
+        const V middle = hn::SaturatedAdd(hn::SaturatedAdd(upAndDown, right), left);
+        const V last = hn::SaturatedAdd(hn::SaturatedAdd(upAndDown, left), right);
+        const V place = hn::And(hn::Iota(lanes, 0), hn::Set(lanes, WATER_GROUP - 1));
+        const V firstOrMiddle = hn::IfThenElse(hn::Eq(place, hn::Zero(lanes)), first, middle);
+        return hn::IfThenElse(hn::Eq(place, hn::Set(lanes, WATER_GROUP - 1)), last, firstOrMiddle);
+    }
+};
+
+struct RefractRule {
+    HeightRow current;
+    WaterSource source;
+    int firstPixel; ///< of the source, below the row's first sample
+    int refractionShift;
+    uint16_t* target;
+
+    int PixelCount() const { return source.width * source.height; }
+
+    void Sample(int x) const
+    {
+        const auto [rows, columns] = DisplacementAt(current.Around(x), refractionShift);
+        const ptrdiff_t displaced = ptrdiff_t{ firstPixel } + x + ptrdiff_t{ rows } * source.width + columns;
+        if (displaced >= 0 && displaced < PixelCount())
+            target[x] = source.pixels[displaced];
+    }
+
+    template <class Lanes>
+    void Vector(Lanes lanes, int x) const
+    {
+        const auto [up, down, left, right] = LoadAround(lanes, current, x);
+        const auto rows = hn::ShiftRightSame(hn::SaturatedSub(up, down), refractionShift);
+        const auto columns = hn::ShiftRight<1>(hn::ShiftRightSame(hn::SaturatedSub(left, right), refractionShift));
+        if (hn::AllTrue(lanes, hn::Eq(hn::Or(rows, columns), hn::Zero(lanes))))
+            return;
+        HWY_ALIGN int16_t rowsAt[hn::MaxLanes(lanes)];
+        HWY_ALIGN int16_t columnsAt[hn::MaxLanes(lanes)];
+        hn::Store(rows, lanes, rowsAt);
+        hn::Store(columns, lanes, columnsAt);
+        const hn::RepartitionToWide<Lanes> wide;
+        const int step = static_cast<int>(hn::Lanes(wide));
+        for (int lane = 0; lane < 2 * step; lane += step)
+            Displace(wide, x + lane, rowsAt + lane, columnsAt + lane);
+    }
+
+    template <class Wide>
+    void Displace(Wide wide, int x, const int16_t* rowsAt, const int16_t* columnsAt) const
+    {
+        const hn::Rebind<int16_t, Wide> narrow;
+        const auto rows = hn::PromoteTo(wide, hn::Load(narrow, rowsAt));
+        const auto columns = hn::PromoteTo(wide, hn::Load(narrow, columnsAt));
+        const auto plain = hn::Iota(wide, firstPixel + x);
+        const auto displaced = hn::Add(hn::Add(plain, columns), hn::Mul(rows, hn::Set(wide, source.width)));
+        const auto isBefore = hn::Lt(displaced, hn::Zero(wide));
+        const auto isBehind = hn::Gt(displaced, hn::Set(wide, PixelCount() - 1));
+        HWY_ALIGN int32_t shown[hn::MaxLanes(wide)];
+        hn::Store(hn::IfThenElse(hn::Or(isBefore, isBehind), plain, displaced), wide, shown);
+        for (int lane = 0; lane < static_cast<int>(hn::Lanes(wide)); ++lane)
+            target[x + lane] = source.pixels[shown[lane]];
+    }
+};
+
+/// Applies the rule from sample `first` on while there are enough samples for a vector; returns the next sample.
+template <class Lanes, class Rule>
+int ApplyVectors(Lanes lanes, const Rule& rule, int first, int count)
+{
+    // With less than a group in a vector, which can mean one lane, the samples' own rule does the whole row.
+    if constexpr (hn::MaxLanes(lanes) >= WATER_GROUP) {
+        const int step = static_cast<int>(hn::Lanes(lanes));
+        for (; first + step <= count; first += step)
+            rule.Vector(lanes, first);
+    }
+    return first;
 }
+
+template <class Rule>
+void ApplyToRow(const Rule& rule, int count)
+{
+    // Vectors take what the run of samples has left of the first one.
+    const bool isRun = rule.current.left == rule.current.samples[-1];
+    int x = 0;
+    for (; x < (isRun ? 0 : WATER_GROUP); ++x)
+        rule.Sample(x);
+    x = ApplyVectors(hn::ScalableTag<int16_t>(), rule, x, count);
+    x = ApplyVectors(hn::CappedTag<int16_t, 16>(), rule, x, count);
+    x = ApplyVectors(hn::CappedTag<int16_t, 8>(), rule, x, count);
+    x = ApplyVectors(hn::CappedTag<int16_t, 4>(), rule, x, count);
+    for (; x < count; ++x)
+        rule.Sample(x);
+}
+
+void StepRow(const int16_t* current, int16_t* previous, int width, int16_t left, int dampingShift)
+{
+    ApplyToRow(StepRule{ { current, width, left }, previous, dampingShift }, width / WATER_GROUP * WATER_GROUP);
+}
+
+void RefractRow(const int16_t* current, const WaterSource& source, int x, int y, int count, int16_t left,
+                int refractionShift, uint16_t* target)
+{
+    const int firstPixel = y * source.width + x;
+    ApplyToRow(RefractRule{ { current, source.width, left }, source, firstPixel, refractionShift, target }, count);
+}
+
+const WaterKernels& Kernels()
+{
+    static constexpr WaterKernels kernels = { .stepRow = StepRow, .refractRow = RefractRow };
+    return kernels;
+}
+}
+}
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace
+{
+HWY_EXPORT(Kernels);
+}
+
+const WaterKernels& BestWaterKernels()
+{
+    return HWY_DYNAMIC_DISPATCH(Kernels)();
+}
+#endif

@@ -10,22 +10,22 @@ SourceBox BoxOf(const CImage& image)
     return { image.x, image.y, image.width, image.height };
 }
 
-/// Applies kernel(source pixels, target pixels, count) to each visible row.
-template <typename Kernel>
-void DrawRows(CImage& target, const CImage& source, Kernel kernel)
+/// Applies kernel(source pixels, target pixels, count, weight...) to each visible row.
+template <typename Kernel, typename... Weight>
+void DrawRows(CImage& target, const CImage& source, Kernel kernel, Weight... weight)
 {
     ForEachVisibleRow(target, BoxOf(source), [&](int row, int column, uint16_t* pixels, size_t count) {
-        kernel(source.Row(row) + column, pixels, count);
+        kernel(source.Row(row) + column, pixels, count, weight...);
     });
 }
 
-/// Applies kernel(source pixels, source alpha, target pixels, count) to each visible row. A kernel may read three
-/// values past the row's end: behind the last row lies the plane's slack.
-template <typename Kernel>
-void DrawAlphaRows(CImage& target, const CImage& source, Kernel kernel)
+/// Applies kernel(source pixels, source alpha, target pixels, count, scale...) to each visible row. A kernel may read
+/// three values past the row's end: behind the last row lies the plane's slack.
+template <typename Kernel, typename... Scale>
+void DrawAlphaRows(CImage& target, const CImage& source, Kernel kernel, Scale... scale)
 {
     ForEachVisibleRow(target, BoxOf(source), [&](int row, int column, uint16_t* pixels, size_t count) {
-        kernel(source.Row(row) + column, source.AlphaRow(row) + column, pixels, count);
+        kernel(source.Row(row) + column, source.AlphaRow(row) + column, pixels, count, scale...);
     });
 }
 
@@ -38,36 +38,33 @@ int OtherWeight(uint32_t opacity)
 
 void BlitCopy(CImage& target, const CImage& source)
 {
-    DrawRows(target, source, CopyRow);
+    DrawRows(target, source, BestRowKernels().copy);
 }
 
 void BlitColorKey(CImage& target, const CImage& source)
 {
-    DrawRows(target, source, ColorKeyRow);
+    DrawRows(target, source, BestRowKernels().colorKey);
 }
 
 void BlitAdd(CImage& target, const CImage& source)
 {
-    DrawRows(target, source, AddRow);
+    DrawRows(target, source, BestRowKernels().add);
 }
 
 void BlitSub(CImage& target, const CImage& source)
 {
-    DrawRows(target, source, SubRow);
+    DrawRows(target, source, BestRowKernels().sub);
 }
 
 void BlitAlpha(CImage& target, const CImage& source)
 {
-    DrawAlphaRows(target, source, AlphaRow);
+    DrawAlphaRows(target, source, BestRowKernels().alpha);
 }
 
 void BlitAlphaOpacity(CImage& target, const CImage& source)
 {
     const int scale = static_cast<int>(source.opacity >> 3) + 1;
-    DrawAlphaRows(target, source,
-                  [scale](const uint16_t* pixels, const uint8_t* alpha, uint16_t* targetPixels, size_t count) {
-                      AlphaOpacityRow(pixels, alpha, targetPixels, count, scale);
-                  });
+    DrawAlphaRows(target, source, BestRowKernels().alphaOpacity, scale);
 }
 
 void BlitOpacityColorKey(CImage& target, const CImage& source)
@@ -75,24 +72,21 @@ void BlitOpacityColorKey(CImage& target, const CImage& source)
     if (source.opacity < 8)
         return;
     const int targetWeight = OtherWeight(source.opacity);
-    DrawRows(target, source, [targetWeight](const uint16_t* pixels, uint16_t* targetPixels, size_t count) {
-        OpacityColorKeyRow(pixels, targetPixels, count, targetWeight);
-    });
+    DrawRows(target, source, BestRowKernels().opacityColorKey, targetWeight);
 }
 
 void BlitFadeToBlack(CImage& target, const CImage& source)
 {
     const int blackWeight = OtherWeight(source.opacity);
-    DrawRows(target, source, [blackWeight](const uint16_t* pixels, uint16_t* targetPixels, size_t count) {
-        FadeToBlackRow(pixels, targetPixels, count, blackWeight);
-    });
+    DrawRows(target, source, BestRowKernels().fadeToBlack, blackWeight);
 }
 
 void BlitGlyphSmooth(CImage& target, const GlyphView& glyph)
 {
     const SourceBox box{ glyph.offsetX, glyph.offsetY, glyph.width, glyph.height };
+    const RowKernels::GlyphRow kernel = BestRowKernels().glyph;
     ForEachVisibleRow(target, box, [&](int row, int column, uint16_t* pixels, size_t count) {
         const uint8_t* coverage = glyph.bits + static_cast<ptrdiff_t>(row) * glyph.width + column;
-        GlyphRow(coverage, pixels, count, glyph.colour);
+        kernel(coverage, pixels, count, glyph.colour);
     });
 }

@@ -92,3 +92,10 @@ constexpr uint16_t GlyphPixel(uint16_t colour, uint16_t target, int coverage)
 {
     return BlendPixel<4>(colour, target, 16 - coverage);
 }
+
+/// For screens with five bits a channel: red and green move down one bit and the lowest green bit is dropped.
+constexpr uint16_t RED_GREEN_MASK_555 = 0x7FE0;
+constexpr uint16_t Rgb555Pixel(uint16_t pixel)
+{
+    return Low16(((pixel >> 1) & RED_GREEN_MASK_555) | (pixel & BLUE_MASK));
+}

@@ -1,8 +1,7 @@
 #include "gfx/display.h"
-#include "gfx/rgb565.h"
+#include "gfx/row_kernels.h"
 
 #include <cstdint>
-#include <cstring>
 
 namespace
 {
@@ -17,25 +16,14 @@ void ConvertRows(const CImage& image, void* surface, int rowSkip, Kernel kernel)
         target += 2 * count + rowSkip;
     }
 }
-
-/// Red and green move down one bit and the lowest green bit is dropped.
-constexpr uint16_t Rgb555(uint16_t pixel)
-{
-    return static_cast<uint16_t>(((pixel >> 1) & 0xFFE0) | (pixel & BLUE_MASK));
-}
 }
 
 void ConvertRowsCopy(const CImage& image, void* surface, int rowSkip)
 {
-    ConvertRows(image, surface, rowSkip, [](const uint16_t* source, uint16_t* target, size_t count) {
-        std::memcpy(target, source, count * sizeof(uint16_t));
-    });
+    ConvertRows(image, surface, rowSkip, BestRowKernels().copy);
 }
 
 void ConvertRows555(const CImage& image, void* surface, int rowSkip)
 {
-    ConvertRows(image, surface, rowSkip, [](const uint16_t* source, uint16_t* target, size_t count) {
-        for (size_t i = 0; i < count; ++i)
-            target[i] = Rgb555(source[i]);
-    });
+    ConvertRows(image, surface, rowSkip, BestRowKernels().toRgb555);
 }

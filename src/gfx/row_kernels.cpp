@@ -1,79 +1,301 @@
+// Compiled once per instruction set. Each rule says what becomes of a row's target pixels from pixel i on: of one, as
+// pixel_rules.h has it, or of as many as a vector has lanes. Both forms agree for every input.
 #include "gfx/row_kernels.h"
 
 #include "gfx/pixel_rules.h"
 
-#include <algorithm>
 #include <cstring>
 
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "gfx/row_kernels.cpp"
+#include <hwy/foreach_target.h>
+#include <hwy/highway.h>
+
+HWY_BEFORE_NAMESPACE();
 namespace
 {
-constexpr size_t GROUP = 4;
+namespace HWY_NAMESPACE
+{
+namespace hn = hwy::HWY_NAMESPACE;
+
+constexpr size_t GROUP = 4; ///< pixels whose alpha values are looked at together
 constexpr uint8_t OPAQUE_ALPHA = 31;
 
-bool IsOpaqueGroup(const uint8_t* alpha)
+/// Applies the rule from pixel `first` on while there are enough pixels for a vector; returns the next pixel.
+template <class Lanes, class Rule>
+size_t MapVectors(Lanes lanes, const Rule& rule, uint16_t* target, size_t first, size_t count)
 {
-    return std::all_of(alpha, alpha + GROUP, [](uint8_t value) { return value == OPAQUE_ALPHA; });
+    // With less than a group in a vector, which can mean one lane, the pixels' own rule does the whole row.
+    if constexpr (hn::MaxLanes(lanes) >= GROUP) {
+        const size_t step = hn::Lanes(lanes);
+        for (; first + step <= count; first += step)
+            hn::StoreU(rule.Vector(lanes, first, hn::LoadU(lanes, target + first)), lanes, target + first);
+    }
+    return first;
 }
+
+/// Applies the rule to a row, from the widest vectors down to single pixels: sprites are narrower than a vector.
+template <class Rule>
+void MapRow(const Rule& rule, uint16_t* target, size_t count)
+{
+    size_t i = MapVectors(hn::ScalableTag<uint16_t>(), rule, target, 0, count);
+    i = MapVectors(hn::CappedTag<uint16_t, 16>(), rule, target, i, count);
+    i = MapVectors(hn::CappedTag<uint16_t, 8>(), rule, target, i, count);
+    i = MapVectors(hn::CappedTag<uint16_t, 4>(), rule, target, i, count);
+    for (; i < count; ++i)
+        target[i] = rule.Pixel(i, target[i]);
 }
+
+/// Pixels from vectors that each have one channel in its place; blue has nothing beside it.
+template <class Lanes, class V>
+V JoinChannels(Lanes lanes, V red, V green, V blue)
+{
+    const V redAndBlue = hn::OrAnd(blue, red, hn::Set(lanes, RED_MASK));
+    return hn::OrAnd(redAndBlue, green, hn::Set(lanes, GREEN_MASK));
+}
+
+/// BlendChannel of pixel_rules.h, but for the mask that cuts off what lies above the channel.
+template <int SHIFT, class V>
+V BlendChannel(V kept, V blended, V weight, V mask)
+{
+    const V keptPart = hn::And(kept, mask);
+    const V change = hn::Mul(hn::Sub(hn::And(blended, mask), keptPart), weight);
+    return hn::Add(hn::ShiftRight<SHIFT>(change), keptPart);
+}
+
+template <int SHIFT, class Lanes, class V>
+V BlendPixels(Lanes lanes, V kept, V blended, V weight)
+{
+    const V blueMask = hn::Set(lanes, BLUE_MASK);
+    const V change = hn::Sub(hn::ShiftRight<SHIFT>(blended), hn::ShiftRight<SHIFT>(kept));
+    const V red = hn::Add(hn::Mul(change, weight), kept);
+    const V green = BlendChannel<SHIFT>(kept, blended, weight, hn::Set(lanes, GREEN_MASK));
+    const V blue = BlendChannel<SHIFT>(kept, blended, weight, blueMask);
+    return JoinChannels(lanes, red, green, hn::And(blue, blueMask));
+}
+
+/// As many bytes as there are lanes, each in its lane.
+template <class Lanes>
+hn::Vec<Lanes> LoadBytes(Lanes lanes, const uint8_t* bytes)
+{
+    return hn::PromoteTo(lanes, hn::LoadU(hn::Rebind<uint8_t, Lanes>(), bytes));
+}
+
+struct ColorKeyRule {
+    const uint16_t* source;
+
+    uint16_t Pixel(size_t i, uint16_t target) const { return ColorKeyPixel(source[i], target); }
+
+    template <class Lanes, class V>
+    V Vector(Lanes lanes, size_t i, V target) const
+    {
+        const V pixels = hn::LoadU(lanes, source + i);
+        return hn::IfThenElse(hn::Eq(pixels, hn::Set(lanes, COLOR_KEY)), target, pixels);
+    }
+};
+
+struct AddRule {
+    const uint16_t* source;
+
+    uint16_t Pixel(size_t i, uint16_t target) const { return AddPixel(source[i], target); }
+
+    template <class Lanes, class V>
+    V Vector(Lanes lanes, size_t i, V target) const
+    {
+        const V pixels = hn::LoadU(lanes, source + i);
+        const V green = hn::SaturatedAdd(hn::ShiftLeft<5>(pixels), hn::ShiftLeft<5>(target));
+        const V blue = hn::SaturatedAdd(hn::ShiftLeft<11>(pixels), hn::ShiftLeft<11>(target));
+        return JoinChannels(lanes, hn::SaturatedAdd(pixels, target), hn::ShiftRight<5>(green),
+                            hn::ShiftRight<11>(blue));
+    }
+};
+
+struct SubRule {
+    const uint16_t* source;
+
+    uint16_t Pixel(size_t i, uint16_t target) const { return SubPixel(source[i], target); }
+
+    template <class Lanes, class V>
+    V Vector(Lanes lanes, size_t i, V target) const
+    {
+        const V pixels = hn::LoadU(lanes, source + i);
+        const V green = hn::SaturatedSub(hn::ShiftLeft<5>(target), hn::ShiftLeft<5>(pixels));
+        const V blue = hn::SaturatedSub(hn::ShiftLeft<11>(target), hn::ShiftLeft<11>(pixels));
+        return JoinChannels(lanes, hn::SaturatedSub(target, pixels), hn::ShiftRight<5>(green),
+                            hn::ShiftRight<11>(blue));
+    }
+};
+
+struct AlphaRule {
+    const uint16_t* source;
+    const uint8_t* alpha;
+
+    uint16_t Pixel(size_t i, uint16_t target) const
+    {
+        // Not the same as blending by 31, which keeps 1/32 of the target. An empty group needs no such care: blending
+        // by 0 leaves the target exactly.
+        return IsOpaqueGroup(i / GROUP * GROUP) ? source[i] : AlphaPixel(source[i], target, alpha[i]);
+    }
+
+    bool IsOpaqueGroup(size_t first) const
+    {
+        constexpr uint8_t opaque[GROUP] = { OPAQUE_ALPHA, OPAQUE_ALPHA, OPAQUE_ALPHA, OPAQUE_ALPHA };
+        return std::memcmp(alpha + first, opaque, GROUP) == 0;
+    }
+
+    template <class Lanes, class V>
+    V Vector(Lanes lanes, size_t i, V target) const
+    {
+        const V values = LoadBytes(lanes, alpha + i);
+        if (hn::AllTrue(lanes, hn::Eq(values, hn::Zero(lanes))))
+            return target;
+        const hn::Repartition<uint64_t, Lanes> groups; // GROUP lanes in each
+        const auto opaque = hn::Eq(hn::BitCast(groups, hn::Set(lanes, OPAQUE_ALPHA)), hn::BitCast(groups, values));
+        const V pixels = hn::LoadU(lanes, source + i);
+        if (hn::AllTrue(groups, opaque))
+            return pixels;
+        // In opaque groups, whose mask is minus one, the weight becomes 32, by which blending is copying.
+        const V weights = hn::Sub(values, hn::BitCast(lanes, hn::VecFromMask(groups, opaque)));
+        return BlendPixels<5>(lanes, target, pixels, weights);
+    }
+};
+
+struct AlphaOpacityRule {
+    const uint16_t* source;
+    const uint8_t* alpha;
+    int scale;
+
+    uint16_t Pixel(size_t i, uint16_t target) const { return AlphaOpacityPixel(source[i], target, alpha[i], scale); }
+
+    template <class Lanes, class V>
+    V Vector(Lanes lanes, size_t i, V target) const
+    {
+        const V values = LoadBytes(lanes, alpha + i);
+        if (hn::AllTrue(lanes, hn::Eq(values, hn::Zero(lanes))))
+            return target;
+        const V weights = hn::ShiftRight<5>(hn::Mul(values, hn::Set(lanes, Low16(scale))));
+        return BlendPixels<5>(lanes, target, hn::LoadU(lanes, source + i), weights);
+    }
+};
+
+struct OpacityColorKeyRule {
+    const uint16_t* source;
+    int targetWeight;
+
+    uint16_t Pixel(size_t i, uint16_t target) const { return OpacityColorKeyPixel(source[i], target, targetWeight); }
+
+    template <class Lanes, class V>
+    V Vector(Lanes lanes, size_t i, V target) const
+    {
+        const V pixels = hn::LoadU(lanes, source + i);
+        const V blended = BlendPixels<5>(lanes, pixels, target, hn::Set(lanes, Low16(targetWeight)));
+        return hn::IfThenElse(hn::Eq(pixels, hn::Set(lanes, COLOR_KEY)), target, blended);
+    }
+};
+
+struct FadeToBlackRule {
+    const uint16_t* source;
+    int blackWeight;
+
+    uint16_t Pixel(size_t i, uint16_t) const { return FadeToBlackPixel(source[i], blackWeight); }
+
+    template <class Lanes, class V>
+    V Vector(Lanes lanes, size_t i, V) const
+    {
+        const V weight = hn::Set(lanes, Low16(blackWeight));
+        return BlendPixels<5>(lanes, hn::LoadU(lanes, source + i), hn::Zero(lanes), weight);
+    }
+};
+
+struct GlyphRule {
+    const uint8_t* coverage;
+    uint16_t colour;
+
+    uint16_t Pixel(size_t i, uint16_t target) const { return GlyphPixel(colour, target, coverage[i]); }
+
+    template <class Lanes, class V>
+    V Vector(Lanes lanes, size_t i, V target) const
+    {
+        const V targetWeights = hn::Sub(hn::Set(lanes, 16), LoadBytes(lanes, coverage + i));
+        return BlendPixels<4>(lanes, hn::Set(lanes, colour), target, targetWeights);
+    }
+};
+
+struct Rgb555Rule {
+    const uint16_t* source;
+
+    uint16_t Pixel(size_t i, uint16_t) const { return Rgb555Pixel(source[i]); }
+
+    template <class Lanes, class V>
+    V Vector(Lanes lanes, size_t i, V) const
+    {
+        const V pixels = hn::LoadU(lanes, source + i);
+        const V blue = hn::And(pixels, hn::Set(lanes, BLUE_MASK));
+        return hn::OrAnd(blue, hn::ShiftRight<1>(pixels), hn::Set(lanes, RED_GREEN_MASK_555));
+    }
+};
 
 void CopyRow(const uint16_t* source, uint16_t* target, size_t count)
 {
-    std::memmove(target, source, count * sizeof(uint16_t));
+    std::memmove(target, source, count * sizeof(uint16_t)); // has its own forms for each instruction set
 }
 
-void ColorKeyRow(const uint16_t* source, uint16_t* target, size_t count)
+/// MapRow for a rule made of the arguments around target and count.
+template <class Rule>
+void SourceRow(const uint16_t* source, uint16_t* target, size_t count)
 {
-    for (size_t i = 0; i < count; ++i)
-        target[i] = ColorKeyPixel(source[i], target[i]);
+    MapRow(Rule{ source }, target, count);
 }
 
-void AddRow(const uint16_t* source, uint16_t* target, size_t count)
+template <class Rule>
+void WeightedRow(const uint16_t* source, uint16_t* target, size_t count, int weight)
 {
-    for (size_t i = 0; i < count; ++i)
-        target[i] = AddPixel(source[i], target[i]);
-}
-
-void SubRow(const uint16_t* source, uint16_t* target, size_t count)
-{
-    for (size_t i = 0; i < count; ++i)
-        target[i] = SubPixel(source[i], target[i]);
+    MapRow(Rule{ source, weight }, target, count);
 }
 
 void AlphaRow(const uint16_t* source, const uint8_t* alpha, uint16_t* target, size_t count)
 {
-    for (size_t group = 0; group < count; group += GROUP) {
-        const size_t end = std::min(group + GROUP, count);
-        // Not the same as blending by 31, which keeps 1/32 of the target. An empty group needs no such care:
-        // blending by 0 leaves the target exactly.
-        if (IsOpaqueGroup(alpha + group)) {
-            CopyRow(source + group, target + group, end - group);
-            continue;
-        }
-        for (size_t i = group; i < end; ++i)
-            target[i] = AlphaPixel(source[i], target[i], alpha[i]);
-    }
+    MapRow(AlphaRule{ source, alpha }, target, count);
 }
 
 void AlphaOpacityRow(const uint16_t* source, const uint8_t* alpha, uint16_t* target, size_t count, int scale)
 {
-    for (size_t i = 0; i < count; ++i)
-        target[i] = AlphaOpacityPixel(source[i], target[i], alpha[i], scale);
-}
-
-void OpacityColorKeyRow(const uint16_t* source, uint16_t* target, size_t count, int targetWeight)
-{
-    for (size_t i = 0; i < count; ++i)
-        target[i] = OpacityColorKeyPixel(source[i], target[i], targetWeight);
-}
-
-void FadeToBlackRow(const uint16_t* source, uint16_t* target, size_t count, int blackWeight)
-{
-    for (size_t i = 0; i < count; ++i)
-        target[i] = FadeToBlackPixel(source[i], blackWeight);
+    MapRow(AlphaOpacityRule{ source, alpha, scale }, target, count);
 }
 
 void GlyphRow(const uint8_t* coverage, uint16_t* target, size_t count, uint16_t colour)
 {
-    for (size_t i = 0; i < count; ++i)
-        target[i] = GlyphPixel(colour, target[i], coverage[i]);
+    MapRow(GlyphRule{ coverage, colour }, target, count);
 }
+
+const RowKernels& Kernels()
+{
+    static constexpr RowKernels kernels = {
+        .copy = CopyRow,
+        .colorKey = SourceRow<ColorKeyRule>,
+        .add = SourceRow<AddRule>,
+        .sub = SourceRow<SubRule>,
+        .alpha = AlphaRow,
+        .alphaOpacity = AlphaOpacityRow,
+        .opacityColorKey = WeightedRow<OpacityColorKeyRule>,
+        .fadeToBlack = WeightedRow<FadeToBlackRule>,
+        .glyph = GlyphRow,
+        .toRgb555 = SourceRow<Rgb555Rule>,
+    };
+    return kernels;
+}
+}
+}
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace
+{
+HWY_EXPORT(Kernels);
+}
+
+const RowKernels& BestRowKernels()
+{
+    return HWY_DYNAMIC_DISPATCH(Kernels)();
+}
+#endif

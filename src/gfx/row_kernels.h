@@ -3,26 +3,29 @@
 #include <cstddef>
 #include <cstdint>
 
-// What the blit routines do to one row of `count` pixels. Rows of one image never overlap those of another, except
-// that CopyRow takes any.
+/// What the blit routines do to one row of `count` pixels. Nothing is written past the row's end, and nothing read
+/// there but what is said below. Rows of one image never overlap those of another, except that `copy` takes any.
+struct RowKernels {
+    using PixelRow = void (*)(const uint16_t* source, uint16_t* target, size_t count);
+    using AlphaRow = void (*)(const uint16_t* source, const uint8_t* alpha, uint16_t* target, size_t count);
+    using AlphaOpacityRow = void (*)(const uint16_t* source, const uint8_t* alpha, uint16_t* target, size_t count,
+                                     int scale);
+    using WeightedRow = void (*)(const uint16_t* source, uint16_t* target, size_t count, int weight);
+    using GlyphRow = void (*)(const uint8_t* coverage, uint16_t* target, size_t count, uint16_t colour);
 
-void CopyRow(const uint16_t* source, uint16_t* target, size_t count);
-void ColorKeyRow(const uint16_t* source, uint16_t* target, size_t count);
-void AddRow(const uint16_t* source, uint16_t* target, size_t count);
-void SubRow(const uint16_t* source, uint16_t* target, size_t count);
+    PixelRow copy;
+    PixelRow colorKey;
+    PixelRow add;
+    PixelRow sub;
+    /// Works in groups of four: a group whose alpha values are all 31 is copied. The last group's values count even
+    /// past the row's end, so `alpha` has `count` rounded up to 4 of them.
+    AlphaRow alpha;
+    AlphaOpacityRow alphaOpacity; ///< `scale` is the opacity's share of the alpha, 1 to 32
+    WeightedRow opacityColorKey;  ///< `weight` is what remains of the target, 0 to 32
+    WeightedRow fadeToBlack;      ///< `weight` is the black's, 0 (the source unchanged) to 32 (black)
+    GlyphRow glyph;               ///< `coverage` is 0 (empty) to 16 (full)
+    PixelRow toRgb555;
+};
 
-/// Works in groups of four: a group whose alpha values are all 31 is copied. The last group's values count even past
-/// the row's end, so `alpha` has `count` rounded up to 4 of them.
-void AlphaRow(const uint16_t* source, const uint8_t* alpha, uint16_t* target, size_t count);
-
-/// `scale` is the opacity's share of the alpha, 1 to 32.
-void AlphaOpacityRow(const uint16_t* source, const uint8_t* alpha, uint16_t* target, size_t count, int scale);
-
-/// `targetWeight` is what remains of the target, 0 to 32.
-void OpacityColorKeyRow(const uint16_t* source, uint16_t* target, size_t count, int targetWeight);
-
-/// `blackWeight` is 0 (the source unchanged) to 32 (black).
-void FadeToBlackRow(const uint16_t* source, uint16_t* target, size_t count, int blackWeight);
-
-/// `coverage` is 0 (empty) to 16 (full).
-void GlyphRow(const uint8_t* coverage, uint16_t* target, size_t count, uint16_t colour);
+/// The kernels for the best instruction set of this machine; all give the same pixels.
+const RowKernels& BestRowKernels();

@@ -1,5 +1,7 @@
 #include "gfx/blit.h"
 
+#include "support/instruction_sets.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -138,12 +140,11 @@ std::vector<uint16_t> Expected(const Routine& routine, const CImage& parent, con
     });
     return plane;
 }
-}
 
-TEST(Blits, EqualPlainReferencesAtRandomSizesAndClips)
+void CompareWithReferences()
 {
     Random random(20240607);
-    for (int round = 0; round < 6000; ++round) {
+    for (int round = 0; round < 3000; ++round) {
         const Routine& routine = routines[round % std::size(routines)];
         CImage parent;
         CImage target; // a view, so that pixels around it show what is written beside it
@@ -165,6 +166,12 @@ TEST(Blits, EqualPlainReferencesAtRandomSizesAndClips)
         routine.blit(target, source);
         ASSERT_EQ(PlaneOf(parent), expected) << routine.name << ", round " << round;
     }
+}
+}
+
+TEST(Blits, EqualPlainReferencesAtRandomSizesAndClips)
+{
+    OnEveryInstructionSet(CompareWithReferences);
 }
 
 TEST(Blits, DrawGlyphsByTheirCoverage)
