@@ -23,6 +23,12 @@ set_target_properties(turbojpeg PROPERTIES IMPORTED_LOCATION ${JPEG_DIR}/libturb
 target_include_directories(turbojpeg INTERFACE ${TERVALIS_SOURCES}/libjpeg-turbo)
 add_dependencies(turbojpeg libjpeg_turbo)
 
+# What finds out the processor's instruction sets; the kernels themselves are in the headers.
+set(HWY_DIR ${TERVALIS_SOURCES}/highway)
+add_library(hwy STATIC ${HWY_DIR}/hwy/targets.cc ${HWY_DIR}/hwy/per_target.cc)
+target_include_directories(hwy SYSTEM PUBLIC ${HWY_DIR})
+target_compile_options(hwy PRIVATE -w)
+
 set(HOST_TOOLS_DIR ${CMAKE_CURRENT_BINARY_DIR}/host_tools)
 ExternalProject_Add(host_tools
     SOURCE_DIR ${PROJECT_SOURCE_DIR}/cmake/host_tools

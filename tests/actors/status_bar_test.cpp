@@ -88,14 +88,14 @@ public:
         return true;
     }
     bool ShowsGoal(int y, int value) { return Shows(137, y, WHITE, value, true); }
-    long StripPixels(uint16_t colour)
+    ptrdiff_t StripPixels(uint16_t colour)
     {
-        long count = 0;
+        ptrdiff_t count = 0;
         for (int row = 0; row < backBuffer.height; ++row)
             count += std::count(backBuffer.Row(row), backBuffer.Row(row) + 160, colour);
         return count;
     }
-    long BarRows() { return StripPixels(PROGRESS) / 19; }
+    ptrdiff_t BarRows() { return StripPixels(PROGRESS) / 19; }
 
     /// The one that takes input.
     int OpenPanel()

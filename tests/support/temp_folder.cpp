@@ -1,19 +1,31 @@
 #include "support/temp_folder.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <stdexcept>
 
 namespace fs = std::filesystem;
 
+namespace
+{
+/// No other process has the folder: making one that exists already is no success.
+fs::path NewFolder()
+{
+    std::random_device random;
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        fs::path folder = fs::temp_directory_path() / ("tervalis-test-" + std::to_string(random()));
+        if (fs::create_directory(folder))
+            return folder;
+    }
+    throw std::runtime_error("no temporary folder");
+}
+}
+
 TempFolder::TempFolder() : before(fs::current_path().string())
 {
-    std::string pattern = (fs::temp_directory_path() / "tervalis-test-XXXXXX").string();
-    if (!mkdtemp(pattern.data()))
-        throw std::runtime_error("no temporary folder");
-    path = pattern;
+    path = NewFolder().string();
     fs::current_path(path);
 }
 
