@@ -34,7 +34,7 @@ protected:
     }
     /// The pages that take input, by name, in the order main, options, ranking, help1 to help4; "+" between them.
     std::string OpenPages() const;
-    std::string Log() const { return pictures.folder.Read("Log.txt"); }
+    std::string Log() const { return pictures.folder.ReadText("Log.txt"); }
 
     TestPictures pictures;
     CSectionMenu menu;

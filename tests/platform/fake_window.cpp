@@ -205,8 +205,9 @@ HANDLE WINAPI CreateMutexA(SECURITY_ATTRIBUTES*, BOOL, LPCSTR)
 {
     if (fake.Enter("CreateMutexA"))
         return nullptr;
+    const HANDLE mutex = NewFakeHandle();
     SetLastError(fake.otherCopyRuns ? ERROR_ALREADY_EXISTS : ERROR_SUCCESS);
-    return NewFakeHandle();
+    return mutex;
 }
 
 DWORD WINAPI GetModuleFileNameA(HMODULE, LPSTR path, DWORD size)

@@ -14,8 +14,8 @@ HKEY RedirectSettings()
     HKEY key = nullptr;
     RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
     RegDeleteTreeA(HKEY_CURRENT_USER, SCRATCH_KEY);
-    if (RegCreateKeyExA(HKEY_CURRENT_USER, SCRATCH_KEY, 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr, &key,
-                        nullptr) != 0 ||
+    if (RegCreateKeyExA(HKEY_CURRENT_USER, SCRATCH_KEY, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_ALL_ACCESS, nullptr,
+                        &key, nullptr) != 0 ||
         RegOverridePredefKey(HKEY_CURRENT_USER, key) != 0)
         throw std::runtime_error("no scratch settings");
     return key;
