@@ -3,6 +3,7 @@
 #include "app/globals.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <cstring>
 
 namespace
@@ -38,7 +39,7 @@ bool ShowKey(const MenuText& item, int key)
     }
     for (const NamedKey& named : namedKeys) {
         if (named.code == key) {
-            std::strcpy(item.text.get(), named.name);
+            std::snprintf(item.text.get(), MENU_TEXT_SIZE, "%s", named.name);
             return true;
         }
     }

@@ -14,7 +14,6 @@ using LONG = int32_t;
 using UINT = uint32_t;
 using HRESULT = int32_t;
 using ULONG = uint32_t;
-using COLORREF = uint32_t;
 using WPARAM = uintptr_t;
 using LPARAM = intptr_t;
 using LRESULT = intptr_t;
@@ -24,7 +23,6 @@ using LPSTR = char*;
 using LPVOID = void*;
 using LPCVOID = const void*;
 using LPDWORD = DWORD*;
-using LPBYTE = BYTE*;
 using HANDLE = void*;
 
 /// Handles are distinct pointer types, so that one kind cannot be passed for another.

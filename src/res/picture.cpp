@@ -5,7 +5,8 @@
 bool CreatePicture(CImage& image, int width, int height)
 {
     image.Free();
-    if (int64_t{ width } * height > MAX_PICTURE_PIXELS || !image.Create(width, height))
+    const bool hasPixels = width > 0 && height > 0;
+    if (!hasPixels || int64_t{ width } * height > MAX_PICTURE_PIXELS || !image.Create(width, height))
         return FailWith(ENGINE_CREATE_IMAGE);
     return true;
 }

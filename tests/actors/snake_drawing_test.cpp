@@ -64,6 +64,8 @@ TEST_F(SnakeDrawing, HeadAndBodyWrapAfterTheEntry)
     Snake().isDying = true;
     Snake().deathFrames = 20;
     EXPECT_EQ(Drawn(BODY), 3 * 8 * 8);
+    Snake().frameCount = 39;
+    EXPECT_EQ(Drawn(BODY), 8 * 8);
 }
 
 TEST_F(SnakeDrawing, ShadowWrapsFiveFramesLater)

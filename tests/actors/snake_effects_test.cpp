@@ -15,7 +15,7 @@ protected:
     {
         Snake().lastColour = colour;
         Snake().streak = 4;
-        PutSnakeBeforeGrid(11);
+        PutSnakeBeforeGrid(12);
         PutBerry(GRID_CELL, colour);
         Frame();
         EXPECT_EQ(Snake().streak, 0);
@@ -70,7 +70,7 @@ TEST_F(SnakeEffects, OrangeFiresALaserAlongTheHeading)
 TEST_F(SnakeEffects, PurplePopsHalfTheBody)
 {
     EatFifthOf(PURPLE);
-    for (const int expected : { 12, 11, 10, 9, 8, 7, 6, 6 }) { // 12 + 1 rounds down to six segments
+    for (const int expected : { 13, 12, 11, 10, 9, 8, 7, 6, 6 }) { // the larger half goes
         EXPECT_EQ(Snake().length, expected);
         Frame();
     }

@@ -101,6 +101,18 @@ TEST_P(SnakeCoil, RunsRoundItsCornersIntoTheHead)
 INSTANTIATE_TEST_SUITE_P(Movement, SnakeCoil,
                          testing::Values(CoilCase{ 3, 19 }, CoilCase{ 5, 35 }, CoilCase{ 24, 187 }));
 
+TEST_F(SnakeMovement, OfAStackOnlyTheTailWaitsToCoil)
+{
+    PutSnake(240, 240);
+    for (int i = 1; i < 5; ++i)
+        Snake().segments[i].y = 256;
+    Snake().SnakeGather();
+    Frames(8);
+    EXPECT_EQ(Rows(Snake()), (std::vector{ 240, 240, 240, 240, 256 }));
+    Frames(8);
+    EXPECT_EQ(Rows(Snake()), (std::vector(5, 240)));
+}
+
 TEST_F(SnakeMovement, KeepsBerriesSixCellsAway)
 {
     PutSnake(240, 240); // column 15, row 15

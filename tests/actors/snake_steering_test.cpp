@@ -60,11 +60,13 @@ TEST_F(SnakeSteering, TurnsOncePerGridPoint)
 TEST_F(SnakeSteering, WaitingSnakeLooksRoundUntilItsStartKey)
 {
     PutSnake(240, 240);
+    PutBerry(CellAt(240, 240), RED);
     Snake().isWaiting = true;
     Frame(DOWN); // even the reverse
     EXPECT_EQ(Head().dir, DOWN);
     Frame(RIGHT);
     EXPECT_TRUE(Snake().isWaiting);
+    EXPECT_EQ(Snake().score, 0) << "it does not eat";
     Frame(RIGHT);
     EXPECT_FALSE(Snake().isWaiting);
     EXPECT_EQ(Head().x, 240) << "it moves from the next frame on";

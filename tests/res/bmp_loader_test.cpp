@@ -136,6 +136,7 @@ TEST(BmpLoader, RefusesImpossibleHeaders)
     };
     for (const HeaderCase& c :
          { HeaderCase{ 3, -2, 24, ENGINE_CREATE_IMAGE }, HeaderCase{ -3, 2, 24, ENGINE_CREATE_IMAGE },
+           HeaderCase{ 0, 0x7FFFFFFF, 24, ENGINE_CREATE_IMAGE },
            HeaderCase{ 0x7FFFFFFF, 0x7FFFFFFF, 24, ENGINE_CREATE_IMAGE },
            HeaderCase{ 20000, 20000, 24, ENGINE_CREATE_IMAGE }, HeaderCase{ 3, 2, 32, ENGINE_LOAD_IMAGE },
            HeaderCase{ 3, 2, 0, ENGINE_LOAD_IMAGE }, HeaderCase{ 3, 1000, 24, ENGINE_LOAD_IMAGE } }) {

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 #include <vector>
 
 namespace
@@ -24,13 +25,10 @@ constexpr int FEARED_STEPS = 2; ///< how far ahead of the other's head it keeps
 constexpr int GOLD_WORTH = 30;
 constexpr int STREAK_WORTH = 100;
 constexpr int DETOUR = 40;
+constexpr int SPARED = 20;
 
+constexpr int STREAK_BEFORE_LASER = 4;
 constexpr int FEW_BERRIES = 10;
-
-bool IsFast(const CSnake& snake)
-{
-    return snake.speed == FAST_SPEED || snake.speedUpTimer > 0;
-}
 
 bool HasBerry(const Cell& cell)
 {
@@ -90,8 +88,10 @@ int Bot::KeyFor(int player, int frame)
     const int course = CourseOfKey(player, snake.segments[0].dir);
     const bool isReckless =
         (frame >= style.recklessFrom || pond.statusBar.level >= style.recklessLevel) && !snake.isWaiting;
-    const int wanted = isReckless ? CLOCKWISE[course] : WantedCourse(player);
-    if (wanted == NO_COURSE || (wanted == course && !snake.isWaiting))
+    int wanted = isReckless ? CLOCKWISE[course] : WantedCourse(player);
+    if (wanted == NO_COURSE)
+        wanted = course; // nowhere to go: a waiting snake starts nevertheless, it is safe at first
+    if (wanted == course && !snake.isWaiting)
         return 0;
     return static_cast<int>(testKeys[player][wanted]);
 }
@@ -106,13 +106,13 @@ int Bot::WantedCourse(int player)
     Survey(player);
     SearchFrom(start, snake.isWaiting ? NO_CELL : behind);
     roomNeeded = snake.length + SPARE_ROOM;
-    const int target = BestTarget(snake);
-    if (target != NO_TARGET) {
-        const int first = FirstCourseTo(target, start);
-        if (Room(Neighbour(start, first), start) >= roomNeeded)
-            return first;
+    if (style.firesAtGold && snake.lastColour == ORANGE && snake.streak == STREAK_BEFORE_LASER) {
+        const int aimed = CourseToAim(start);
+        if (aimed != NO_COURSE)
+            return aimed;
     }
-    return RoomiestCourse(start, behind);
+    const int target = BestTarget(snake, start);
+    return target != NO_TARGET ? FirstCourseTo(target, start) : RoomiestCourse(start, behind);
 }
 
 void Bot::Survey(int player)
@@ -172,70 +172,129 @@ void Bot::SearchFrom(int start, int forbiddenCell)
     }
 }
 
-int Bot::BestTarget(const CSnake& snake) const
+/// The berry to go for; one in a dead end only if there is no other.
+int Bot::BestTarget(const CSnake& snake, int start) const
 {
     std::array<int, GOLDEN + 1> costs{};
     for (int colour = 0; colour <= GOLDEN; ++colour)
         costs[static_cast<size_t>(colour)] = BerryCost(snake, colour);
-    int best = NO_TARGET;
-    int bestCost = UNREACHED;
+    std::vector<std::pair<int, int>> targets; // cost, cell
     for (int i = 0; i < CELL_COUNT; ++i) {
         const int walked = distance[static_cast<size_t>(i)];
-        if (!HasBerry(pond.cells[i]) || walked == 0 || walked == UNREACHED)
+        if (HasBerry(pond.cells[i]) && walked != 0 && walked != UNREACHED)
+            targets.emplace_back(walked + costs[static_cast<size_t>(pond.cells[i].colour)], i);
+    }
+    std::ranges::sort(targets);
+    for (const auto& [cost, cell] : targets) {
+        if (RoomBeyond(cell, start) >= roomNeeded)
+            return cell;
+    }
+    return targets.empty() ? NO_TARGET : targets.front().second;
+}
+
+/// Toward an orange berry from the side from which the laser that it sets off will strike a golden one.
+int Bot::CourseToAim(int start) const
+{
+    int best = NO_COURSE;
+    int bestDistance = UNREACHED;
+    for (int i = 0; i < CELL_COUNT * 4; ++i) {
+        const int course = i % 4;
+        const int berry = i / 4;
+        if (!pond.cells[berry].IsRipeBerry() || pond.cells[berry].colour != ORANGE || !IsGoldAhead(berry, course))
             continue;
-        const int cost = walked + costs[static_cast<size_t>(pond.cells[i].colour)];
-        if (cost < bestCost) {
-            best = i;
-            bestCost = cost;
-        }
+        const int approach = Neighbour(berry, static_cast<int>(courses[course].reverse));
+        const int walked = distance[static_cast<size_t>(approach)];
+        if (walked >= bestDistance)
+            continue;
+        best = approach == start ? course : FirstCourseTo(approach, start);
+        bestDistance = walked;
     }
     return best;
+}
+
+/// The first thing that a laser from that cell would strike is a golden berry.
+bool Bot::IsGoldAhead(int cell, int course) const
+{
+    int x = pond.cells[cell].x;
+    int y = pond.cells[cell].y;
+    while (true) {
+        x += courses[course].dx * CELL_SIZE;
+        y += courses[course].dy * CELL_SIZE;
+        if (x < 0 || x >= POND_SIZE || y < 0 || y >= POND_SIZE)
+            return false;
+        const Cell& next = pond.cells[CellAt(x, y)];
+        if (next.occupied)
+            return next.IsRipeBerry() && next.colour == GOLDEN;
+    }
 }
 
 /// Which colour to eat in a row now, for its effect; NO_COLOUR while there is not enough of any.
 int Bot::StreakColour(const CSnake& snake) const
 {
-    const int needed = std::ranges::count_if(pond.cells, HasBerry) < FEW_BERRIES ? 4 : 5;
+    const int needed = HasFewBerries() ? 4 : 5;
     if (snake.streak > 0 && snake.lastColour >= 0 && Supply(snake, snake.lastColour) >= needed)
         return snake.lastColour;
     int best = NO_COLOUR;
+    int bestWorth = 0;
     for (int colour = 0; colour < ORDINARY_COLOURS; ++colour) {
         const int worth = EffectWorth(snake, colour);
-        if (worth > 0 && Supply(snake, colour) >= needed && (best < 0 || worth > EffectWorth(snake, best)))
+        if (worth > bestWorth && Supply(snake, colour) >= needed) {
+            best = colour;
+            bestWorth = worth;
+        }
+    }
+    return best;
+}
+
+/// In no unit; 0 = not wanted. The more berries, the better everything goes: rain and fading stones bring them.
+int Bot::EffectWorth(const CSnake& snake, int colour) const
+{
+    if (style.firesAtGold && colour != ORANGE && colour != BLUE)
+        return 0;
+    const bool isSlow = snake.speed != FAST_SPEED && snake.speedUpTimer == 0;
+    switch (colour) {
+    case RED:
+        return isSlow && !HasFewBerries() ? 90 : 0;
+    case GREEN:
+        return pond.CountStones() >= 5 ? 70 : 0;
+    case BLUE:
+        return snake.rainTimer > 0 ? 10 : 80;
+    case ORANGE:
+        if (style.firesAtGold)
+            return 100;
+        return HasFewBerries() ? 0 : 20;
+    default:
+        return snake.length > 9 && !HasFewBerries() ? 4 * snake.length : 0;
+    }
+}
+
+/// The colour that is spared until there is enough of it.
+int Bot::SparedColour(const CSnake& snake) const
+{
+    int best = NO_COLOUR;
+    for (int colour = 0; colour < ORDINARY_COLOURS; ++colour) {
+        if (EffectWorth(snake, colour) >= 70 && (best == NO_COLOUR || Supply(snake, colour) > Supply(snake, best)))
             best = colour;
     }
     return best;
 }
 
-/// In no unit; 0 = not wanted.
-int Bot::EffectWorth(const CSnake& snake, int colour) const
+bool Bot::HasFewBerries() const
 {
-    switch (colour) {
-    case RED:
-        return IsFast(snake) ? 0 : 50;
-    case GREEN:
-        return pond.CountStones();
-    case BLUE:
-        return snake.rainTimer > 0 ? 10 : 40;
-    case ORANGE:
-        return 20;
-    default:
-        return snake.length > 9 ? 2 * snake.length : 0;
-    }
+    return std::ranges::count_if(pond.cells, HasBerry) < FEW_BERRIES;
 }
 
-/// What a berry of that colour costs now beside the way to it, in cells walked. Colours of which there are many are
-/// spared until there are enough for a streak.
+/// What a berry of that colour costs now beside the way to it, in cells walked.
 int Bot::BerryCost(const CSnake& snake, int colour) const
 {
     const int wanted = StreakColour(snake);
     if (colour == GOLDEN)
-        return style.sparesGold || snake.streak > 2 ? DETOUR : -GOLD_WORTH;
+        return style.firesAtGold || snake.streak > 2 ? DETOUR : -GOLD_WORTH;
     if (colour == wanted)
         return -STREAK_WORTH;
-    if (colour == RED && IsFast(snake))
-        return DETOUR;
-    return wanted == NO_COLOUR ? 3 * Supply(snake, colour) : 0;
+    if (colour == RED && snake.speed == FAST_SPEED)
+        return HasFewBerries() ? DETOUR / 2 : DETOUR;
+    return wanted == NO_COLOUR && colour == SparedColour(snake) ? SPARED : 0;
 }
 
 /// How many berries of a colour there are for a streak, those eaten for it included.
@@ -266,7 +325,9 @@ int Bot::RoomiestCourse(int start, int forbiddenCell) const
         const int cell = Neighbour(start, course);
         if (cell == forbiddenCell || freeFrom[static_cast<size_t>(cell)] > 1)
             continue;
-        const int room = Room(cell, start);
+        std::array<bool, CELL_COUNT> taken{};
+        taken[static_cast<size_t>(start)] = true;
+        const int room = Room(cell, taken);
         if (room > bestRoom) {
             best = course;
             bestRoom = room;
@@ -275,22 +336,29 @@ int Bot::RoomiestCourse(int start, int forbiddenCell) const
     return best;
 }
 
-/// How many cells a snake that steps from one cell to the next could reach, bodies taken as they lie; at most
-/// `roomNeeded`.
-int Bot::Room(int start, int from) const
+/// How many cells a snake that has gone from `start` to `end` could go on to.
+int Bot::RoomBeyond(int end, int start) const
 {
-    std::array<bool, CELL_COUNT> seen{};
-    seen[static_cast<size_t>(from)] = true;
-    seen[static_cast<size_t>(start)] = true;
+    std::array<bool, CELL_COUNT> taken{};
+    for (int cell = end; cell != start; cell = cameFrom[static_cast<size_t>(cell)])
+        taken[static_cast<size_t>(cell)] = true;
+    taken[static_cast<size_t>(start)] = true;
+    return Room(end, taken);
+}
+
+/// How many cells can be reached from a cell, bodies taken as they lie; counted up to `roomNeeded`.
+int Bot::Room(int start, std::array<bool, CELL_COUNT> taken) const
+{
+    taken[static_cast<size_t>(start)] = true;
     std::vector<int> open{ start };
     for (size_t next = 0; next < open.size() && open.size() < static_cast<size_t>(roomNeeded); ++next) {
         for (int course = 0; course < 4; ++course) {
             const auto to = static_cast<size_t>(Neighbour(open[next], course));
-            if (seen[to] || freeFrom[to] > 1)
+            if (taken[to] || freeFrom[to] > 1)
                 continue;
-            seen[to] = true;
+            taken[to] = true;
             open.push_back(static_cast<int>(to));
         }
     }
-    return std::min(static_cast<int>(open.size()), roomNeeded);
+    return static_cast<int>(open.size());
 }

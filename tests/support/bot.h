@@ -6,7 +6,7 @@
 
 /// How the bot plays.
 struct BotStyle {
-    bool sparesGold = false;     ///< leaves golden berries for lasers to strike
+    bool firesAtGold = false;    ///< collects orange berries for lasers, and leaves the golden ones for them to strike
     int recklessFrom = 1 << 30;  ///< frame from which it turns in circles until the game is over
     int recklessLevel = 1 << 30; ///< the same, from that level on
     int pauseAt = -100;          ///< frame in which it pauses the game for a second
@@ -31,14 +31,19 @@ private:
     void Survey(int player);
     void MarkBody(const CSnake& snake, int margin);
     void SearchFrom(int start, int forbiddenCell);
-    int BestTarget(const CSnake& snake) const;
+    int BestTarget(const CSnake& snake, int start) const;
     int BerryCost(const CSnake& snake, int colour) const;
     int StreakColour(const CSnake& snake) const;
     int EffectWorth(const CSnake& snake, int colour) const;
+    int SparedColour(const CSnake& snake) const;
+    bool HasFewBerries() const;
     int Supply(const CSnake& snake, int colour) const;
     int FirstCourseTo(int target, int start) const;
     int RoomiestCourse(int start, int forbiddenCell) const;
-    int Room(int start, int from) const;
+    int CourseToAim(int start) const;
+    bool IsGoldAhead(int cell, int course) const;
+    int RoomBeyond(int end, int start) const;
+    int Room(int start, std::array<bool, CELL_COUNT> taken) const;
 
     const CPond& pond;
     BotStyle style;

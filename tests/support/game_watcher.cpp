@@ -62,6 +62,7 @@ void GameWatcher::Look(const CPond& pond)
         Happened(GameEvent::PAUSE, now.isPaused && !last.isPaused);
         Happened(GameEvent::GAME_OVER, now.gameOver && !last.gameOver);
     }
-    level = std::max(level, static_cast<int>(pond.statusBar.level));
+    if (targets.empty() || targets.back() != pond.statusBar.target)
+        targets.push_back(pond.statusBar.target);
     last = now;
 }

@@ -3,6 +3,7 @@
 #include "game/pond.h"
 
 #include <array>
+#include <vector>
 
 /// What a recorded game is expected to show.
 enum class GameEvent : int {
@@ -35,7 +36,7 @@ public:
     void Look(const CPond& pond);
 
     int Count(GameEvent event) const { return counts[static_cast<size_t>(event)]; }
-    int Level() const { return level; } ///< the highest
+    const std::vector<int>& Targets() const { return targets; } ///< of the levels, in order
 
 private:
     struct SnakeView {
@@ -53,6 +54,6 @@ private:
     void CompareSnake(const SnakeView& before, const SnakeView& now);
 
     std::array<int, GAME_EVENTS> counts{};
-    int level = 1;
+    std::vector<int> targets;
     View last{};
 };

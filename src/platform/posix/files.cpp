@@ -10,7 +10,6 @@
 
 namespace
 {
-
 constexpr DWORD FAILED = 0xFFFFFFFF; ///< what sizes and positions are on failure
 
 struct OpenFile final : KernelObject {
@@ -63,8 +62,7 @@ std::optional<size_t> ReadFully(int descriptor, char* buffer, size_t size)
     }
     return done;
 }
-
-} // namespace
+}
 
 HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD, SECURITY_ATTRIBUTES*, DWORD disposition, DWORD, HANDLE)
 {

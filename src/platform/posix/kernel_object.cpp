@@ -2,10 +2,8 @@
 
 namespace
 {
-
 thread_local DWORD lastSystemError = ERROR_SUCCESS;
-
-} // namespace
+}
 
 DWORD GetLastError()
 {

@@ -15,6 +15,3 @@ HANDLE HandleOf(KernelObject* object);
 
 /// Null when the handle is none.
 KernelObject* ObjectOf(HANDLE handle);
-
-/// What GetLastError gives this thread from now on.
-void SetLastError(DWORD error);

@@ -10,7 +10,6 @@ namespace fs = std::filesystem;
 
 namespace
 {
-
 bool Exists(const fs::path& path)
 {
     std::error_code error;
@@ -30,8 +29,7 @@ std::string FindIgnoringCase(const fs::path& folder, const std::string& name)
     }
     return found;
 }
-
-} // namespace
+}
 
 std::string ResolvePath(const char* path)
 {

@@ -6,7 +6,6 @@
 
 namespace
 {
-
 /// The count of references that every object here has; the last one released destroys it.
 template <class Interface>
 class CCounted : public Interface
@@ -210,8 +209,7 @@ private:
     bool isExclusive = false;
     bool isFullScreen = false;
 };
-
-} // namespace
+}
 
 HRESULT DirectDrawCreate(GUID*, IDirectDraw** directDraw, IUnknown*)
 {

@@ -6,11 +6,11 @@
 #include "platform/sdl/native_window.h"
 #include "platform/sdl/window_state.h"
 
+#include <algorithm>
 #include <atomic>
 
 namespace
 {
-
 std::atomic<bool> focused = true;
 
 void LoseFocus()
@@ -24,6 +24,17 @@ void GainFocus()
 {
     focused = true;
     PostToWindow(WM_SETFOCUS, 0, 0);
+}
+
+/// SDL releases every key itself before it tells that the focus has gone. Taken for real, such a release of Alt+Enter
+/// would switch the display; LoseFocus releases the keys instead.
+bool IsFocusAboutToGo()
+{
+    constexpr int MOST = 16;
+    SDL_Event waiting[MOST];
+    const int count = SDL_PeepEvents(waiting, MOST, SDL_PEEKEVENT, SDL_WINDOWEVENT, SDL_WINDOWEVENT);
+    const auto losesFocus = [](const SDL_Event& event) { return event.window.event == SDL_WINDOWEVENT_FOCUS_LOST; };
+    return count > 0 && std::any_of(waiting, waiting + count, losesFocus);
 }
 
 /// The maximise box and a double click on the title are commands to the game, which covers the whole screen then.
@@ -60,8 +71,9 @@ void HandleEvent(const SDL_Event& event)
     case SDL_WINDOWEVENT:
         return HandleWindowEvent(event.window);
     case SDL_KEYDOWN:
-    case SDL_KEYUP:
         return HandleKey(event.key);
+    case SDL_KEYUP:
+        return IsFocusAboutToGo() ? void() : HandleKey(event.key);
     case SDL_TEXTINPUT:
         return HandleText(event.text.text);
     case SDL_MOUSEMOTION:
@@ -75,8 +87,7 @@ void HandleEvent(const SDL_Event& event)
         break;
     }
 }
-
-} // namespace
+}
 
 bool WindowHasFocus()
 {

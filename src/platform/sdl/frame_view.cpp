@@ -7,7 +7,6 @@
 
 namespace
 {
-
 void DestroyTexture(SDL_Texture*& texture)
 {
     if (texture)
@@ -20,8 +19,7 @@ int ScaleDown(int distance, int frameLength, int shownLength)
 {
     return static_cast<int>(std::floor(static_cast<double>(distance) * frameLength / shownLength));
 }
-
-} // namespace
+}
 
 SDL_Rect FitFrame(SDL_Point frame, SDL_Point area)
 {

@@ -6,7 +6,6 @@
 
 namespace
 {
-
 constexpr DWORD RGB565_MASKS[] = { 0xF800, 0x07E0, 0x001F };
 
 NativeWindow* WindowOfContext(HDC context)
@@ -30,8 +29,7 @@ int RowBytes(LONG width)
 {
     return (width * 2 + 3) / 4 * 4;
 }
-
-} // namespace
+}
 
 HDC GetDC(HWND window)
 {

@@ -7,7 +7,6 @@
 
 namespace
 {
-
 /// The code under which each key went down, 0 while it is up. Its release has the same one, even if NumLock or the
 /// layout changed between.
 std::array<int, SDL_NUM_SCANCODES> heldCodes = {};
@@ -47,7 +46,7 @@ void PostCharacter(WPARAM character)
 void PostControlCharacter(int code, bool control)
 {
     if (control && code >= 'A' && code <= 'Z')
-        return PostCharacter(static_cast<WPARAM>(code - 'A' + 1));
+        return PostCharacter(static_cast<WPARAM>(code & 0x1F));
     for (const ControlCharacter& row : controlCharacters) {
         const WPARAM character = control ? row.withControl : row.plain;
         if (row.key == code && character != 0)
@@ -87,8 +86,7 @@ bool IsCommandText()
     const bool control = heldCodes[SDL_SCANCODE_LCTRL] || heldCodes[SDL_SCANCODE_RCTRL];
     return !heldCodes[SDL_SCANCODE_RALT] && (control || heldCodes[SDL_SCANCODE_LALT]);
 }
-
-} // namespace
+}
 
 void HandleKey(const SDL_KeyboardEvent& event)
 {

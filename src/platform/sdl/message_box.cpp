@@ -6,10 +6,8 @@
 
 namespace
 {
-
 constexpr int IDOK = 1;
-
-} // namespace
+}
 
 int MessageBoxA(HWND, LPCSTR text, LPCSTR title, UINT type)
 {

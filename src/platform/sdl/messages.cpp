@@ -10,7 +10,6 @@
 
 namespace
 {
-
 std::deque<MSG> queue;
 std::optional<int> quitCode;
 
@@ -39,8 +38,7 @@ LRESULT SystemCommand(HWND window, WPARAM command)
     }
     return 0;
 }
-
-} // namespace
+}
 
 void PostToWindow(UINT message, WPARAM wParam, LPARAM lParam)
 {

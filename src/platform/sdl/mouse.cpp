@@ -5,7 +5,6 @@
 
 namespace
 {
-
 struct ButtonMessages {
     Uint8 button;
     UINT down;
@@ -22,8 +21,7 @@ LPARAM PositionWord(int x, int y)
     const POINT position = nativeWindow.view.FramePosition(x, y);
     return MAKELPARAM(position.x, position.y);
 }
-
-} // namespace
+}
 
 void HandleMotion(const SDL_MouseMotionEvent& event)
 {

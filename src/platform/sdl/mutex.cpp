@@ -11,7 +11,6 @@
 
 namespace
 {
-
 /// A lock on a file. The system drops it when the descriptor is closed, also by the process's death. The file itself
 /// stays: removing it would let a third process lock a new file while a second one still holds the old.
 struct NamedMutex final : KernelObject {
@@ -51,8 +50,7 @@ int OpenLockFile(const std::string& path)
     close(descriptor);
     return -1;
 }
-
-} // namespace
+}
 
 HANDLE CreateMutexA(SECURITY_ATTRIBUTES*, BOOL, LPCSTR name)
 {

@@ -14,7 +14,8 @@ struct NativeWindow {
     SDL_Point clientSize = {};     ///< pixels, as the game set it; the window manager may have another mind
     SDL_Point clientPosition = {}; ///< pixels on the desktop, as the game set it last
     SDL_Point refusedSize = {};    ///< what the window manager made of it instead
-    int refusals = 0;              ///< how often it gave `refusedSize` in a row
+    int refusals = 0;              ///< how often it gave `refusedSize` in quick succession
+    Uint32 refusalTime = 0;        ///< of the last one, ms
     int titleHeight = 0;           ///< of the real frame before full screen, pixels
     bool closing = false;          ///< WM_DESTROY is under way
     CFrameView view;
@@ -27,6 +28,9 @@ HWND NativeHandle();
 
 /// Null when the handle is not the open window's.
 NativeWindow* WindowOf(HWND window);
+
+/// Sizes the client area and the frame shown in it, pixels.
+void SetClientSize(NativeWindow& window, SDL_Point size);
 
 /// Gives the window the size that the game set, after the user or the window manager changed it.
 void KeepClientSize();

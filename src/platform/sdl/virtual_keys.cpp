@@ -7,7 +7,6 @@
 
 namespace
 {
-
 constexpr int VK_CLEAR = 0x0C;
 constexpr int VK_OEM_102 = 0xE2;
 
@@ -128,8 +127,7 @@ int CodeByPosition(SDL_Scancode position)
     const auto* key = std::ranges::find(keyCodes, position, &KeyCode::position);
     return key == std::end(keyCodes) ? 0 : key->code;
 }
-
-} // namespace
+}
 
 int VirtualKey(const SDL_Keysym& key)
 {

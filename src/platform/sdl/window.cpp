@@ -1,4 +1,3 @@
-#include "platform/gdi.h"
 #include "platform/sdl/events.h"
 #include "platform/sdl/native_window.h"
 #include "platform/sdl/screen.h"
@@ -6,11 +5,8 @@
 #include <algorithm>
 #include <cstdio>
 
-NativeWindow nativeWindow;
-
 namespace
 {
-
 /// Title and border of the windows as the game reckons with them, pixels. The window manager's own may differ by a
 /// few pixels; SDL places and sizes windows by their client area, so that only the centring is off by that much.
 constexpr RECT FRAME = { 4, 26, 4, 4 };
@@ -27,11 +23,6 @@ SDL_Point ClientSize(int width, int height, DWORD style)
 {
     const RECT frame = FrameOf(style);
     return { std::max<int>(1, width - frame.left - frame.right), std::max<int>(1, height - frame.top - frame.bottom) };
-}
-
-bool SameSize(SDL_Point a, SDL_Point b)
-{
-    return a.x == b.x && a.y == b.y;
 }
 
 void SetHints()
@@ -63,15 +54,6 @@ void CloseWindow()
     SDL_QuitSubSystem(SDL_INIT_VIDEO);
 }
 
-void SetClientSize(NativeWindow& window, SDL_Point size)
-{
-    window.clientSize = size;
-    window.refusals = 0;
-    SDL_SetWindowSize(window.handle, size.x, size.y);
-    SDL_SetWindowMinimumSize(window.handle, size.x, size.y);
-    window.view.SetFrameSize(size);
-}
-
 /// A window manager takes the position of a window that it has not seen yet as that of the frame it will put around it.
 void SetOuterPosition(NativeWindow& window, int x, int y)
 {
@@ -92,67 +74,6 @@ void ShowFirstTime(NativeWindow& window)
     SDL_SetWindowPosition(window.handle, window.clientPosition.x, window.clientPosition.y);
     window.view.Show();
 }
-
-/// What the window manager has put above the client area, pixels; 0 where that is not known.
-int TitleHeight(SDL_Window* handle)
-{
-    int top = 0;
-    SDL_GetWindowBordersSize(handle, &top, nullptr, nullptr, nullptr);
-    return top;
-}
-
-/// SDL places client areas by the frame it knows, and after full screen the window manager first has to put one on
-/// again. Not for long: some never do.
-void AwaitTitle(const NativeWindow& window)
-{
-    constexpr int ATTEMPTS = 50;
-    constexpr Uint32 PAUSE_MS = 4;
-    for (int i = 0; i < ATTEMPTS && TitleHeight(window.handle) != window.titleHeight; ++i) {
-        SDL_Delay(PAUSE_MS);
-        SDL_PumpEvents();
-    }
-}
-
-} // namespace
-
-HWND NativeHandle()
-{
-    return reinterpret_cast<HWND>(&nativeWindow);
-}
-
-NativeWindow* WindowOf(HWND window)
-{
-    return window == NativeHandle() && nativeWindow.handle ? &nativeWindow : nullptr;
-}
-
-void KeepClientSize()
-{
-    // A border that is being dragged ends at its last size once more when it is let go.
-    constexpr int MOST_REFUSALS = 3;
-    SDL_Point now = {};
-    SDL_GetWindowSize(nativeWindow.handle, &now.x, &now.y);
-    const bool isOwnSize = SDL_GetWindowFlags(nativeWindow.handle) & (SDL_WINDOW_FULLSCREEN | SDL_WINDOW_MAXIMIZED);
-    if (isOwnSize || SameSize(now, nativeWindow.clientSize))
-        return;
-    nativeWindow.refusals = SameSize(now, nativeWindow.refusedSize) ? nativeWindow.refusals + 1 : 1;
-    nativeWindow.refusedSize = now;
-    // A tiling window manager insists on its size; the frame is then scaled to it.
-    if (nativeWindow.refusals <= MOST_REFUSALS)
-        SDL_SetWindowSize(nativeWindow.handle, nativeWindow.clientSize.x, nativeWindow.clientSize.y);
-}
-
-bool EnterFullScreen(NativeWindow& window, SDL_Point frameSize)
-{
-    window.titleHeight = TitleHeight(window.handle);
-    return window.view.SetFrameSize(frameSize) &&
-           SDL_SetWindowFullscreen(window.handle, SDL_WINDOW_FULLSCREEN_DESKTOP) == 0;
-}
-
-void LeaveFullScreen(NativeWindow& window)
-{
-    SDL_SetWindowFullscreen(window.handle, 0);
-    AwaitTitle(window);
-    SetClientSize(window, window.clientSize);
 }
 
 ATOM RegisterClassA(const WNDCLASSA* windowClass)

@@ -1,0 +1,85 @@
+#include "platform/sdl/native_window.h"
+
+NativeWindow nativeWindow;
+
+namespace
+{
+bool SameSize(SDL_Point a, SDL_Point b)
+{
+    return a.x == b.x && a.y == b.y;
+}
+
+/// What the window manager has put above the client area, pixels; 0 where that is not known.
+int TitleHeight(SDL_Window* handle)
+{
+    int top = 0;
+    SDL_GetWindowBordersSize(handle, &top, nullptr, nullptr, nullptr);
+    return top;
+}
+
+/// SDL places client areas by the frame it knows, and after full screen the window manager first has to put one on
+/// again. Not for long: some never do.
+void AwaitTitle(const NativeWindow& window)
+{
+    constexpr int ATTEMPTS = 50;
+    constexpr Uint32 PAUSE_MS = 4;
+    for (int i = 0; i < ATTEMPTS && TitleHeight(window.handle) != window.titleHeight; ++i) {
+        SDL_Delay(PAUSE_MS);
+        SDL_PumpEvents();
+    }
+}
+}
+
+HWND NativeHandle()
+{
+    return reinterpret_cast<HWND>(&nativeWindow);
+}
+
+NativeWindow* WindowOf(HWND window)
+{
+    return window == NativeHandle() && nativeWindow.handle ? &nativeWindow : nullptr;
+}
+
+void SetClientSize(NativeWindow& window, SDL_Point size)
+{
+    window.clientSize = size;
+    window.refusals = 0;
+    SDL_SetWindowSize(window.handle, size.x, size.y);
+    SDL_SetWindowMinimumSize(window.handle, size.x, size.y);
+    window.view.SetFrameSize(size);
+}
+
+void KeepClientSize()
+{
+    // A border that is being dragged ends at its last size once more when it is let go.
+    constexpr int MOST_REFUSALS = 3;
+    constexpr Uint32 IN_A_ROW_MS = 1000;
+    SDL_Point now = {};
+    SDL_GetWindowSize(nativeWindow.handle, &now.x, &now.y);
+    const bool isOwnSize = SDL_GetWindowFlags(nativeWindow.handle) & (SDL_WINDOW_FULLSCREEN | SDL_WINDOW_MAXIMIZED);
+    if (isOwnSize || SameSize(now, nativeWindow.clientSize))
+        return;
+    const Uint32 time = SDL_GetTicks();
+    const bool again = SameSize(now, nativeWindow.refusedSize) && time - nativeWindow.refusalTime < IN_A_ROW_MS;
+    nativeWindow.refusals = again ? nativeWindow.refusals + 1 : 1;
+    nativeWindow.refusedSize = now;
+    nativeWindow.refusalTime = time;
+    // A tiling window manager insists on its size; the frame is then scaled to it.
+    if (nativeWindow.refusals <= MOST_REFUSALS)
+        SDL_SetWindowSize(nativeWindow.handle, nativeWindow.clientSize.x, nativeWindow.clientSize.y);
+}
+
+bool EnterFullScreen(NativeWindow& window, SDL_Point frameSize)
+{
+    window.titleHeight = TitleHeight(window.handle);
+    return window.view.SetFrameSize(frameSize) &&
+           SDL_SetWindowFullscreen(window.handle, SDL_WINDOW_FULLSCREEN_DESKTOP) == 0;
+}
+
+void LeaveFullScreen(NativeWindow& window)
+{
+    SDL_SetWindowFullscreen(window.handle, 0);
+    if (!window.closing)
+        AwaitTitle(window);
+    SetClientSize(window, window.clientSize);
+}
