@@ -3,6 +3,7 @@
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config libsdl2-dev libfreetype-dev libfontconfig-dev libturbojpeg0-dev
     libtomlplusplus-dev libpng-dev libhwy-dev fonts-dejavu-core"
 TEST_PACKAGES="libgtest-dev xvfb xdotool imagemagick openbox x11-utils"
+BENCH_PACKAGES="libbenchmark-dev libpixman-1-dev python3"
 CHECK_PACKAGES="clang-format"
 
 say() { printf '%s\n' "$*" >&2; }

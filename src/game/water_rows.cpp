@@ -4,6 +4,7 @@
 
 #include "game/water_rules.h"
 
+#include <algorithm>
 #include <cstddef>
 
 #undef HWY_TARGET_INCLUDE
@@ -151,7 +152,7 @@ void ApplyToRow(const Rule& rule, int count)
     // Vectors take what the run of samples has left of the first one.
     const bool isRun = rule.current.left == rule.current.samples[-1];
     int x = 0;
-    for (; x < (isRun ? 0 : WATER_GROUP); ++x)
+    for (; !isRun && x < std::min(WATER_GROUP, count); ++x)
         rule.Sample(x);
     x = ApplyVectors(hn::ScalableTag<int16_t>(), rule, x, count);
     x = ApplyVectors(hn::CappedTag<int16_t, 16>(), rule, x, count);

@@ -14,6 +14,9 @@ namespace
 constexpr int64_t PIXEL_SLACK = 4;
 constexpr int64_t ALPHA_SLACK = 3;
 
+/// A cache line, the widest a vector can be: rows of 640 and 480 pixels then never split one.
+constexpr std::align_val_t PLANE_ALIGNMENT{ 64 };
+
 /// Offsets into a plane fit into an int.
 constexpr int64_t MAX_PLANE_BYTES = std::numeric_limits<int32_t>::max() - 7;
 
@@ -42,7 +45,7 @@ void CImage::Free()
 void CImage::ReleasePixels()
 {
     if (!pixelsBorrowed)
-        delete[] pixels;
+        operator delete[](pixels, PLANE_ALIGNMENT);
     pixels = nullptr;
     pixelsBorrowed = false;
 }
@@ -50,7 +53,7 @@ void CImage::ReleasePixels()
 void CImage::ReleaseAlpha()
 {
     if (!alphaBorrowed)
-        delete[] alpha;
+        operator delete[](alpha, PLANE_ALIGNMENT);
     alpha = nullptr;
     alphaBorrowed = false;
 }
@@ -63,7 +66,7 @@ bool CImage::AllocatePixels(int newWidth, int newHeight)
     const int64_t planeBytes = rowBytes * newHeight;
     if (newWidth < 0 || newHeight < 0 || rowBytes > MAX_PLANE_BYTES || planeBytes > MAX_PLANE_BYTES)
         return FailWith(ENGINE_ALLOCATE_MEMORY);
-    pixels = new (std::nothrow) uint16_t[static_cast<size_t>(planeBytes / 2 + PIXEL_SLACK)]();
+    pixels = new (PLANE_ALIGNMENT, std::nothrow) uint16_t[static_cast<size_t>(planeBytes / 2 + PIXEL_SLACK)]();
     if (!pixels)
         return FailWith(ENGINE_ALLOCATE_MEMORY);
     width = newWidth;
@@ -82,7 +85,7 @@ bool CImage::CreateAlpha()
 {
     ReleaseAlpha();
     const int64_t planeBytes = int64_t{ pitch } / 2 * height + ALPHA_SLACK;
-    alpha = new (std::nothrow) uint8_t[static_cast<size_t>(planeBytes)]();
+    alpha = new (PLANE_ALIGNMENT, std::nothrow) uint8_t[static_cast<size_t>(planeBytes)]();
     return alpha || FailWith(ENGINE_ALLOCATE_MEMORY);
 }
 

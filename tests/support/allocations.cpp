@@ -14,13 +14,27 @@ int AllocationCount()
     return allocations;
 }
 
-// The other forms of `new` call this one.
+// The other forms of `new` call these two.
 void* operator new(size_t size)
 {
     ++allocations;
     if (void* memory = std::malloc(size != 0 ? size : 1))
         return memory;
     throw std::bad_alloc();
+}
+
+void* operator new(size_t size, std::align_val_t alignment)
+{
+    ++allocations;
+    const size_t unit = static_cast<size_t>(alignment);
+    if (void* memory = std::aligned_alloc(unit, (size + unit - 1) / unit * unit))
+        return memory;
+    throw std::bad_alloc();
+}
+
+void operator delete(void* memory, std::align_val_t) noexcept
+{
+    std::free(memory);
 }
 
 void operator delete(void* memory) noexcept

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "gfx/image.h"
+
+#include <benchmark/benchmark.h>
+
+#include <functional>
+#include <string>
+
+/// Work to be timed, with all it works on.
+using Work = std::function<void()>;
+
+/// Fills the image with runs of random pixels and of transparent ones, and with random alpha values: no shortcut
+/// helps.
+void MakeTestImage(CImage& image, int width, int height, unsigned seed);
+
+/// A copy of that many bytes from one place to another, as memcpy does it.
+Work CopyBytes(size_t bytes);
+
+/// Registers a benchmark that makes its work and times it, on the best instruction set.
+void AddBenchmark(const std::string& name, std::function<Work()> makeWork);
+
+/// The same on the form that works pixel by pixel.
+void AddPlainBenchmark(const std::string& name, std::function<Work()> makeWork);
