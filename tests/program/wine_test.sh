@@ -34,6 +34,18 @@ has_setting() {
         grep -qE "REG_DWORD +0x$(printf %x "$2")\$"
 }
 
+windowName='^Tervalis$'
+find_window() {
+    window=$(xdotool search --onlyvisible --name "$windowName" 2>/dev/null)
+    [ -n "$window" ]
+}
+
+# desktop_is WIDTHxHEIGHT: the display mode, on Wine's own desktop.
+desktop_is() {
+    IFS=+ read -r size viewLeft viewTop <<<"$(place)"
+    [ "$size" = "$1" ]
+}
+
 # keep NAME: a screenshot for the eye.
 keep() { [ -z "$shots" ] || shot "$WHOLE" "$folder/keep" && convert "ppm:$folder/keep" "$shots/$1.png"; }
 
@@ -94,4 +106,30 @@ step "The end"
 click 437 397 "the program ends" has_ended
 expect_end
 has_setting "Up 1" 73 || fail "the registry has lost a key"
+step "Full screen"
+wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d own /f >/dev/null 2>&1
+wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v own /d 1024x768 /f >/dev/null 2>&1
+windowName='Wine desktop$'
+start_program
+await "the desktop is as it was" desktop_is 1024x768
+press_alt_enter
+await "the display mode changes" desktop_is 640x480
+await "the menu in full screen" shows_menu
+keep full_screen
+press_alt_enter
+await "the display mode is given back" desktop_is 1024x768
+logged_times "Windowed -> Full Screen" 1 && logged_times "Full Screen -> Windowed" 1 || fail "the log of the switches"
+press_alt_enter
+await "the display mode changes again" desktop_is 640x480
+await "the menu in full screen" shows_menu
+click 437 397 "the program ends" has_ended
+expect_end
+has_setting Windowed 0 || fail "the registry lacks the mode"
+
+step "A start in full screen"
+start_program
+await "the display mode changes" desktop_is 640x480
+await "the menu in full screen" shows_menu
+click 437 397 "the program ends" has_ended
+expect_end
 echo "The Windows program does what it should."
