@@ -3,7 +3,7 @@
 // To be run after a wanted change of play. It reports what happens in each game; another seed may be needed for one to
 // show again all that the test asks of it.
 
-#include "support/bot.h"
+#include "bot.h"
 #include "support/game_watcher.h"
 #include "support/recorded_game.h"
 #include "support/state_checksum.h"

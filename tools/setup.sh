@@ -2,11 +2,11 @@
 
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config libsdl2-dev libfreetype-dev libfontconfig-dev libturbojpeg0-dev
     libtomlplusplus-dev libpng-dev libhwy-dev fonts-dejavu-core"
-TEST_PACKAGES="libgtest-dev xvfb xdotool imagemagick openbox x11-utils"
+TEST_PACKAGES="libgtest-dev xvfb xdotool imagemagick openbox x11-utils wmctrl python3"
 BENCH_PACKAGES="libbenchmark-dev libpixman-1-dev python3"
 WINDOWS_PACKAGES="g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build nasm dpkg-dev googletest"
 WINE_PACKAGES="wine wine64 xvfb xdotool imagemagick openbox x11-utils wmctrl"
-CHECK_PACKAGES="clang-format"
+CHECK_PACKAGES="clang-format clang-tidy"
 
 say() { printf '%s\n' "$*" >&2; }
 
@@ -21,8 +21,8 @@ missing_packages() {
 install_packages() {
     if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
         say "This is no Debian relative: nothing was installed. The build needs a C++20 compiler, CMake 3.25, Ninja,"
-        say "pkg-config and the development files of SDL2, FreeType, fontconfig, TurboJPEG, toml++, libpng and"
-        say "Highway; the tests also need GoogleTest, Xvfb, xdotool, ImageMagick and openbox."
+        say "pkg-config and the development files of SDL2, FreeType, fontconfig, TurboJPEG, toml++, libpng and Highway;"
+        say "the tests also need GoogleTest, Xvfb, xdotool, wmctrl, ImageMagick, openbox, Python and X11's utilities."
         return 0
     fi
     local missing

@@ -1,12 +1,14 @@
 #!/usr/bin/env bash
 # Unpacks the Windows program's archive and runs it under Wine on a virtual screen: loading, menu, a game steered with
 # keys, full screen, quit; checks log, registry and screen.
+# Ends by itself: every wait has its limit, and ctest has one for all.
 #     wine_test.sh ARCHIVE FOLDER_OF_THE_PICTURES [FOLDER_FOR_SCREENSHOTS]
 unpacked=$(mktemp -d)
 archive=$1
 shots=${3:-}
 cmake -E chdir "$unpacked" cmake -E tar xf "$archive"
 mv "$unpacked"/*/* "$unpacked/"
+# shellcheck disable=SC2016 # for the script that is written
 printf '#!/bin/sh\nexec wine "${0%%/*}/tervalis.exe"\n' >"$unpacked/tervalis"
 chmod +x "$unpacked/tervalis"
 

@@ -74,6 +74,19 @@ void ShowFirstTime(NativeWindow& window)
     SDL_SetWindowPosition(window.handle, window.clientPosition.x, window.clientPosition.y);
     window.view.Show();
 }
+
+/// The release of a button goes elsewhere once the window has gone, SDL then takes the button as held, and the next
+/// press would be lost. Not for long: whoever keeps holding it wants something else.
+void AwaitReleasedMouse()
+{
+    constexpr Uint32 LONGEST_MS = 1000;
+    constexpr Uint32 PAUSE_MS = 4;
+    const Uint32 start = SDL_GetTicks();
+    while (SDL_GetMouseState(nullptr, nullptr) != 0 && SDL_GetTicks() - start < LONGEST_MS) {
+        SDL_Delay(PAUSE_MS);
+        SDL_PumpEvents();
+    }
+}
 }
 
 ATOM RegisterClassA(const WNDCLASSA* windowClass)
@@ -123,6 +136,7 @@ BOOL ShowWindow(HWND handle, int command)
         return FALSE;
     const bool wasVisible = window->style & WS_VISIBLE;
     if (command == SW_MINIMIZE) {
+        AwaitReleasedMouse();
         SDL_MinimizeWindow(window->handle);
         return wasVisible;
     }

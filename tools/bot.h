@@ -4,6 +4,12 @@
 
 #include <array>
 
+constexpr int NO_COURSE = -1; ///< else a row of `courses`
+
+/// The cell beside, across the pond's edge too.
+int Neighbour(int cell, int course);
+bool HasBerry(const Cell& cell);
+
 /// How the bot plays.
 struct BotStyle {
     bool firesAtGold = false;    ///< collects orange berries for lasers, and leaves the golden ones for them to strike
