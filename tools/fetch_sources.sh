@@ -41,6 +41,10 @@ for package in $packages; do
     [ -d "$target/$package" ] || missing="$missing $package"
 done
 [ -n "$missing" ] || exit 0
+if ! command -v apt-get >/dev/null; then
+    say "This is no Debian relative: put the sources of$missing into build/sources, each in a folder of that name."
+    exit 1
+fi
 say "Fetching the sources of$missing"
 prepare_lists
 for package in $missing; do
