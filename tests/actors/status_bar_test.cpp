@@ -153,10 +153,11 @@ TEST(StatusBar, OpensAndLeavesItsPanelsByKeysAndMouse)
         { { CLICK_QUIT, CLICK_LEFT }, QUIT },
     };
     BarGame run;
-    for (const auto& [steps, open] : cases) {
+    for (const auto& row : cases) {
+        const auto& [steps, open] = row;
         run.Restart();
         run.PlayAll(steps);
-        SCOPED_TRACE("case " + std::to_string(&steps - &cases[0].steps));
+        SCOPED_TRACE("case " + std::to_string(&row - cases));
         EXPECT_EQ(requestedSection, open == QUIT ? &sectionMenu : nullptr);
         EXPECT_EQ(captureScreen, steps[0].key != 'X') << "the still to show meanwhile";
         EXPECT_EQ(run.snake.isPaused, open != PANEL_LEFT);
