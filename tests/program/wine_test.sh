@@ -6,8 +6,7 @@
 unpacked=$(mktemp -d)
 archive=$1
 shots=${3:-}
-cmake -E chdir "$unpacked" cmake -E tar xf "$archive"
-mv "$unpacked"/*/* "$unpacked/"
+cmake -E chdir "$unpacked" cmake -E tar xf "$archive" && mv "$unpacked"/*/* "$unpacked/" || exit 1
 # shellcheck disable=SC2016 # for the script that is written
 printf '#!/bin/sh\nexec wine "${0%%/*}/tervalis.exe"\n' >"$unpacked/tervalis"
 chmod +x "$unpacked/tervalis"
