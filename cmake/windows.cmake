@@ -3,7 +3,7 @@ enable_language(RC)
 add_link_options(-static $<$<CONFIG:Release>:-s>)
 include(cmake/windows_libraries.cmake)
 
-# GCC aligns the stack to 16 bytes only on 64-bit Windows, and yet keeps vectors of 32 and 64 there with aligned moves.
+# On 64-bit Windows GCC aligns the stack to 16 bytes, yet moves vectors of 32 and 64 bytes as if it were aligned to them.
 add_compile_options(-Wa,-muse-unaligned-vector-move)
 
 # No functions marked as imported: so they are called by their names, in which the tests' fake can answer.
