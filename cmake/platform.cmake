@@ -1,5 +1,10 @@
 # The platform layer: on Windows the system's own libraries, elsewhere ours on SDL2, FreeType and fontconfig.
 # tervalis_platform_base needs neither window nor sound device; the tests' fake platform stands on it too.
+if(WIN32)
+    include(cmake/windows.cmake)
+    return()
+endif()
+
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(SDL2 REQUIRED IMPORTED_TARGET sdl2)
 pkg_check_modules(FREETYPE REQUIRED IMPORTED_TARGET freetype2)

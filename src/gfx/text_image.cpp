@@ -51,8 +51,9 @@ bool RenderGlyph(CGlyph& glyph, HDC dc, uint32_t code, int ascent)
     const DWORD size = GetGlyphOutlineA(dc, code, GGO_GRAY4_BITMAP, &metrics, 0, nullptr, &identity);
     if (size == GDI_ERROR || !ReserveBits(glyph, size + GLYPH_SLACK))
         return false;
-    if (GetGlyphOutlineA(dc, code, GGO_GRAY4_BITMAP, &metrics, glyph.bufferSize, glyph.bits.get(), &identity) ==
-        GDI_ERROR)
+    // A blank has nothing to fetch, and some systems call the attempt an error.
+    if (size != 0 && GetGlyphOutlineA(dc, code, GGO_GRAY4_BITMAP, &metrics, glyph.bufferSize, glyph.bits.get(),
+                                      &identity) == GDI_ERROR)
         return false;
     glyph.width = size != 0 ? static_cast<int32_t>(metrics.gmBlackBoxX + 3) & ~3 : 0;
     glyph.height = size != 0 ? static_cast<int32_t>(metrics.gmBlackBoxY) : 0;

@@ -179,13 +179,13 @@ TEST_F(GameTest, SwitchesBetweenWindowAndFullScreen)
         { WM_NCLBUTTONDBLCLK, HTCAPTION, false, "Windowed -> Full Screen\n" },
         { WM_SYSCOMMAND, SC_MINIMIZE, false, "" },
     };
-    std::string log = folder.Read("Log.txt");
+    std::string log = folder.ReadText("Log.txt");
     for (const Step& step : steps) {
         fake.Send(step.message, step.wParam);
         log += step.log;
         EXPECT_EQ(isWindowed, step.windowed);
         EXPECT_EQ(fake.fullScreen, !step.windowed);
-        EXPECT_EQ(folder.Read("Log.txt"), log);
+        EXPECT_EQ(folder.ReadText("Log.txt"), log);
     }
 }
 
@@ -206,7 +206,7 @@ TEST_F(GameTest, DestroyingTheWindowEndsTheRunningScene)
     EXPECT_EQ(scene.ends, 1);
     EXPECT_TRUE(fake.quitPosted);
     EXPECT_TRUE(fake.messageBoxes.empty());
-    EXPECT_TRUE(folder.Read("Log.txt").ends_with("CGame::Destroy\n"));
+    EXPECT_TRUE(folder.ReadText("Log.txt").ends_with("CGame::Destroy\n"));
 }
 
 TEST(GameStart, ASecondCopyOrAFailedStartEndsTheProgram)

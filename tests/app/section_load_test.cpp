@@ -2,6 +2,7 @@
 
 #include "app/globals.h"
 #include "app/log.h"
+#include "game/pond.h"
 #include "gfx/error.h"
 #include "menu/section_menu.h"
 #include "support/game_fixture.h"
@@ -16,6 +17,7 @@ protected:
     void SetUp() override
     {
         GameFixture::SetUp();
+        scenery = SceneryState{}; // nothing of the pond is loaded yet
         requestedSection = &sectionLoad;
         ClearLog();
         ASSERT_TRUE(sectionLoad.SectionBegin());
@@ -44,7 +46,7 @@ TEST_F(SectionLoadTest, LoadsOneStepAFrameOnABlackScreenThenAsksForTheMenu)
         EXPECT_EQ(backBuffer.Row(479)[639], 0);
         EXPECT_EQ(requestedSection, &sectionLoad) << frame;
     }
-    EXPECT_EQ(pictures.folder.Read("Log.txt"), expectedLog);
+    EXPECT_EQ(pictures.folder.ReadText("Log.txt"), expectedLog);
 
     input.mouseLeftDown = true;
     input.lastKeyDown = 13;
@@ -63,5 +65,5 @@ TEST(Log, IsEmptiedAtTheStartAndGrowsLineByLine)
     WriteLog("one");
     WriteLog(nullptr);
     WriteLog("two");
-    EXPECT_EQ(folder.Read("Log.txt"), "one\ntwo\n");
+    EXPECT_EQ(folder.ReadText("Log.txt"), "one\ntwo\n");
 }

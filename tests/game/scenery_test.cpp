@@ -56,8 +56,8 @@ TEST_F(Scenery, LightsGrowAtDuskAndWaneAtDawn)
         for (const int y : { 60, 408 }) // near the head and, wrapping around, at the opposite edges
             for (const int x : { 60, 408 })
                 EXPECT_EQ(Pixel(pondImage, x, y), given.light) << given.why << ' ' << x << ' ' << y;
-        for (const int far : { 88, 407 })
-            EXPECT_EQ(Pixel(pondImage, far, 60) | Pixel(pondImage, 60, far), 0) << given.why << ' ' << far;
+        for (const int dark : { 88, 407 })
+            EXPECT_EQ(Pixel(pondImage, dark, 60) | Pixel(pondImage, 60, dark), 0) << given.why << ' ' << dark;
     }
 }
 

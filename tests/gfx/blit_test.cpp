@@ -218,14 +218,14 @@ TEST(Blits, DrawNothingFromPositionsThatMissTheTarget)
     MakeRandomImage(target, random, 8, 8);
     MakeRandomImage(source, random, 8, 8);
     const std::vector<uint16_t> before = PlaneOf(target);
-    for (const FarCase& far : { FarCase{ -8, 0 }, FarCase{ 8, 0 }, FarCase{ 0, 8 }, FarCase{ LOWEST, 0 },
+    for (const FarCase& row : { FarCase{ -8, 0 }, FarCase{ 8, 0 }, FarCase{ 0, 8 }, FarCase{ LOWEST, 0 },
                                 FarCase{ LOWEST, HIGHEST }, FarCase{ HIGHEST, 0 }, FarCase{ HIGHEST, LOWEST } }) {
         for (int32_t CImage::*axis : { &CImage::x, &CImage::y }) {
             target.x = target.y = source.x = source.y = 0;
-            target.*axis = far.position;
-            source.*axis = far.anchor;
+            target.*axis = row.position;
+            source.*axis = row.anchor;
             BlitAlpha(target, source);
-            EXPECT_EQ(PlaneOf(target), before) << far.position << " anchor " << far.anchor;
+            EXPECT_EQ(PlaneOf(target), before) << row.position << " anchor " << row.anchor;
         }
     }
 }

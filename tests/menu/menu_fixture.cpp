@@ -4,13 +4,12 @@
 #include "gfx/display.h"
 #include "platform/fake_platform.h"
 #include "sound/sound.h"
-
-#include <cstdlib>
+#include "support/settings_store.h"
 
 void MenuFixture::SetUp()
 {
     GameFixture::SetUp();
-    setenv("XDG_CONFIG_HOME", (pictures.folder.Path() + "/config").c_str(), 1);
+    UseFreshSettings(pictures.folder);
     gameWindow = FAKE_WINDOW;
     isWindowed = true;
     ASSERT_TRUE(DisplaySetMode(gameWindow, 640, 480, true));
@@ -33,7 +32,7 @@ void MenuFixture::TearDown()
     DisplayRelease();
     isWindowed = true;
     gameWindow = nullptr;
-    setenv("XDG_CONFIG_HOME", "/dev/null", 1);
+    UseNoSettings();
 }
 
 void MenuFixture::Frame()

@@ -3,12 +3,13 @@
 #include "app/globals.h"
 #include "menu/section_menu.h"
 #include "support/game_fixture.h"
+#include "support/settings_store.h"
 #include "support/test_pictures.h"
 
 #include <string>
 
 /// The menu scene, loaded and begun, with stand-in pictures, a window, a sound buffer for each menu sound and a
-/// settings folder of its own, in which nothing is stored.
+/// settings of its own, in which nothing is stored.
 class MenuFixture : public GameFixture
 {
 protected:
@@ -33,10 +34,8 @@ protected:
     }
     /// The pages that take input, by name, in the order main, options, ranking, help1 to help4; "+" between them.
     std::string OpenPages() const;
-    std::string Log() const { return pictures.folder.Read("Log.txt"); }
-    std::string SettingsFile() const { return pictures.folder.Read(SETTINGS_FILE); }
+    std::string Log() const { return pictures.folder.ReadText("Log.txt"); }
 
-    static constexpr char SETTINGS_FILE[] = "config/Tervalis/settings.toml";
     TestPictures pictures;
     CSectionMenu menu;
 };

@@ -24,7 +24,6 @@ protected:
         }
         return marks;
     }
-    bool IsSaved(const std::string& line) const { return SettingsFile().find(line + "\n") != std::string::npos; }
     bool MusicPlays() const { return fake.soundBuffers[SOUND_MUSIC]->playing; }
 };
 }
@@ -63,7 +62,7 @@ TEST_F(OptionsPageTest, CapturesTheKeysInOrder)
     EXPECT_EQ(OpenPages(), "main");
     for (size_t i = 0; i < typed.size(); ++i)
         EXPECT_EQ(menu.keys[i], static_cast<uint32_t>(typed[i])) << i;
-    EXPECT_TRUE(IsSaved("\"Right 2\" = 76"));
+    EXPECT_EQ(StoredNumber("Right 2"), 76U);
 }
 
 TEST_F(OptionsPageTest, IgnoresKeysThatCannotBeBound)
@@ -86,7 +85,7 @@ TEST_F(OptionsPageTest, EqualKeysTurnRedAndBlockOk)
     Press(VK_RETURN);
     Press(VK_SPACE);
     EXPECT_EQ(OpenPages(), "options");
-    EXPECT_EQ(SettingsFile(), "");
+    EXPECT_FALSE(StoredNumber("Windowed"));
     for (const int key : { int{ 'I' }, int{ 'K' }, int{ 'J' }, int{ 'E' } }) // the last one is player 1's down key
         Press(key);
     EXPECT_EQ(Marks(), " 16 red17 red18 red19 red23");
@@ -126,12 +125,12 @@ TEST_F(OptionsPageTest, SoundOffStopsTheMusicAtOnceAndSoundOnStartsIt)
     EXPECT_TRUE(MusicPlays());
     Press(VK_RETURN);
     EXPECT_FALSE(MusicPlays());
-    EXPECT_TRUE(IsSaved("\"No Sound\" = 1"));
+    EXPECT_EQ(StoredNumber("No Sound"), 1U);
     Open();
     ClickToggle(TOGGLE_SOUND_ON);
     Press(VK_RETURN);
     EXPECT_TRUE(MusicPlays());
-    EXPECT_TRUE(IsSaved("\"No Sound\" = 0"));
+    EXPECT_EQ(StoredNumber("No Sound"), 0U);
 }
 
 TEST_F(OptionsPageTest, AFailedSwitchKeepsAndSavesTheModeInForce)
@@ -146,6 +145,6 @@ TEST_F(OptionsPageTest, AFailedSwitchKeepsAndSavesTheModeInForce)
         EXPECT_EQ(Log().substr(log.size()), "Windowed -> Full Screen\n");
         EXPECT_EQ(isWindowed, fails);
         EXPECT_EQ(fake.fullScreen, !fails);
-        EXPECT_TRUE(IsSaved(fails ? "Windowed = 1" : "Windowed = 0"));
+        EXPECT_EQ(StoredNumber("Windowed"), fails ? 1U : 0U);
     }
 }

@@ -241,13 +241,13 @@ TEST_F(SectionMenuTest, AsksForTheNameOfANewScore)
     input.lastKeyDown = 0;
     Press(VK_RETURN);
     EXPECT_EQ(OpenPages(), "ranking") << "the first Enter ends typing";
-    EXPECT_EQ(SettingsFile(), "");
+    EXPECT_FALSE(StoredNumber("Windowed"));
     Press(VK_RETURN);
     EXPECT_EQ(OpenPages(), "main");
     EXPECT_STREQ(menu.rankNames[0], "") << "a name left as dashes is empty";
     EXPECT_STREQ(menu.rankNames[1], "ann b");
     EXPECT_EQ(menu.rankEntryPending, 0U);
-    EXPECT_NE(SettingsFile().find("\"Name 2\" = \"ann b\""), std::string::npos);
+    EXPECT_EQ(StoredText("Name 2"), "ann b");
 }
 
 TEST_F(SectionMenuTest, OkConfirmsWhileTheNameIsTyped)

@@ -1,5 +1,6 @@
 #include "platform/directdraw.h"
 #include "platform/fake_platform.h"
+#include "unused_methods.h"
 
 #include <vector>
 
@@ -20,18 +21,18 @@ class Counted : public Interface
 public:
     Counted() { ++fake.directDrawObjects; }
     virtual ~Counted() { --fake.directDrawObjects; }
-    ULONG Release() override
+    ULONG WINAPI Release() override
     {
         delete this;
         return 0;
     }
 };
 
-struct Clipper : Counted<IDirectDrawClipper> {
-    HRESULT SetHWnd(DWORD, HWND) override { return Result("SetHWnd"); }
+struct Clipper : Counted<ClipperBase> {
+    HRESULT WINAPI SetHWnd(DWORD, HWND) override { return Result("SetHWnd"); }
 };
 
-class Surface : public Counted<IDirectDrawSurface>
+class Surface : public Counted<SurfaceBase>
 {
 public:
     Surface()
@@ -40,7 +41,7 @@ public:
     {
     }
 
-    HRESULT Blt(RECT*, IDirectDrawSurface* source, RECT*, DWORD, DDBLTFX*) override
+    HRESULT WINAPI Blt(RECT*, IDirectDrawSurface* source, RECT*, DWORD, DDBLTFX*) override
     {
         if (fake.Enter("Blt"))
             return DDERR_GENERIC;
@@ -53,20 +54,20 @@ public:
         ++fake.framesPresented;
         return DD_OK;
     }
-    HRESULT GetAttachedSurface(DDSCAPS*, IDirectDrawSurface** surface) override
+    HRESULT WINAPI GetAttachedSurface(DDSCAPS*, IDirectDrawSurface** surface) override
     {
         if (fake.Enter("GetAttachedSurface"))
             return DDERR_GENERIC;
         *surface = new Surface;
         return DD_OK;
     }
-    HRESULT GetPixelFormat(DDPIXELFORMAT* format) override
+    HRESULT WINAPI GetPixelFormat(DDPIXELFORMAT* format) override
     {
         format->dwGBitMask = fake.greenMask;
         return Result("GetPixelFormat");
     }
-    HRESULT IsLost() override { return fake.surfacesLost ? DDERR_SURFACELOST : DD_OK; }
-    HRESULT Lock(RECT*, DDSURFACEDESC* description, DWORD, HANDLE) override
+    HRESULT WINAPI IsLost() override { return fake.surfacesLost ? DDERR_SURFACELOST : DD_OK; }
+    HRESULT WINAPI Lock(RECT*, DDSURFACEDESC* description, DWORD, HANDLE) override
     {
         if (fake.Enter("Lock"))
             return DDERR_GENERIC;
@@ -74,41 +75,41 @@ public:
         description->lPitch = pitch;
         return DD_OK;
     }
-    HRESULT Restore() override
+    HRESULT WINAPI Restore() override
     {
         fake.surfacesLost = false;
         return Result("Restore");
     }
-    HRESULT SetClipper(IDirectDrawClipper*) override { return Result("SetClipper"); }
-    HRESULT Unlock(LPVOID) override { return Result("Unlock"); }
+    HRESULT WINAPI SetClipper(IDirectDrawClipper*) override { return Result("SetClipper"); }
+    HRESULT WINAPI Unlock(LPVOID) override { return Result("Unlock"); }
 
 private:
     LONG pitch;
     std::vector<uint8_t> memory;
 };
 
-struct DirectDraw : Counted<IDirectDraw> {
-    HRESULT CreateClipper(DWORD, IDirectDrawClipper** clipper, IUnknown*) override
+struct DirectDraw : Counted<DirectDrawBase> {
+    HRESULT WINAPI CreateClipper(DWORD, IDirectDrawClipper** clipper, IUnknown*) override
     {
         if (fake.Enter("CreateClipper"))
             return DDERR_GENERIC;
         *clipper = new Clipper;
         return DD_OK;
     }
-    HRESULT CreateSurface(DDSURFACEDESC*, IDirectDrawSurface** surface, IUnknown*) override
+    HRESULT WINAPI CreateSurface(DDSURFACEDESC*, IDirectDrawSurface** surface, IUnknown*) override
     {
         if (fake.Enter("CreateSurface"))
             return DDERR_GENERIC;
         *surface = new Surface;
         return DD_OK;
     }
-    HRESULT RestoreDisplayMode() override
+    HRESULT WINAPI RestoreDisplayMode() override
     {
         fake.fullScreen = false;
         return Result("RestoreDisplayMode");
     }
-    HRESULT SetCooperativeLevel(HWND, DWORD) override { return Result("SetCooperativeLevel"); }
-    HRESULT SetDisplayMode(DWORD width, DWORD height, DWORD) override
+    HRESULT WINAPI SetCooperativeLevel(HWND, DWORD) override { return Result("SetCooperativeLevel"); }
+    HRESULT WINAPI SetDisplayMode(DWORD width, DWORD height, DWORD) override
     {
         if (fake.Enter("SetDisplayMode"))
             return DDERR_GENERIC;
@@ -120,7 +121,7 @@ struct DirectDraw : Counted<IDirectDraw> {
 };
 }
 
-HRESULT DirectDrawCreate(GUID*, IDirectDraw** directDraw, IUnknown*)
+HRESULT WINAPI DirectDrawCreate(GUID*, IDirectDraw** directDraw, IUnknown*)
 {
     if (fake.Enter("DirectDrawCreate"))
         return DDERR_GENERIC;

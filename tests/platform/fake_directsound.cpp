@@ -1,11 +1,12 @@
 #include "platform/directsound.h"
 #include "platform/fake_platform.h"
+#include "unused_methods.h"
 
 #include <algorithm>
 
 namespace
 {
-class Buffer : public IDirectSoundBuffer, public FakeSoundBuffer
+class Buffer : public SoundBufferBase, public FakeSoundBuffer
 {
 public:
     explicit Buffer(const DSBUFFERDESC& description) : isPrimary((description.dwFlags & DSBCAPS_PRIMARYBUFFER) != 0)
@@ -23,12 +24,12 @@ public:
         std::erase(fake.soundBuffers, this);
     }
 
-    ULONG Release() override
+    ULONG WINAPI Release() override
     {
         delete this;
         return 0;
     }
-    HRESULT Lock(DWORD, DWORD, LPVOID* first, DWORD* firstBytes, LPVOID*, DWORD*, DWORD) override
+    HRESULT WINAPI Lock(DWORD, DWORD, LPVOID* first, DWORD* firstBytes, LPVOID*, DWORD*, DWORD) override
     {
         if (fake.Enter("SoundBuffer.Lock"))
             return DSERR_BUFFERLOST;
@@ -36,7 +37,7 @@ public:
         *firstBytes = static_cast<DWORD>(bytes.size());
         return DS_OK;
     }
-    HRESULT Play(DWORD, DWORD, DWORD flags) override
+    HRESULT WINAPI Play(DWORD, DWORD, DWORD flags) override
     {
         if (fake.Enter("SoundBuffer.Play"))
             return DSERR_BUFFERLOST;
@@ -45,16 +46,16 @@ public:
         looping = (flags & DSBPLAY_LOOPING) != 0;
         return DS_OK;
     }
-    HRESULT SetCurrentPosition(DWORD) override { return Result("SoundBuffer.SetCurrentPosition"); }
-    HRESULT SetFormat(const WAVEFORMATEX*) override { return Result("SoundBuffer.SetFormat"); }
-    HRESULT Stop() override
+    HRESULT WINAPI SetCurrentPosition(DWORD) override { return Result("SoundBuffer.SetCurrentPosition"); }
+    HRESULT WINAPI SetFormat(const WAVEFORMATEX*) override { return Result("SoundBuffer.SetFormat"); }
+    HRESULT WINAPI Stop() override
     {
         ++stops;
         playing = false;
         return Result("SoundBuffer.Stop");
     }
-    HRESULT Unlock(LPVOID, DWORD, LPVOID, DWORD) override { return Result("SoundBuffer.Unlock"); }
-    HRESULT Restore() override { return Result("SoundBuffer.Restore"); }
+    HRESULT WINAPI Unlock(LPVOID, DWORD, LPVOID, DWORD) override { return Result("SoundBuffer.Unlock"); }
+    HRESULT WINAPI Restore() override { return Result("SoundBuffer.Restore"); }
 
 private:
     static HRESULT Result(const char* call) { return fake.Enter(call) ? DSERR_BUFFERLOST : DS_OK; }
@@ -62,15 +63,15 @@ private:
     bool isPrimary;
 };
 
-struct Device : IDirectSound {
+struct Device : DirectSoundBase {
     Device() { ++fake.soundObjects; }
     virtual ~Device() { --fake.soundObjects; }
-    ULONG Release() override
+    ULONG WINAPI Release() override
     {
         delete this;
         return 0;
     }
-    HRESULT CreateSoundBuffer(const DSBUFFERDESC* description, IDirectSoundBuffer** buffer, IUnknown*) override
+    HRESULT WINAPI CreateSoundBuffer(const DSBUFFERDESC* description, IDirectSoundBuffer** buffer, IUnknown*) override
     {
         const bool isPrimary = (description->dwFlags & DSBCAPS_PRIMARYBUFFER) != 0;
         if (fake.Enter(isPrimary ? "CreatePrimaryBuffer" : "CreateSoundBuffer"))
@@ -80,14 +81,14 @@ struct Device : IDirectSound {
         *buffer = new Buffer(*description);
         return DS_OK;
     }
-    HRESULT SetCooperativeLevel(HWND, DWORD level) override
+    HRESULT WINAPI SetCooperativeLevel(HWND, DWORD level) override
     {
         return fake.Enter(level == DSSCL_PRIORITY ? "SetPriorityLevel" : "SetNormalLevel") ? DSERR_INVALIDPARAM : DS_OK;
     }
 };
 }
 
-HRESULT DirectSoundCreate(const GUID*, IDirectSound** directSound, IUnknown*)
+HRESULT WINAPI DirectSoundCreate(const GUID*, IDirectSound** directSound, IUnknown*)
 {
     if (fake.Enter("DirectSoundCreate"))
         return DSERR_NODRIVER;

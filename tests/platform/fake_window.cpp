@@ -1,17 +1,14 @@
+#include "platform/fake_handle.h"
 #include "platform/fake_platform.h"
 #include "platform/gdi.h"
 #include "platform/kernel.h"
 #include "platform/multimedia.h"
-#include "platform/posix/kernel_object.h"
 #include "platform/shell.h"
 
 #include <cstdint>
 
 namespace
 {
-struct FakeMutex : KernelObject {
-};
-
 /// What the frame and the title add around a client area.
 constexpr int BORDER = 4;
 constexpr int TITLE = 20;
@@ -23,7 +20,7 @@ int windowContext;
 
 const HWND FAKE_WINDOW = reinterpret_cast<HWND>(static_cast<uintptr_t>(0x1234));
 
-ATOM RegisterClassA(const WNDCLASSA* windowClass)
+ATOM WINAPI RegisterClassA(const WNDCLASSA* windowClass)
 {
     fake.Enter("RegisterClassA");
     fake.procedure = windowClass->lpfnWndProc;
@@ -31,8 +28,8 @@ ATOM RegisterClassA(const WNDCLASSA* windowClass)
     return 1;
 }
 
-HWND CreateWindowExA(DWORD extendedStyle, LPCSTR, LPCSTR title, DWORD style, int x, int y, int width, int height, HWND,
-                     HMENU, HINSTANCE, LPVOID)
+HWND WINAPI CreateWindowExA(DWORD extendedStyle, LPCSTR, LPCSTR title, DWORD style, int x, int y, int width, int height,
+                            HWND, HMENU, HINSTANCE, LPVOID)
 {
     if (fake.Enter("CreateWindowExA"))
         return nullptr;
@@ -44,7 +41,7 @@ HWND CreateWindowExA(DWORD extendedStyle, LPCSTR, LPCSTR title, DWORD style, int
     return FAKE_WINDOW;
 }
 
-BOOL DestroyWindow(HWND)
+BOOL WINAPI DestroyWindow(HWND)
 {
     fake.Enter("DestroyWindow");
     fake.Send(WM_DESTROY);
@@ -52,14 +49,14 @@ BOOL DestroyWindow(HWND)
     return TRUE;
 }
 
-BOOL ShowWindow(HWND, int command)
+BOOL WINAPI ShowWindow(HWND, int command)
 {
     fake.Enter("ShowWindow");
     fake.windowMinimised = command == SW_MINIMIZE;
     return TRUE;
 }
 
-BOOL SetWindowPos(HWND, HWND insertAfter, int x, int y, int width, int height, UINT flags)
+BOOL WINAPI SetWindowPos(HWND, HWND insertAfter, int x, int y, int width, int height, UINT flags)
 {
     fake.Enter("SetWindowPos");
     if (!(flags & SWP_NOMOVE))
@@ -75,24 +72,24 @@ BOOL SetWindowPos(HWND, HWND insertAfter, int x, int y, int width, int height, U
     return TRUE;
 }
 
-LONG GetWindowLongA(HWND, int index)
+LONG WINAPI GetWindowLongA(HWND, int index)
 {
     return static_cast<LONG>(index == GWL_STYLE ? fake.style : fake.extendedStyle);
 }
 
-LONG SetWindowLongA(HWND window, int index, LONG value)
+LONG WINAPI SetWindowLongA(HWND window, int index, LONG value)
 {
     const LONG old = GetWindowLongA(window, index);
     (index == GWL_STYLE ? fake.style : fake.extendedStyle) = static_cast<DWORD>(value);
     return old;
 }
 
-HMENU GetMenu(HWND)
+HMENU WINAPI GetMenu(HWND)
 {
     return nullptr;
 }
 
-BOOL AdjustWindowRectEx(RECT* rectangle, DWORD style, BOOL, DWORD)
+BOOL WINAPI AdjustWindowRectEx(RECT* rectangle, DWORD style, BOOL, DWORD)
 {
     if (!(style & WS_CAPTION))
         return TRUE;
@@ -103,18 +100,18 @@ BOOL AdjustWindowRectEx(RECT* rectangle, DWORD style, BOOL, DWORD)
     return TRUE;
 }
 
-int GetSystemMetrics(int index)
+int WINAPI GetSystemMetrics(int index)
 {
     return index == SM_CXSCREEN ? fake.screenWidth : fake.screenHeight;
 }
 
-BOOL RedrawWindow(HWND, const RECT*, HRGN, UINT)
+BOOL WINAPI RedrawWindow(HWND, const RECT*, HRGN, UINT)
 {
     fake.Enter("RedrawWindow");
     return TRUE;
 }
 
-BOOL PeekMessageA(MSG* message, HWND, UINT, UINT, UINT)
+BOOL WINAPI PeekMessageA(MSG* message, HWND, UINT, UINT, UINT)
 {
     if (fake.queue.empty() && !fake.quitPosted)
         return FALSE;
@@ -123,7 +120,7 @@ BOOL PeekMessageA(MSG* message, HWND, UINT, UINT, UINT)
     return TRUE;
 }
 
-BOOL GetMessageA(MSG* message, HWND, UINT, UINT)
+BOOL WINAPI GetMessageA(MSG* message, HWND, UINT, UINT)
 {
     *message = MSG{};
     if (fake.queue.empty()) {
@@ -136,63 +133,63 @@ BOOL GetMessageA(MSG* message, HWND, UINT, UINT)
     return TRUE;
 }
 
-BOOL TranslateMessage(const MSG*)
+BOOL WINAPI TranslateMessage(const MSG*)
 {
     return FALSE;
 }
 
-LRESULT DispatchMessageA(const MSG* message)
+LRESULT WINAPI DispatchMessageA(const MSG* message)
 {
     return fake.Send(message->message, message->wParam, message->lParam);
 }
 
-LRESULT DefWindowProcA(HWND, UINT, WPARAM, LPARAM)
+LRESULT WINAPI DefWindowProcA(HWND, UINT, WPARAM, LPARAM)
 {
     fake.Enter("DefWindowProcA");
     return 0;
 }
 
-void PostQuitMessage(int exitCode)
+void WINAPI PostQuitMessage(int exitCode)
 {
     fake.quitPosted = true;
     fake.exitCode = exitCode;
 }
 
-HICON LoadIconA(HINSTANCE, LPCSTR)
+HICON WINAPI LoadIconA(HINSTANCE, LPCSTR)
 {
     return reinterpret_cast<HICON>(&anyIcon);
 }
 
-HCURSOR LoadCursorA(HINSTANCE, LPCSTR)
+HCURSOR WINAPI LoadCursorA(HINSTANCE, LPCSTR)
 {
     return reinterpret_cast<HCURSOR>(&arrowCursor);
 }
 
-HCURSOR SetCursor(HCURSOR cursor)
+HCURSOR WINAPI SetCursor(HCURSOR cursor)
 {
     fake.cursorShown = cursor != nullptr;
     return nullptr;
 }
 
-int MessageBoxA(HWND, LPCSTR text, LPCSTR title, UINT)
+int WINAPI MessageBoxA(HWND, LPCSTR text, LPCSTR title, UINT)
 {
     fake.messageBoxes.push_back(std::string(title) + ": " + text);
     return 1;
 }
 
-HDC GetDC(HWND)
+HDC WINAPI GetDC(HWND)
 {
     return fake.Enter("GetDC") ? nullptr : reinterpret_cast<HDC>(&windowContext);
 }
 
-int ReleaseDC(HWND, HDC)
+int WINAPI ReleaseDC(HWND, HDC)
 {
     fake.Enter("ReleaseDC");
     return 1;
 }
 
-int SetDIBitsToDevice(HDC, int, int, DWORD width, DWORD height, int, int, UINT, UINT scanLines, LPCVOID bits,
-                      const BITMAPINFO* info, UINT)
+int WINAPI SetDIBitsToDevice(HDC, int, int, DWORD width, DWORD height, int, int, UINT, UINT scanLines, LPCVOID bits,
+                             const BITMAPINFO* info, UINT)
 {
     if (fake.Enter("SetDIBitsToDevice"))
         return 0;
@@ -204,33 +201,34 @@ int SetDIBitsToDevice(HDC, int, int, DWORD width, DWORD height, int, int, UINT, 
     return static_cast<int>(scanLines);
 }
 
-HANDLE CreateMutexA(SECURITY_ATTRIBUTES*, BOOL, LPCSTR)
+HANDLE WINAPI CreateMutexA(SECURITY_ATTRIBUTES*, BOOL, LPCSTR)
 {
     if (fake.Enter("CreateMutexA"))
         return nullptr;
+    const HANDLE mutex = NewFakeHandle();
     SetLastError(fake.otherCopyRuns ? ERROR_ALREADY_EXISTS : ERROR_SUCCESS);
-    return HandleOf(new FakeMutex);
+    return mutex;
 }
 
-DWORD GetModuleFileNameA(HMODULE, LPSTR path, DWORD size)
+DWORD WINAPI GetModuleFileNameA(HMODULE, LPSTR path, DWORD size)
 {
     const size_t length = fake.programPath.copy(path, size - 1);
     path[length] = 0;
     return static_cast<DWORD>(length);
 }
 
-void Sleep(DWORD milliseconds)
+void WINAPI Sleep(DWORD milliseconds)
 {
     fake.Enter("Sleep");
     fake.now += milliseconds;
 }
 
-DWORD timeGetTime()
+DWORD WINAPI timeGetTime()
 {
     return fake.now;
 }
 
-HINSTANCE ShellExecuteA(HWND, LPCSTR, LPCSTR file, LPCSTR, LPCSTR, int)
+HINSTANCE WINAPI ShellExecuteA(HWND, LPCSTR, LPCSTR file, LPCSTR, LPCSTR, int)
 {
     fake.opened.emplace_back(file);
     return reinterpret_cast<HINSTANCE>(static_cast<uintptr_t>(33));

@@ -58,10 +58,8 @@ TEST_F(WaveTest, OpensOnlyWaveFilesWithAWholeFormat)
         { Wave(Chunk("fmt ", Format().substr(0, 12), 16)), WAVE_ERR_CANNOT_READ, "format cut off" },
         { Wave(Chunk("fmt ", Format(2), 18)), WAVE_ERR_CANNOT_READ, "cbSize cut off" },
         { Wave(Chunk("fmt ", Format(2) + Bytes<uint16_t>(32) + "x")), WAVE_ERR_NOT_WAVE, "extra bytes cut off" },
-        { Wave(Chunk("fmt ", Format(), 0xFFFFFFFF)), MMIOERR_CANNOTSEEK, "format beyond any file" },
         { Wave(Chunk("fmt ", Format()) + samples), 0, "format of 16 bytes" },
         { Wave(Chunk("fmt ", Format() + "pad") + samples), 0, "format of 19 bytes" },
-        { Chunk("RIFF", "WAVE" + Chunk("fmt ", Format()), 0xFFFFFFFF), 0, "endless RIFF chunk" },
         { Wave(Chunk("odd ", "x") + Chunk("LIST", "") + Chunk("fmt ", Format())), 0, "odd and empty chunks before" },
     };
     for (const auto& row : cases) {

@@ -1,5 +1,7 @@
 #include "support/allocations.h"
 
+#include "support/aligned_memory.h"
+
 #include <atomic>
 #include <cstdlib>
 #include <new>
@@ -33,17 +35,18 @@ void* operator new(size_t size, std::align_val_t alignment)
 {
     // Only the planes are aligned beyond the ordinary.
     ++allocations;
+    // Only the planes are aligned beyond the ordinary.
+    ++allocations;
     if (planesUntilFailure > 0 && --planesUntilFailure == 0)
         throw std::bad_alloc();
-    const size_t unit = static_cast<size_t>(alignment);
-    if (void* memory = std::aligned_alloc(unit, (size + unit - 1) / unit * unit))
+    if (void* memory = AllocateAligned(size, static_cast<size_t>(alignment)))
         return memory;
     throw std::bad_alloc();
 }
 
 void operator delete(void* memory, std::align_val_t) noexcept
 {
-    std::free(memory);
+    FreeAligned(memory);
 }
 
 void operator delete(void* memory) noexcept

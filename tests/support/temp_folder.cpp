@@ -1,19 +1,36 @@
 #include "support/temp_folder.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <stdexcept>
 
 namespace fs = std::filesystem;
 
+namespace
+{
+/// No other process has the folder: making one that exists already is no success.
+fs::path NewFolder()
+{
+    std::random_device random;
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        fs::path folder = fs::temp_directory_path() / ("tervalis-test-" + std::to_string(random()));
+        if (fs::create_directory(folder))
+            return folder;
+    }
+    throw std::runtime_error("no temporary folder");
+}
+
+std::string ReadStream(std::ifstream file)
+{
+    return { std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>() };
+}
+}
+
 TempFolder::TempFolder() : before(fs::current_path().string())
 {
-    std::string pattern = (fs::temp_directory_path() / "tervalis-test-XXXXXX").string();
-    if (!mkdtemp(pattern.data()))
-        throw std::runtime_error("no temporary folder");
-    path = pattern;
+    path = NewFolder().string();
     fs::current_path(path);
 }
 
@@ -26,8 +43,12 @@ TempFolder::~TempFolder()
 
 std::string TempFolder::Read(const std::string& name) const
 {
-    std::ifstream file(fs::path(path) / name, std::ios::binary);
-    return { std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>() };
+    return ReadStream(std::ifstream(fs::path(path) / name, std::ios::binary));
+}
+
+std::string TempFolder::ReadText(const std::string& name) const
+{
+    return ReadStream(std::ifstream(fs::path(path) / name));
 }
 
 void TempFolder::Write(const std::string& name, const std::string& content) const

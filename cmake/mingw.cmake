@@ -1,0 +1,18 @@
+# Debian's mingw-w64, with POSIX threads for the C++ library. The including file sets CMAKE_SYSTEM_PROCESSOR.
+set(CMAKE_SYSTEM_NAME Windows)
+set(MINGW ${CMAKE_SYSTEM_PROCESSOR}-w64-mingw32)
+
+set(CMAKE_C_COMPILER ${MINGW}-gcc-posix)
+set(CMAKE_CXX_COMPILER ${MINGW}-g++-posix)
+set(CMAKE_RC_COMPILER ${MINGW}-windres)
+
+set(CMAKE_FIND_ROOT_PATH /usr/${MINGW})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+
+find_program(WINE wine)
+if(WINE)
+    set(CMAKE_CROSSCOMPILING_EMULATOR ${WINE}) # for the tests
+endif()

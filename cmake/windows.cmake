@@ -1,0 +1,22 @@
+# The Windows program: the system's own libraries in the place of the platform layer, everything else inside the file.
+enable_language(RC)
+add_link_options(-static $<$<CONFIG:Release>:-s>)
+include(cmake/windows_libraries.cmake)
+
+# On 64-bit Windows GCC aligns the stack to 16 bytes, yet moves vectors of 32 and 64 bytes as if it were aligned to them.
+add_compile_options(-Wa,-muse-unaligned-vector-move)
+
+# No functions marked as imported: so they are called by their names, in which the tests' fake can answer.
+target_compile_definitions(tervalis_game PUBLIC NOMINMAX WIN32_LEAN_AND_MEAN DECLSPEC_IMPORT=)
+target_link_libraries(tervalis_game PUBLIC turbojpeg hwy)
+
+add_library(tervalis_platform_base INTERFACE)
+target_link_libraries(tervalis_platform_base INTERFACE user32 gdi32 ddraw dsound winmm advapi32 shell32)
+add_library(tervalis_platform ALIAS tervalis_platform_base)
+
+configure_file(packaging/tervalis.rc.in tervalis.rc @ONLY)
+# WinMain is asked for by the C runtime, after all libraries: the entry point must be the program's own.
+add_executable(tervalis WIN32 src/app/entry.cpp ${CMAKE_CURRENT_BINARY_DIR}/tervalis.rc)
+target_link_libraries(tervalis PRIVATE tervalis_game tervalis_platform)
+
+include(cmake/windows_package.cmake)

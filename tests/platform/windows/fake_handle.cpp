@@ -1,0 +1,6 @@
+#include "platform/fake_handle.h"
+
+HANDLE NewFakeHandle()
+{
+    return CreateEventA(nullptr, TRUE, FALSE, nullptr);
+}

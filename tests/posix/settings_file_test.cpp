@@ -1,0 +1,47 @@
+#include "menu/menu_fixture.h"
+
+#include <cstring>
+
+namespace
+{
+/// Settings as the file that stands for the registry has them.
+class SettingsFileTest : public MenuFixture
+{
+protected:
+    static constexpr char SETTINGS_FILE[] = "config/Tervalis/settings.toml";
+};
+}
+
+TEST_F(SettingsFileTest, TakesValuesAsBytesWhateverTheirType)
+{
+    struct Case {
+        std::string line;
+        uint32_t firstKey;
+        const char* firstName;
+        int32_t firstScore;
+    };
+    const Case cases[] = {
+        { "\"Up 1\" = 'A'", 'A', "", 0 }, // one byte of the default's four
+        { "\"Up 1\" = 'ABCD'", 0x44434241, "", 0 },
+        { "\"Up 1\" = 'ABCDE'", 38, "", 0 },
+        { "\"Up 1\" = 3.5", 38, "", 0 },
+        { "\"Name 1\" = 16705", 38, "AA", 0 },
+        { "\"Name 1\" = 'ab\xC3\xA9'", 38, "ab\xC3\xA9", 0 },
+        { "\"Name 1\" = { type = 1, hex = '61620063' }", 38, "ab", 0 },
+        { "\"Name 1\" = '" + std::string(256, 'x') + "'", 38, "", 0 },
+        { "\"Name 1\" = '" + std::string(300, 'x') + "'", 38, "", 0 },
+        { "\"Rank 1\" = 4294967295", 38, "", -1 },
+        { "\"Rank 1\" = -5", 38, "", 0 },
+        { "damaged = = ", 38, "", 0 },
+    };
+    for (const Case& row : cases) {
+        pictures.folder.Write(SETTINGS_FILE, row.line);
+        menu.keys[0] = 1;
+        strcpy(menu.rankNames[0], "before");
+        menu.rankScores[0] = 1;
+        EXPECT_EQ(menu.SettingsLoad(), 0) << row.line;
+        EXPECT_EQ(menu.keys[0], row.firstKey) << row.line;
+        EXPECT_STREQ(menu.rankNames[0], row.firstName) << row.line;
+        EXPECT_EQ(menu.rankScores[0], row.firstScore) << row.line;
+    }
+}

@@ -1,0 +1,23 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds the Windows program, of 32 and of 64 bits, into archives that are ready to unzip, and
+# runs the tests of the one of 64 bits under Wine.
+set -euo pipefail
+cd "$(dirname "$0")"
+. tools/setup.sh
+
+# shellcheck disable=SC2086
+install_packages $WINDOWS_PACKAGES
+# shellcheck disable=SC2086
+install_packages $WINE_PACKAGES || say "Wine cannot be installed."
+tools/fetch_sources.sh
+for preset in windows32 windows; do
+    cmake --preset "$preset" >/dev/null
+    cmake --build --preset "$preset" --target package
+    say "The program: $(ls build/"$preset"/*.zip)"
+done
+
+if ! command -v wine >/dev/null; then
+    say "There is no Wine here: the Windows program was built, but neither it nor its tests were run."
+    exit 0
+fi
+ctest --preset windows
