@@ -35,8 +35,6 @@ void* operator new(size_t size, std::align_val_t alignment)
 {
     // Only the planes are aligned beyond the ordinary.
     ++allocations;
-    // Only the planes are aligned beyond the ordinary.
-    ++allocations;
     if (planesUntilFailure > 0 && --planesUntilFailure == 0)
         throw std::bad_alloc();
     if (void* memory = AllocateAligned(size, static_cast<size_t>(alignment)))
