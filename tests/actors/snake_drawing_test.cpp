@@ -113,17 +113,6 @@ TEST_F(SnakeDrawing, BumpedHeadThenVanishesFromTheFront)
     EXPECT_EQ(pondImage.Row(240)[240], 0);
 }
 
-TEST_F(SnakeDrawing, FirstSnakeDropsFiveBlueBerriesWhileItEnters)
-{
-    Snake().isPaused = false;
-    Snake().frameCount = 0;
-    for (int i = 1; i <= 60; ++i) {
-        Frame();
-        EXPECT_EQ(std::ranges::count_if(pond->cells, [](const Cell& c) { return c.occupied && c.colour == BLUE; }),
-                  std::min((i + 5) / 10, 5));
-    }
-}
-
 TEST_F(SnakeDrawing, ArrowsBlinkAroundAWaitingSnake)
 {
     Snake().isWaiting = true;

@@ -3,7 +3,6 @@
 #include "sound/wave_bytes.h"
 
 #include <algorithm>
-#include <iterator>
 #include <set>
 #include <string>
 #include <vector>
@@ -52,7 +51,7 @@ protected:
         return heard;
     }
 
-public:
+public: // for the rows of the table
     /// The head comes onto the grid point with the next frame.
     void Approach(int length)
     {
@@ -74,7 +73,11 @@ public:
         snake->isDying = true;
         snake->deathFrames = deathFrames;
     }
-    void FireAt(Cell& cell) { pond.FireLaser(cell.x - CELL_SIZE, cell.y, HEADING_RIGHT); }
+    void FireAtStone()
+    {
+        pond.TurnToStone(GRID_X, GRID_Y);
+        pond.FireLaser(GRID_X - CELL_SIZE, GRID_Y, HEADING_RIGHT);
+    }
 
     using PondTest::pond;
     CSnake* snake = nullptr;
@@ -137,12 +140,7 @@ const SoundCase soundCases[] = {
       },
       { "rain-" } },
     { "a level's end", [](PondSounds& t) { t.snake->SnakeGather(); }, { "beat-", "rain-" } },
-    { "a laser on a stone",
-      [](PondSounds& t) {
-          t.pond.TurnToStone(96, 96);
-          t.FireAt(t.pond.cells[CellAt(96, 96)]);
-      },
-      { "20+" } },
+    { "a laser on a stone", [](PondSounds& t) { t.FireAtStone(); }, { "20+" } },
 };
 
 TEST_F(PondSounds, AccompanyWhatHappens)

@@ -60,24 +60,6 @@ TEST_F(Pond, PauseShowsTheFrozenFrameAtHalfLight)
     EXPECT_EQ(RandomState(), random);
 }
 
-struct LevelCase {
-    int players;
-    int score1, score2;
-    int level;
-};
-
-TEST_F(Pond, LevelIsClearedByTheScoresInPlay)
-{
-    for (const LevelCase& given : { LevelCase{ 0, 499, 500, 1 }, LevelCase{ 0, 500, 0, 2 }, LevelCase{ 1, 250, 249, 1 },
-                                    LevelCase{ 1, 250, 250, 2 } }) {
-        StartGame(given.players);
-        pond.snake[0].score = given.score1;
-        pond.snake[1].score = given.score2;
-        Play(1);
-        EXPECT_EQ(pond.statusBar.level, given.level) << given.score1 << " + " << given.score2;
-    }
-}
-
 TEST_F(Pond, GameIsLostWhenEverySnakeInPlayIsOut)
 {
     StartGame(1);
