@@ -77,6 +77,8 @@ int Bot::KeyFor(int player, int frame)
         return 0;
     constexpr int CLOCKWISE[] = { 3, 2, 0, 1 };
     const int course = CourseOfKey(player, snake.segments[0].dir);
+    if (course == NO_COURSE)
+        return 0;
     const bool isReckless =
         (frame >= style.recklessFrom || pond.statusBar.level >= style.recklessLevel) && !snake.isWaiting;
     int wanted = isReckless ? CLOCKWISE[course] : WantedCourse(player);
