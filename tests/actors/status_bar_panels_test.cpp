@@ -52,11 +52,12 @@ TEST(StatusBar, OpensAndLeavesItsPanelsByKeysAndMouse)
         { { CLICK_QUIT, CLICK_LEFT }, QUIT, 0 },
     };
     BarGame run;
-    for (const auto& [steps, open, keyLeft] : cases) {
+    for (const auto& row : cases) {
+        const auto& [steps, open, keyLeft] = row;
         run.Restart();
         for (const Step& step : steps)
             run.Process(step);
-        SCOPED_TRACE("case " + std::to_string(&steps - &cases[0].steps));
+        SCOPED_TRACE("case " + std::to_string(&row - cases));
         EXPECT_EQ(input.lastKeyDown, keyLeft);
         EXPECT_EQ(requestedSection, open == QUIT ? &sectionMenu : nullptr);
         EXPECT_EQ(captureScreen, steps[0].key != 'X') << "the still to show meanwhile";
