@@ -6,21 +6,25 @@
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
-#include <new>
+#include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
 
 struct HMMIO__ {
     static constexpr size_t BUFFER_BYTES = 64 * 1024;
 
-    explicit HMMIO__(int openFile) : descriptor(openFile)
+    HMMIO__()
     {
         info.pchBuffer = buffer;
         DropBuffer(0);
     }
     HMMIO__(const HMMIO__&) = delete;
     HMMIO__& operator=(const HMMIO__&) = delete;
-    ~HMMIO__() { close(descriptor); }
+    ~HMMIO__()
+    {
+        if (descriptor >= 0)
+            close(descriptor);
+    }
 
     int64_t Position() const { return int64_t{ info.lBufOffset } + (info.pchNext - info.pchBuffer); }
 
@@ -42,7 +46,7 @@ struct HMMIO__ {
         return bytes >= 0;
     }
 
-    int descriptor;
+    int descriptor = -1;
     MMIOINFO info{};
     char buffer[BUFFER_BYTES];
 };
@@ -107,13 +111,9 @@ MMRESULT ReadChunkHeader(HMMIO file, MMCKINFO& chunk)
 
 HMMIO mmioOpenA(LPSTR path, MMIOINFO*, DWORD)
 {
-    const int descriptor = OpenFile(path);
-    if (descriptor < 0)
-        return nullptr;
-    const HMMIO file = new (std::nothrow) HMMIO__(descriptor);
-    if (!file)
-        close(descriptor);
-    return file;
+    auto file = std::make_unique<HMMIO__>();
+    file->descriptor = OpenFile(path);
+    return file->descriptor < 0 ? nullptr : file.release();
 }
 
 MMRESULT mmioClose(HMMIO file, UINT)
