@@ -4,7 +4,7 @@ BUILD_PACKAGES="g++ cmake ninja-build pkg-config libsdl2-dev libfreetype-dev lib
     libtomlplusplus-dev libpng-dev libhwy-dev fonts-dejavu-core"
 TEST_PACKAGES="libgtest-dev xvfb xdotool imagemagick openbox x11-utils wmctrl python3"
 BENCH_PACKAGES="libbenchmark-dev libpixman-1-dev python3"
-CHECK_PACKAGES="clang-format"
+CHECK_PACKAGES="clang-format clang-tidy"
 
 say() { printf '%s\n' "$*" >&2; }
 

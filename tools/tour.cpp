@@ -6,6 +6,7 @@
 //     10 key left          a key press: a name below, one letter, or a virtual-key code
 //     12 click 200 170     a press of the left mouse button at that place; "move" only moves the mouse
 //     20 seed 7            seeds the random generator
+//     25 game file.txt     a recorded game's seed and keys, from its first frame; the path is the script's
 //     30 char x            a typed character
 //     40 shot name         writes FOLDER/name.png after the frame
 //     50 end               the program's end
@@ -18,8 +19,10 @@
 
 #include <png.h>
 
+#include <algorithm>
+#include <cctype>
+#include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -27,6 +30,8 @@
 #include <sstream>
 #include <string>
 #include <vector>
+
+#include <unistd.h>
 
 namespace
 {
@@ -51,11 +56,37 @@ int KeyCode(const std::string& text)
     return std::atoi(text.c_str());
 }
 
-Script ReadScript(std::istream& stream)
+int Number(const Command& command, size_t index)
 {
-    Script script;
-    std::string line;
-    while (std::getline(stream, line)) {
+    return index < command.arguments.size() ? std::atoi(command.arguments[index].c_str()) : 0;
+}
+
+std::string Text(const Command& command)
+{
+    return command.arguments.empty() ? std::string() : command.arguments[0];
+}
+
+/// Adds a recorded game's seed and keys, so that its first frame is that one. False when it cannot be read.
+bool AddRecordedGame(Script& script, int firstFrame, const std::filesystem::path& path)
+{
+    std::ifstream file(path);
+    for (std::string word; file >> word;) {
+        int frame = 0;
+        int key = 0;
+        std::string seed;
+        if (word == "seed" && file >> seed)
+            script.emplace(firstFrame, Command{ "seed", { seed } });
+        else if (std::sscanf(word.c_str(), "%d:%d", &frame, &key) == 2)
+            script.emplace(firstFrame + frame, Command{ "key", { std::to_string(key) } });
+    }
+    return file.eof();
+}
+
+/// False when it, or a recorded game that it names, cannot be read.
+bool ReadScript(const std::filesystem::path& path, Script& script)
+{
+    std::ifstream file(path);
+    for (std::string line; std::getline(file, line);) {
         std::istringstream words(line.substr(0, line.find('#')));
         int frame = 0;
         Command command;
@@ -63,9 +94,12 @@ Script ReadScript(std::istream& stream)
             continue;
         for (std::string word; words >> word;)
             command.arguments.push_back(word);
-        script.emplace(frame, command);
+        if (command.verb != "game")
+            script.emplace(frame, command);
+        else if (!AddRecordedGame(script, frame, path.parent_path() / Text(command)))
+            return false;
     }
-    return script;
+    return file.eof();
 }
 
 bool WritePng(const CImage& image, const std::string& path)
@@ -86,16 +120,6 @@ bool WritePng(const CImage& image, const std::string& path)
     png.height = static_cast<png_uint_32>(image.height);
     png.format = PNG_FORMAT_RGB;
     return png_image_write_to_file(&png, path.c_str(), 0, rgb.data(), 0, nullptr) != 0;
-}
-
-int Number(const Command& command, size_t index)
-{
-    return index < command.arguments.size() ? std::atoi(command.arguments[index].c_str()) : 0;
-}
-
-std::string Text(const Command& command)
-{
-    return command.arguments.empty() ? std::string() : command.arguments[0];
 }
 
 void Act(const Command& command)
@@ -123,6 +147,16 @@ bool DispatchMessages()
         DispatchMessageA(&message);
     }
     return true;
+}
+
+/// That of the first "end", else of the last command.
+int LastFrame(const Script& script)
+{
+    const auto isEnd = [](const auto& entry) { return entry.second.verb == "end"; };
+    const auto end = std::find_if(script.begin(), script.end(), isEnd);
+    if (end != script.end())
+        return end->first;
+    return script.empty() ? 0 : script.rbegin()->first;
 }
 
 /// Runs one frame without waiting for its time. False at the end of program or script.
@@ -153,22 +187,21 @@ int main(int argc, char** argv)
         std::cerr << "usage: tour SCRIPT FOLDER\n";
         return 2;
     }
-    std::ifstream file(argv[1]);
-    if (!file) {
+    Script script;
+    if (!ReadScript(argv[1], script)) {
         std::cerr << "Cannot read " << argv[1] << '\n';
         return 1;
     }
-    const Script script = ReadScript(file);
     std::filesystem::create_directories(argv[2]);
     const std::string folder = std::filesystem::absolute(argv[2]).string(); // the program changes its folder
 
     setenv("SDL_VIDEODRIVER", "dummy", 0);
     setenv("SDL_AUDIODRIVER", "dummy", 0);
-    setenv("XDG_CONFIG_HOME", "/dev/null", 1);                    // neither read nor change the player's settings
-    std::snprintf(game.name, sizeof(game.name), "Tervalis tour"); // may run beside the game
+    setenv("XDG_CONFIG_HOME", "/dev/null", 1); // neither read nor change the player's settings
+    std::snprintf(game.name, sizeof(game.name), "Tervalis tour %d", getpid()); // may run beside the game and others
     if (!CreateGameWindow(nullptr))
         return 1;
-    const int lastFrame = script.empty() ? 0 : script.rbegin()->first;
+    const int lastFrame = LastFrame(script);
     int frame = 0;
     while (frame <= lastFrame && RunFrame(frame, script, folder))
         ++frame;
