@@ -167,6 +167,9 @@ def write(picture, x, y, text, size, colour, weight="Bold", anchor="la", shadow=
 
 # ---- files ---------------------------------------------------------------------------------------
 
+written = []  # paths of the pictures saved in this run
+
+
 def quantise(picture):
     """Colours as RGB565 keeps them, dithered so that soft gradients do not band.
 
@@ -189,10 +192,12 @@ def exact(picture):
 def save_jpeg(name, picture, dither=True):
     image = Image.fromarray(quantise(picture) if dither else exact(picture))
     image.save(IMAGES / name, quality=QUALITY, subsampling=0, optimize=True)
+    written.append(IMAGES / name)
 
 
 def save_bmp(name, picture):
     Image.fromarray(exact(picture)).save(IMAGES / name)
+    written.append(IMAGES / name)
 
 
 def save_mask(name, alpha):
