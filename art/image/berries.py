@@ -17,7 +17,7 @@ LIGHT = np.array([-0.46, -0.56, 0.69])  # from the upper left, above the water
 # deep (in the shade), body, light gathered at the far side
 TINTS = {
     "red": (rgb("5a0010"), rgb("e0142a"), rgb("ff8a6a")),
-    "green": (rgb("0c3a0c"), rgb("3fa01a"), rgb("b8f05a")),
+    "green": (rgb("0c3a0c"), rgb("5cb81e"), rgb("b8f05a")),
     "blue": (rgb("0a1c78"), rgb("2f62f0"), rgb("8cd0ff")),
     "orange": (rgb("b45000"), rgb("ffa81e"), rgb("ffe070")),
     "purple": (rgb("3a0660"), rgb("a434d8"), rgb("ffb0ff")),

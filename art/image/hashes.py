@@ -19,10 +19,7 @@ def recorded():
     return dict(line.split() for line in LIST.read_text().splitlines()) if LIST.exists() else {}
 
 
-def record(paths):
-    """Takes the pictures just rendered into the list; drops those that are gone."""
-    entries = recorded() | {path.name: pixel_hash(path) for path in paths}
-    folders = {path.parent for path in paths}
-    kept = {name: value for name, value in entries.items()
-            if name in {path.name for path in paths} or any((folder / name).exists() for folder in folders)}
-    LIST.write_text("".join(f"{name} {value}\n" for name, value in sorted(kept.items())))
+def record(paths, anew):
+    """Puts the pictures just rendered on the list; a list made anew holds no others."""
+    entries = ({} if anew else recorded()) | {path.name: pixel_hash(path) for path in paths}
+    LIST.write_text("".join(f"{name} {value}\n" for name, value in sorted(entries.items())))
