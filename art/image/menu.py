@@ -90,14 +90,14 @@ def toggle(picture, label, box, checked):
 
 
 def key_field(picture, way, x, y):
-    """A key: its dark top is the field, wide enough for a word; a bright skirt around it; its direction below."""
+    """A key: its top is the field, wide enough for a word and so dark that even a red one reads; its direction below."""
     skirt = box_distance(picture.shape, x - 2, y - 2, KEY_FIELD + 4, KEY_FIELD + 5, 6)
     top = box_distance(picture.shape, x, y, KEY_FIELD, KEY_FIELD, 4)
     rows = np.mgrid[0:picture.shape[0], 0:picture.shape[1]][0]
     down = clip((rows - y) / KEY_FIELD)
     lay(picture, mix(rgb("2f7f78"), rgb("0c3d3b"), down), cover(skirt))
     lay(picture, RIM, cover(np.abs(skirt + 0.5) - 0.5) * 0.8)
-    lay(picture, mix(rgb("0a2e2d"), rgb("0e4442"), down), cover(top))
+    lay(picture, mix(rgb("020e0e"), rgb("041817"), down), cover(top))
     triangle(picture, x + KEY_FIELD / 2, y + KEY_FIELD - 4, 2.7, way, GOLD)
 
 

@@ -110,7 +110,7 @@ def messages():
     for place, kind in enumerate(COLOURS + ("golden",)):
         berry(cleared, kind, 20 + 21 * place, 56)
     over = message(MESSAGE_SIZE, "Game over", 29)
-    put(over, *bumped_head(2, 36), 62, 45)
+    put(over, *bumped_head(0, 36), 62, 45)
     following = pane(*NEXT_LEVEL_SIZE, seed=4)
     for caption, (x, y, w, h) in NEXT_LEVEL_FIELDS:
         heading(following, x + w / 2, y - 11, caption, 14)
