@@ -17,10 +17,10 @@ LIGHT = np.array([-0.46, -0.56, 0.69])  # from the upper left, above the water
 # deep (in the shade), body, light gathered at the far side
 TINTS = {
     "red": (rgb("5a0010"), rgb("e0142a"), rgb("ff8a6a")),
-    "green": (rgb("12400a"), rgb("5cb81e"), rgb("e2ff7a")),
-    "blue": (rgb("0a1458"), rgb("2c50dc"), rgb("8ec8ff")),
-    "orange": (rgb("7a2c00"), rgb("ff8a0c"), rgb("ffe070")),
-    "purple": (rgb("2c0648"), rgb("9430c4"), rgb("f29cff")),
+    "green": (rgb("0c3a0c"), rgb("5cb81e"), rgb("b8f05a")),
+    "blue": (rgb("0a1c78"), rgb("2f62f0"), rgb("8cd0ff")),
+    "orange": (rgb("b45000"), rgb("ffa81e"), rgb("ffe070")),
+    "purple": (rgb("3a0660"), rgb("a434d8"), rgb("ffb0ff")),
 }
 
 
@@ -73,9 +73,9 @@ def blue(u, v):
     colour = translucent(x, y, z, TINTS["blue"])
     cx, cy = u - 0.12, v - 0.14
     r, angle = np.hypot(cx, cy), np.arctan2(cy, cx)
-    edge = 0.30 + 0.22 * np.abs(np.cos(angle * 2.5 + 0.785)) ** 1.5
-    colour = mix(colour, rgb("bfe4ff"), 0.9 * smooth(edge + 0.10, edge - 0.02, r))
-    colour = mix(colour, rgb("081040"), 0.95 * smooth(edge - 0.13, edge - 0.26, r))
+    edge = 0.40 + 0.26 * np.abs(np.cos(angle * 2 + 0.785)) ** 1.5
+    colour = mix(colour, rgb("d4f2ff"), 0.95 * smooth(edge + 0.08, edge - 0.02, r))
+    colour = mix(colour, rgb("04083a"), 0.97 * smooth(edge - 0.15, edge - 0.25, r))
     return gloss(colour, x, y, z, 0.85)
 
 
@@ -84,16 +84,16 @@ def orange(u, v):
     colour = translucent(x, y, z, TINTS["orange"])
     r, angle = np.hypot(u, v), np.arctan2(v, u)
     wall = np.abs(np.sin(angle * 3 + 0.5)) * r  # six segments
-    seam = smooth(0.24, 0.06, wall) * smooth(0.80, 0.62, r)
-    colour = mix(colour, rgb("8a2a00"), 0.62 * smooth(0.62, 0.70, r) * smooth(0.86, 0.76, r))
-    colour = mix(colour, rgb("fff0b4"), 0.88 * seam)
+    seam = smooth(0.28, 0.08, wall) * smooth(0.80, 0.66, r)
+    colour = mix(colour, rgb("a03800"), 0.62 * smooth(0.64, 0.72, r) * smooth(0.86, 0.78, r))
+    colour = mix(colour, rgb("fff6c8"), 0.95 * seam)
     return gloss(colour, x, y, z, 0.7)
 
 
 def purple(u, v):
     """Drupelets around one in the middle, each a small sphere on the large one."""
     deep = TINTS["purple"][0]
-    colour = np.broadcast_to(deep * 0.7, u.shape + (3,)).copy()
+    colour = np.broadcast_to(deep * 0.45, u.shape + (3,)).copy()
     places = [(0.56 * np.cos(t), 0.56 * np.sin(t)) for t in np.arange(6) * np.pi / 3 + 0.52] + [(0.0, 0.0)]
     for cx, cy in places:
         x, y, z = sphere(u, v, 0.385, cx, cy)
@@ -167,8 +167,8 @@ def falling_frame(kind, frame):
 def shadow():
     """What is taken from the water under a thing: a soft disc, a little warm so that a blue shade stays."""
     u, v = disc_grid(CELL, 8)
-    dark = shrink(smooth(1.0, 0.25, np.hypot(u, v)), 8)
-    return dark[..., None] * np.array([0.24, 0.25, 0.21])
+    dark = shrink(smooth(1.0, 0.05, np.hypot(u, v)), 8)
+    return dark[..., None] * np.array([0.20, 0.22, 0.18])
 
 
 def render():

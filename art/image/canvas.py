@@ -13,6 +13,7 @@ IMAGES = ROOT / "assets" / "image"
 FONTS = pathlib.Path("/usr/share/fonts/truetype/lato")
 KEY = 1.0  # pure white is transparent in colour-keyed pictures
 QUALITY = 96
+CONTRAST = 4.5  # of letters with what lies behind them, at least
 
 
 # ---- numbers -------------------------------------------------------------------------------------
@@ -137,16 +138,37 @@ def text_alpha(shape, x, y, text, size, weight="Bold", anchor="la", spacing=0):
     return np.asarray(page) / 255.0
 
 
+def luminance(colour):
+    """Relative luminance as the contrast of text is reckoned, sRGB in."""
+    colour = np.asarray(colour)
+    linear = np.where(colour <= 0.04045, colour / 12.92, ((colour + 0.055) / 1.055) ** 2.4)
+    return linear @ np.array([0.2126, 0.7152, 0.0722])
+
+
+def contrast(picture, alpha, colour):
+    """Contrast of letters with the ground that shows between and close around them; its worst quarter counts."""
+    near = (ndimage.maximum_filter(alpha, 3) > 0.3) & (alpha < 0.1)
+    ground, ink = luminance(picture[near]), luminance(colour)
+    worst = np.percentile(ground, 25 if ink < ground.mean() else 75)
+    return (max(worst, ink) + 0.05) / (min(worst, ink) + 0.05)
+
+
 def write(picture, x, y, text, size, colour, weight="Bold", anchor="la", shadow=0.6, spacing=0):
-    """Writes text with a soft dark edge that keeps it readable on any ground."""
+    """Writes text with a soft dark edge that keeps it readable on any ground. Refuses too low a contrast."""
     alpha = text_alpha(picture.shape, x, y, text, size, weight, anchor, spacing)
     if shadow:
         dark = clip(np.roll(blur(alpha, 0.8), 1, axis=0) * 1.5) * shadow
         lay(picture, rgb("02100f"), dark)
+    reached = contrast(picture, alpha, colour)
+    if reached < CONTRAST:
+        raise ValueError(f'"{text}" at {x}, {y} has a contrast of only {reached:.1f} to 1')
     lay(picture, colour, alpha)
 
 
 # ---- files ---------------------------------------------------------------------------------------
+
+written = []  # paths of the pictures saved in this run
+
 
 def quantise(picture):
     """Colours as RGB565 keeps them, dithered so that soft gradients do not band.
@@ -170,10 +192,12 @@ def exact(picture):
 def save_jpeg(name, picture, dither=True):
     image = Image.fromarray(quantise(picture) if dither else exact(picture))
     image.save(IMAGES / name, quality=QUALITY, subsampling=0, optimize=True)
+    written.append(IMAGES / name)
 
 
 def save_bmp(name, picture):
     Image.fromarray(exact(picture)).save(IMAGES / name)
+    written.append(IMAGES / name)
 
 
 def save_mask(name, alpha):

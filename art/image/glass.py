@@ -57,9 +57,9 @@ def button(picture, box, label, size=11, hot=False, radius=None):
     edge = box_distance(picture.shape, x + 0.5, y + 0.5, width - 1, height - 1, radius)
     rows = np.mgrid[0:picture.shape[0], 0:picture.shape[1]][0]
     down = clip((rows - y) / height)
-    top, bottom = (rgb("ffe890"), rgb("e08a18")) if hot else (rgb("2c9a8c"), rgb("0a4a48"))
+    top, bottom = (rgb("ffe890"), rgb("e08a18")) if hot else (rgb("1d7c72"), rgb("07403e"))
     lay(picture, mix(top, bottom, down), cover(edge) * 0.94)
-    lay(picture, rgb("ffffff"), cover(edge + 1.5) * smooth(0.52, 0.40, down) * (0.30 if hot else 0.16))
+    lay(picture, rgb("ffffff"), cover(edge + 1.5) * smooth(0.52, 0.40, down) * (0.30 if hot else 0.10))
     lay(picture, rgb("fff8d8") if hot else RIM, cover(np.abs(edge + 0.5) - 0.5) * 0.9)
     colour = rgb("3a1c00") if hot else TEXT
     write(picture, x + width / 2, y + height / 2, label, size, colour, "Bold", "mm", shadow=0 if hot else 0.7)

@@ -21,7 +21,7 @@ def tab(picture, box, label, current):
     rows = np.mgrid[0:picture.shape[0], 0:picture.shape[1]][0]
     inside = cover(edge) * (rows < y + height)
     down = clip((rows - y) / height)
-    top, bottom = (rgb("2f9c8e"), rgb("135653")) if current else (rgb("0c3d3b"), rgb("041d1c"))
+    top, bottom = (rgb("217f74"), rgb("135653")) if current else (rgb("0c3d3b"), rgb("041d1c"))
     lay(picture, mix(top, bottom, down), inside * 0.92)
     lay(picture, RIM, cover(np.abs(edge + 0.5) - 0.5) * (rows < y + height) * (0.95 if current else 0.45))
     write(picture, x + width / 2, y + height / 2 + 1, label, 15, GOLD if current else SOFT, "Bold", "mm")

@@ -6,7 +6,7 @@ import numpy as np
 from PIL import Image
 
 from berries import object_picture
-from canvas import ROOT, clip, disc_grid, exact, put, rgb, shrink, smooth
+from canvas import ROOT, clip, disc_grid, exact, put, rgb, shrink, smooth, written
 from snakes import NEUTRAL, RIGHT_FRONT, WARM, bead, head
 
 ICON = ROOT / "packaging" / "tervalis.ico"
@@ -61,3 +61,4 @@ def render():
         offset += len(data)
     ICON.parent.mkdir(exist_ok=True)
     ICON.write_bytes(struct.pack("<HHH", 0, 1, len(images)) + entries + b"".join(images))
+    written.append(ICON)

@@ -90,18 +90,15 @@ def toggle(picture, label, box, checked):
 
 
 def key_field(picture, way, x, y):
-    """A dark key with a bright edge, so that the white letter on it reads; its direction beside it."""
-    edge = box_distance(picture.shape, x, y, KEY_FIELD, KEY_FIELD, 6)
+    """A key: its top is the field, wide enough for a word and so dark that even a red one reads; its direction below."""
+    skirt = box_distance(picture.shape, x - 2, y - 2, KEY_FIELD + 4, KEY_FIELD + 5, 6)
+    top = box_distance(picture.shape, x, y, KEY_FIELD, KEY_FIELD, 4)
     rows = np.mgrid[0:picture.shape[0], 0:picture.shape[1]][0]
     down = clip((rows - y) / KEY_FIELD)
-    lay(picture, mix(rgb("2f7f78"), rgb("0c3d3b"), down), cover(edge))
-    inner = box_distance(picture.shape, x + 4, y + 3, KEY_FIELD - 8, KEY_FIELD - 9, 4)
-    lay(picture, mix(rgb("0a2e2d"), rgb("0e4442"), down), cover(inner))
-    lay(picture, RIM, cover(np.abs(edge + 0.5) - 0.5) * 0.8)
-    middle = KEY_FIELD / 2
-    cx, cy = {"up": (middle, -4.5), "down": (middle, KEY_FIELD + 4.5), "left": (-4.5, middle),
-              "right": (KEY_FIELD + 4.5, middle)}[way]
-    triangle(picture, x + cx, y + cy, 2.8, way, GOLD)
+    lay(picture, mix(rgb("2f7f78"), rgb("0c3d3b"), down), cover(skirt))
+    lay(picture, RIM, cover(np.abs(skirt + 0.5) - 0.5) * 0.8)
+    lay(picture, mix(rgb("020e0e"), rgb("041817"), down), cover(top))
+    triangle(picture, x + KEY_FIELD / 2, y + KEY_FIELD - 4, 2.7, way, GOLD)
 
 
 def options():

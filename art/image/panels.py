@@ -4,14 +4,15 @@ import numpy as np
 from berries import CELL, COLOURS, object_picture
 from canvas import (box_distance, clip, cover, lay, mix, put, quantise, rgb, save_bmp, save_jpeg, save_keyed, smooth,
                     write)
-from glass import GOLD, SOFT, button, heading, pane, rule, well
+from glass import GOLD, RIM, SOFT, button, heading, pane, rule, well
 from icons import heart
 from layout import (CENSUS, CONFIRM_BUTTONS, LENGTH, LEVEL, LIVES, MESSAGE_SIZE, NEXT_LEVEL_FIELDS, NEXT_LEVEL_SIZE,
                     PAUSED_BUTTONS, PLAYER_STEP, PROGRESS, SCORE, STREAK, STREAK_STEP, STRIP_BUTTONS, STRIP_SIZE,
                     TARGET)
 from snakes import COOL, WARM, bead, bumped_head
 
-HEART, STREAK_ICON = (14, 12), 11
+HEART, HEART_STEP, STREAK_ICON = (14, 12), 15, 11
+FIGURE_MIDDLE = 6  # of a line of figures, below its top
 
 
 def berry(picture, kind, x, y, size=CELL):
@@ -27,15 +28,21 @@ def player_block(picture, number, drop):
     write(picture, 28, 52 + drop, f"Player {number}", 13, GOLD, "Bold", "lm")
     rule(picture, 4, 140 + drop, 112)
     for caption, (x, y) in (("Lives", LIVES), ("Length", LENGTH), ("Streak", STREAK), ("Score", SCORE)):
-        if caption == "Streak":
-            middle = y + STREAK_ICON / 2
-        else:
-            middle = y + 6.5
-            well(picture, (x - 3, y + drop - (caption == "Lives"), 78, 14), 3, 0.45)
-        write(picture, 42, middle + drop, caption, 10, SOFT, "Bold", "rm")
+        middle = y + drop + {"Lives": HEART[1] / 2, "Streak": STREAK_ICON / 2}.get(caption, FIGURE_MIDDLE)
+        write(picture, 42, middle, caption, 10, SOFT, "Bold", "rm")
+        if caption in ("Length", "Score"):
+            well(picture, (x - 3, y + drop - 1, 78, 14), 3, 0.45)
     for step in range(5):
+        heart_socket(picture, LIVES[0] + HEART_STEP * step, LIVES[1] + drop)
         cx, cy = STREAK[0] + STREAK_STEP * step + 5.5, STREAK[1] + drop + 5.5
         well(picture, (cx - 5, cy - 5, 10, 10), 5, 0.45)
+
+
+def heart_socket(picture, x, y):
+    """A heart-shaped hollow for a life, dark with a thin light lower edge."""
+    _, alpha = heart(*HEART)
+    put(picture, np.broadcast_to(RIM, alpha.shape + (3,)), alpha, x, y + 1, 0.35)
+    put(picture, np.broadcast_to(rgb("031a19"), alpha.shape + (3,)), alpha, x, y, 0.9)
 
 
 def strip():
@@ -48,15 +55,15 @@ def strip():
 
     write(picture, 64, 301, "In the pond", 12, GOLD, "Bold", "mm")
     for kind, x, y in CENSUS:
-        well(picture, (x - 3, y, 22, 14), 3, 0.45)
-        berry(picture, kind, x - 22, y - 1)
+        well(picture, (x - 3, y - 1, 22, 14), 3, 0.45)
+        berry(picture, kind, x - 22, y - 2)
 
-    write(picture, TARGET[0], TARGET[1] - 11, "Target", 11, SOFT, "Bold", "mm")
-    well(picture, (TARGET[0] - 18, TARGET[1] - 2, 37, 13), 3)
+    write(picture, TARGET[0], TARGET[1] - 9, "Target", 11, SOFT, "Bold", "mm")
+    well(picture, (TARGET[0] - 21, TARGET[1] - 1, 42, 14), 3)
     x, y, w, h = PROGRESS
     well(picture, (x - 2, y, w + 4, h), 6, 0.75)
     write(picture, LEVEL[0], LEVEL[1] - 7, "Level", 11, SOFT, "Bold", "mm")
-    well(picture, (LEVEL[0] - 19, LEVEL[1], 38, 14), 3)
+    well(picture, (LEVEL[0] - 19, LEVEL[1] - 1, 38, 14), 3)
     for label, box in STRIP_BUTTONS:
         button(picture, box, label, 10)
     for key, (_, (x, y, w, h)) in zip(("Space", "F1", "Esc"), STRIP_BUTTONS):
@@ -103,7 +110,7 @@ def messages():
     for place, kind in enumerate(COLOURS + ("golden",)):
         berry(cleared, kind, 20 + 21 * place, 56)
     over = message(MESSAGE_SIZE, "Game over", 29)
-    put(over, *bumped_head(2, 36), 62, 45)
+    put(over, *bumped_head(0, 36), 62, 45)
     following = pane(*NEXT_LEVEL_SIZE, seed=4)
     for caption, (x, y, w, h) in NEXT_LEVEL_FIELDS:
         heading(following, x + w / 2, y - 11, caption, 14)

@@ -17,12 +17,18 @@ ORDER = {
     "left": (NEUTRAL, EAT, LEFT_FRONT, LEFT, RIGHT_FRONT, RIGHT),
     "right": (NEUTRAL, EAT, LEFT_FRONT, LEFT, RIGHT_FRONT, RIGHT),
 }
-GAZE = {NEUTRAL: (0.0, -0.55), LEFT_FRONT: (-0.80, -0.60), LEFT: (-1.0, 0.10),
-        RIGHT_FRONT: (0.80, -0.60), RIGHT: (1.0, 0.10)}
-
-SKIN, SKIN_SHADE, SKIN_LIGHT = rgb("74d23a"), rgb("0e4420"), rgb("e8ffa0")
-INK = rgb("06140e")
+# To the side a head turns its whole face: the eye on that side narrows, the other comes toward the middle.
+# Eyes as (across, along, size), the one drawn last over the other; then the pupils' direction.
 EYE_X, EYE_Y, EYE = 0.47, -0.16, 0.47
+FACE = {
+    NEUTRAL: (((-EYE_X, EYE_Y, EYE), (EYE_X, EYE_Y, EYE)), (0.0, -0.30)),
+    LEFT_FRONT: (((-0.56, -0.30, 0.40), (0.31, -0.20, 0.50)), (-0.72, -0.72)),
+    LEFT: (((-0.60, -0.12, 0.37), (0.23, -0.06, 0.52)), (-1.0, 0.12)),
+}
+MIRRORED = {RIGHT_FRONT: LEFT_FRONT, RIGHT: LEFT}
+
+SKIN, SKIN_SHADE, SKIN_LIGHT = rgb("8ee23c"), rgb("14561c"), rgb("f2ffb0")
+INK = rgb("06140e")
 
 
 def turned(u, v, quarters):
@@ -39,23 +45,32 @@ def skin(u, v, a, b):
     lit = clip(-0.46 * x - 0.56 * y + 0.69 * z)
     colour = mix(SKIN_SHADE, SKIN, 0.25 + 0.85 * lit)
     colour = mix(colour, SKIN_LIGHT, 0.5 * smooth(0.35, 1.0, x * 0.6 + y * 0.7) * smooth(0.05, 0.4, z))
-    colour = mix(colour, SKIN_SHADE * 0.6, 0.9 * smooth(0.40, 0.12, z))
+    colour = mix(colour, SKIN_SHADE, 0.75 * smooth(0.62, 0.45, z))
+    colour = mix(colour, SKIN_LIGHT, 0.85 * smooth(0.45, 0.28, z))  # a rim of light parts it from the water
     return mix(colour, rgb("ffffff"), 0.5 * shine(x, y, z, 30)), r
 
 
-def eye(colour, a, b, cx, gaze, up_left, size=EYE, pupil=0.58):
+def face(look):
+    """The open eyes of an expression and where they look; the right side's are the left's in a mirror."""
+    eyes, (gx, gy) = FACE[MIRRORED.get(look, look)]
+    if look not in MIRRORED:
+        return eyes, (gx, gy)
+    return tuple((-cx, cy, size) for cx, cy, size in eyes), (-gx, gy)
+
+
+def eye(colour, a, b, place, gaze, up_left, pupil=0.56):
     """One open eye at its place in the snake's own coordinates, looking along gaze.
 
     `up_left` is the picture's upper left in those coordinates: there the light glints.
     """
-    cy = EYE_Y
+    cx, cy, size = place
     r = np.hypot(a - cx, b - cy) / size
     x, y, z = sphere(a, b, size, cx, cy)
     white = mix(rgb("aebfc4"), rgb("ffffff"), smooth(0.15, 0.75, z))
     colour = mix(colour, INK, smooth(1.16, 1.02, r))
     colour = mix(colour, white, smooth(1.0, 0.90, r))
     gx, gy = gaze
-    reach = 0.40 / max(np.hypot(gx, gy), 1.0)
+    reach = 0.50
     px, py = (a - cx) / size - gx * reach, (b - cy) / size - gy * reach
     colour = mix(colour, rgb("0a1a2c"), smooth(pupil + 0.06, pupil - 0.06, np.hypot(px, py)) * smooth(1.0, 0.92, r))
     glint = np.hypot(a - cx - up_left[0] * 0.25, b - cy - up_left[1] * 0.25)
@@ -89,9 +104,11 @@ def head(quarters, look, size):
         for side in (-1, 1):
             colour = closed_eye(colour, a, b, side * EYE_X)
     else:
-        for side in (-1, 1):
-            colour = eye(colour, a, b, side * EYE_X, GAZE[look], up_left)
-            alpha = np.maximum(alpha, smooth(1.16, 1.12, np.hypot(a - side * EYE_X, b - EYE_Y) / EYE))
+        eyes, gaze = face(look)
+        for place in eyes:
+            colour = eye(colour, a, b, place, gaze, up_left)
+            cx, cy, eye_size = place
+            alpha = np.maximum(alpha, smooth(1.16, 1.12, np.hypot(a - cx, b - cy) / eye_size))
     return shrink(colour, fine), shrink(alpha, fine)
 
 
@@ -125,23 +142,25 @@ def bumped_head(quarters, size):
     return shrink(colour, fine), shrink(alpha, fine)
 
 
-WARM = (rgb("ff5206"), rgb("ffa838"), rgb("ffdc90"))
-COOL = (rgb("0c3cff"), rgb("509cff"), rgb("c8ecff"))
+WARM = (rgb("ff4600"), rgb("ff9826"), rgb("ffdc88"))
+COOL = (rgb("0a3cff"), rgb("3c98ff"), rgb("c8ecff"))
 
 
 def bead(light, size, ring):
-    """Light to add to the water: an orb with a bright rim; a warm one has a solid heart, a cool one a ring."""
+    """Light to add to the water. Not only the colour tells the players apart: one has solid orbs with a glowing
+    heart, the other hollow rings, like bubbles with a point of light."""
     fine = max(4, 192 // size)
     u, v = disc_grid(size, fine)
     r = np.hypot(u, v)
     edge, heart, spark = light
-    glowing = edge * (0.85 * smooth(1.0, 0.70, r))[..., None]
     if ring:
-        core = smooth(0.16, 0.02, np.abs(r - 0.46)) * 0.62
+        body = 0.46 * smooth(0.98, 0.80, r) + 0.45 * smooth(0.28, 0.06, np.abs(r - 0.76))
+        core = 0.50 * smooth(0.22, 0.04, np.abs(r - 0.76))
     else:
-        core = smooth(0.62, 0.10, r) * 0.55
-    glowing = glowing * (0.78 + 0.22 * smooth(0.5, 0.9, r))[..., None] + heart * core[..., None] * 0.75
-    glowing += spark * (0.8 * smooth(0.26, 0.10, np.hypot(u + 0.32, v + 0.36)))[..., None]
+        body = 0.72 * smooth(1.0, 0.72, r) * (0.78 + 0.22 * smooth(0.5, 0.9, r))
+        core = 0.52 * smooth(0.70, 0.10, r)
+    glowing = edge * body[..., None] + heart * core[..., None] * 0.75
+    glowing += spark * (0.80 * smooth(0.26, 0.10, np.hypot(u + 0.32, v + 0.36)))[..., None]
     glowing += spark * (0.25 * smooth(0.4, 0.9, u * 0.6 + v * 0.7) * smooth(0.94, 0.80, r))[..., None]
     return clip(shrink(glowing, fine))
 
