@@ -30,7 +30,7 @@ protected:
 };
 
 /// Another process that has made the mutex and lives until it is killed, and a child of it that lives some longer, as
-/// the one that shows a message box.
+/// the one that shows a message box. Both are under way when this returns.
 pid_t StartOwner()
 {
     int ready[2] = {};
@@ -40,18 +40,19 @@ pid_t StartOwner()
     if (owner == 0) {
         const char made = CreateMutexA(nullptr, FALSE, "Test") ? 'y' : 'n';
         if (fork() == 0) {
-            sleep(1);
+            if (write(ready[1], &made, 1) == 1)
+                sleep(1);
             _exit(0);
         }
         if (write(ready[1], &made, 1) == 1)
             pause();
         _exit(1);
     }
-    char made = 0;
-    const bool answered = read(ready[0], &made, 1) == 1;
+    char made[2] = {};
+    const bool answered = read(ready[0], &made[0], 1) == 1 && read(ready[0], &made[1], 1) == 1;
     close(ready[0]);
     close(ready[1]);
-    return answered && made == 'y' ? owner : -1;
+    return answered && made[0] == 'y' && made[1] == 'y' ? owner : -1;
 }
 }
 
