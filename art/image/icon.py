@@ -62,3 +62,4 @@ def render():
     ICON.parent.mkdir(exist_ok=True)
     ICON.write_bytes(struct.pack("<HHH", 0, 1, len(images)) + entries + b"".join(images))
     written.append(ICON)
+    ICON.with_suffix(".png").write_bytes(images[-1])  # the largest, for desktops that take no icon file
