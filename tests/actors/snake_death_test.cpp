@@ -44,10 +44,9 @@ TEST_F(SnakeDeath, LeavesThePondWithoutLivesAndNothingRevivesIt)
     EXPECT_TRUE(Snake().isOut);
 
     Snake().SnakeGather();
-    Snake().SnakeRestart();
-    Frame(UP);
-    EXPECT_EQ(Snake().length, 0);
     EXPECT_TRUE(Snake().isActive);
+    Snake().SnakeRestart();
+    EXPECT_EQ(Snake().length, 0);
     EXPECT_FALSE(Snake().isWaiting);
 }
 }

@@ -48,16 +48,18 @@ TEST_F(Scenery, LightsGrowAtDuskAndWaneAtDawn)
     pond.nightBackground.Fill(0);
     pond.lightImage.Fill(0xFFFF);
     for (const LightCase& given : cases) {
-        StartGame(0);
-        PlaceHead(0, 0, 0);
-        pond.isDay = given.isDay;
-        pond.transition = given.transition;
-        Play(1);
-        for (const int y : { 60, 408 }) // near the head and, wrapping around, at the opposite edges
-            for (const int x : { 60, 408 })
-                EXPECT_EQ(Pixel(pondImage, x, y), given.light) << given.why << ' ' << x << ' ' << y;
-        for (const int dark : { 88, 407 })
-            EXPECT_EQ(Pixel(pondImage, dark, 60) | Pixel(pondImage, 60, dark), 0) << given.why << ' ' << dark;
+        for (int corner = 0; corner < 4; ++corner) {
+            StartGame(0);
+            PlaceHead(0, corner % 2 * 464, corner / 2 * 464);
+            pond.isDay = given.isDay;
+            pond.transition = given.transition;
+            Play(1);
+            for (const int y : { 60, 408 }) // near the head and, wrapping around, at the opposite edges
+                for (const int x : { 60, 408 })
+                    EXPECT_EQ(Pixel(pondImage, x, y), given.light) << given.why << ' ' << x << ' ' << y;
+            for (const int dark : { 88, 391 })
+                EXPECT_EQ(Pixel(pondImage, dark, 60) | Pixel(pondImage, 60, dark), 0) << given.why << ' ' << dark;
+        }
     }
 }
 

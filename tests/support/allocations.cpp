@@ -22,7 +22,7 @@ void FailPlane(int number)
     planesUntilFailure = number;
 }
 
-// The other forms of `new` call these two.
+// Most other forms of `new` call the first. Planes use the second, written out because a sanitiser's do not.
 void* operator new(size_t size)
 {
     ++allocations;
@@ -31,18 +31,15 @@ void* operator new(size_t size)
     throw std::bad_alloc();
 }
 
-void* operator new(size_t size, std::align_val_t alignment)
+void* operator new[](size_t size, std::align_val_t alignment, const std::nothrow_t&) noexcept
 {
-    // Only the planes are aligned beyond the ordinary.
     ++allocations;
     if (planesUntilFailure > 0 && --planesUntilFailure == 0)
-        throw std::bad_alloc();
-    if (void* memory = AllocateAligned(size, static_cast<size_t>(alignment)))
-        return memory;
-    throw std::bad_alloc();
+        return nullptr;
+    return AllocateAligned(size, static_cast<size_t>(alignment));
 }
 
-void operator delete(void* memory, std::align_val_t) noexcept
+void operator delete[](void* memory, std::align_val_t) noexcept
 {
     FreeAligned(memory);
 }
