@@ -8,7 +8,6 @@
 
 #include <functional>
 #include <iterator>
-#include <new>
 
 namespace
 {
@@ -144,9 +143,8 @@ bool CStatusBar::LoadFont()
 
 bool CStatusBar::LoadImages()
 {
-    images.reset(new (std::nothrow) CImage[STATUS_IMAGES]);
-    if (images == nullptr)
-        return FailWith(ENGINE_ALLOCATE_MEMORY);
+    if (!AllocateImages(images, STATUS_IMAGES))
+        return false;
     for (int i = 0; i < STATUS_IMAGES; ++i) {
         if (!imageFiles[i].load(images[i], imageFiles[i].path))
             return false;

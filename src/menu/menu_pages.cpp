@@ -1,12 +1,9 @@
 #include "app/globals.h"
 #include "app/log.h"
-#include "gfx/error.h"
 #include "menu/menu_items.h"
 #include "menu/section_menu.h"
 #include "res/image_loader.h"
 #include "sound/sound.h"
-
-#include <new>
 
 namespace
 {
@@ -21,6 +18,7 @@ constexpr SoundFile menuSounds[] = {
     { SOUND_MENU_ENV_FIRST + 3, "Wav\\env12.wav" },
     { SOUND_MENU_ENV_LAST, "Wav\\env13.wav" },
 };
+static_assert(AllIdsDiffer(menuSounds));
 
 struct MenuFont {
     CTextImage CSectionMenu::*text;
@@ -148,9 +146,8 @@ bool CSectionMenu::LoadFonts()
 
 bool CSectionMenu::LoadPictures()
 {
-    images.reset(new (std::nothrow) CImage[MENU_IMAGES]);
-    if (!images)
-        return FailWith(ENGINE_ALLOCATE_MEMORY);
+    if (!AllocateImages(images, MENU_IMAGES))
+        return false;
     for (const PictureFile& file : pictureFiles) {
         if (!LoadJpegFile(images[file.picture], file.path))
             return false;
