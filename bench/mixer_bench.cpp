@@ -1,7 +1,7 @@
 // A second of sound from as many voices as the game has, all playing at once. Names are Mix/VOICES.
 #include "test_images.h"
 
-#include "platform/sdl/mixer.h"
+#include "platform/posix/mixer.h"
 
 #include <algorithm>
 #include <memory>

@@ -1,5 +1,5 @@
 #include "platform/directsound.h"
-#include "platform/sdl/mixer.h"
+#include "platform/posix/mixer.h"
 #include "platform/sdl/window_state.h"
 
 #include <SDL.h>

@@ -1,4 +1,4 @@
-#include "platform/sdl/mixer.h"
+#include "platform/posix/mixer.h"
 
 #include <algorithm>
 #include <cstring>
