@@ -1,6 +1,6 @@
 #include "actors/status_bar_fixture.h"
+#include "doubles/fake_platform.h"
 #include "gfx/error.h"
-#include "platform/fake_platform.h"
 #include "sound/sound.h"
 
 #include <filesystem>

@@ -2,9 +2,9 @@
 
 #include "app/globals.h"
 #include "app/section.h"
+#include "doubles/fake_platform.h"
 #include "gfx/display.h"
 #include "gfx/error.h"
-#include "platform/fake_platform.h"
 #include "platform/kernel.h"
 #include "support/temp_folder.h"
 

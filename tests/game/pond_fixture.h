@@ -2,9 +2,9 @@
 
 #include "app/globals.h"
 #include "app/random.h"
+#include "doubles/fake_platform.h"
 #include "game/water.h"
 #include "gfx/blit.h"
-#include "platform/fake_platform.h"
 #include "support/test_game.h"
 
 #include <gtest/gtest.h>

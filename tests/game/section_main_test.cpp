@@ -1,10 +1,10 @@
 #include "game/section_main.h"
 
 #include "app/globals.h"
+#include "doubles/fake_platform.h"
 #include "game/water.h"
 #include "menu/menu_items.h"
 #include "menu/section_menu.h"
-#include "platform/fake_platform.h"
 #include "support/game_fixture.h"
 #include "support/test_pictures.h"
 

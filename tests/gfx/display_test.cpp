@@ -1,7 +1,7 @@
 #include "gfx/display.h"
 
+#include "doubles/fake_platform.h"
 #include "gfx/error.h"
-#include "platform/fake_platform.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "menu/menu_fixture.h"
 
 #include "app/globals.h"
+#include "doubles/fake_platform.h"
 #include "gfx/display.h"
-#include "platform/fake_platform.h"
 #include "sound/sound.h"
 #include "support/settings_store.h"
 

@@ -1,7 +1,7 @@
 #include "menu/menu.h"
 
 #include "app/globals.h"
-#include "platform/fake_platform.h"
+#include "doubles/fake_platform.h"
 #include "sound/sound.h"
 
 #include <algorithm>

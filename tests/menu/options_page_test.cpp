@@ -1,8 +1,8 @@
 #include "app/globals.h"
+#include "doubles/fake_platform.h"
 #include "gfx/display.h"
 #include "menu/menu_fixture.h"
 #include "menu/menu_items.h"
-#include "platform/fake_platform.h"
 #include "sound/sound.h"
 
 namespace

@@ -1,8 +1,8 @@
 #include "app/globals.h"
 #include "app/random.h"
+#include "doubles/fake_platform.h"
 #include "menu/menu_fixture.h"
 #include "menu/menu_items.h"
-#include "platform/fake_platform.h"
 #include "sound/sound.h"
 
 #include <algorithm>

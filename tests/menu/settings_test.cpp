@@ -1,7 +1,7 @@
 #include "app/globals.h"
+#include "doubles/fake_platform.h"
 #include "gfx/display.h"
 #include "menu/menu_fixture.h"
-#include "platform/fake_platform.h"
 #include "sound/sound.h"
 
 #include <cstring>

@@ -1,6 +1,6 @@
 #include "sound/sound.h"
 
-#include "platform/fake_platform.h"
+#include "doubles/fake_platform.h"
 #include "sound/wave_bytes.h"
 #include "support/temp_folder.h"
 

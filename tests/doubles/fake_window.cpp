@@ -1,5 +1,5 @@
-#include "platform/fake_handle.h"
-#include "platform/fake_platform.h"
+#include "doubles/fake_handle.h"
+#include "doubles/fake_platform.h"
 #include "platform/gdi.h"
 #include "platform/kernel.h"
 #include "platform/multimedia.h"

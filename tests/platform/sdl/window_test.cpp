@@ -1,6 +1,6 @@
 #include "platform/sdl/native_window.h"
+#include "platform/sdl/window_fixture.h"
 #include "platform/sdl/window_state.h"
-#include "sdl/window_fixture.h"
 
 #include <cstdlib>
 

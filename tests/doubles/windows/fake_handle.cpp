@@ -1,4 +1,4 @@
-#include "platform/fake_handle.h"
+#include "doubles/fake_handle.h"
 
 HANDLE NewFakeHandle()
 {

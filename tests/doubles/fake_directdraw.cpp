@@ -1,5 +1,5 @@
+#include "doubles/fake_platform.h"
 #include "platform/directdraw.h"
-#include "platform/fake_platform.h"
 #include "unused_methods.h"
 
 #include <vector>

@@ -1,7 +1,7 @@
 #include "platform/directdraw.h"
 #include "platform/gdi.h"
 #include "platform/sdl/native_window.h"
-#include "sdl/window_fixture.h"
+#include "platform/sdl/window_fixture.h"
 
 #include <array>
 

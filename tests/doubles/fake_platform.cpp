@@ -1,4 +1,4 @@
-#include "platform/fake_platform.h"
+#include "doubles/fake_platform.h"
 
 #include <algorithm>
 

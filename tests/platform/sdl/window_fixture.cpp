@@ -1,4 +1,4 @@
-#include "sdl/window_fixture.h"
+#include "platform/sdl/window_fixture.h"
 
 #include "platform/sdl/native_window.h"
 
