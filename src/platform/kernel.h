@@ -12,6 +12,7 @@ constexpr DWORD ERROR_SUCCESS = 0;
 constexpr DWORD ERROR_FILE_NOT_FOUND = 2;
 constexpr DWORD ERROR_ACCESS_DENIED = 5;
 constexpr DWORD ERROR_INVALID_HANDLE = 6;
+constexpr DWORD ERROR_NOT_ENOUGH_MEMORY = 8;
 constexpr DWORD ERROR_WRITE_FAULT = 29;
 constexpr DWORD ERROR_READ_FAULT = 30;
 constexpr DWORD ERROR_ALREADY_EXISTS = 183;
@@ -33,8 +34,9 @@ struct OVERLAPPED;
 /// The error of this thread's last failed call.
 DWORD GetLastError();
 
-/// A mutex known by name to every process of this user. The system drops it when its owner dies.
-/// An existing one is opened and GetLastError gives ERROR_ALREADY_EXISTS. Null on failure.
+/// A mutex known by name to every process that keeps its settings in the same folder. The system drops it when its
+/// owner dies. An existing one is opened and GetLastError gives ERROR_ALREADY_EXISTS. Null on failure, with a line on
+/// the error output.
 HANDLE CreateMutexA(SECURITY_ATTRIBUTES* security, BOOL initialOwner, LPCSTR name);
 
 /// Stores an error for GetLastError.

@@ -79,7 +79,7 @@ timeout 20 "$loose/tervalis" >"$loose/second" 2>&1 || fail "a second copy ended 
 cmp -s "$loose/Log.txt" "$loose/before.txt" || fail "a second copy wrote to the log"
 stop "$loose"
 
-packed=$(new_copy packed)
+packed=$(new_copy 'pack\ed') # a back slash is a letter here
 cp "$program/Dat/Image.xpf" "$packed/Dat/"
 start "$packed"
 stop "$packed"

@@ -34,6 +34,8 @@ std::string FindIgnoringCase(const fs::path& folder, const std::string& name)
 std::string ResolvePath(const char* path)
 {
     std::string written = path ? path : "";
+    if (Exists(written))
+        return written;
     std::replace(written.begin(), written.end(), '\\', '/');
     if (written.empty() || Exists(written))
         return written;

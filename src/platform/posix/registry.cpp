@@ -1,17 +1,15 @@
 #include "platform/registry.h"
 
 #include "platform/posix/safe_file.h"
+#include "platform/posix/user_folders.h"
 
-#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <optional>
-#include <pwd.h>
 #include <sstream>
 #include <string>
 #include <string_view>
 #include <toml++/toml.h>
-#include <unistd.h>
 
 /// An open key: the values of its file, and whether they differ from it.
 struct HKEY__ {
@@ -41,33 +39,11 @@ bool IsOpenKey(HKEY key)
     return key != nullptr && key != HKEY_CURRENT_USER;
 }
 
-bool IsAbsolute(const char* path)
-{
-    return path != nullptr && path[0] == '/';
-}
-
-/// Where programs of this user keep their settings; empty when the user has no home.
-std::string ConfigFolder()
-{
-    if (const char* folder = getenv("XDG_CONFIG_HOME"); IsAbsolute(folder))
-        return folder;
-    const char* home = getenv("HOME");
-    if (!IsAbsolute(home)) {
-        const passwd* user = getpwuid(getuid());
-        home = user != nullptr ? user->pw_dir : nullptr;
-    }
-    return IsAbsolute(home) ? std::string(home) + "/.config" : "";
-}
-
 /// The folder of a key's file: "Software\Tervalis" lies in "Tervalis". Empty when there is none.
 std::string KeyFolder(LPCSTR subKey)
 {
-    std::string_view name = subKey != nullptr ? subKey : "";
-    name.remove_prefix(name.find_last_of("\\/") + 1); // nothing found is -1
-    const std::string config = ConfigFolder();
-    if (config.empty() || name.empty() || name == "." || name == "..")
-        return "";
-    return config + "/" + std::string(name);
+    const std::string_view name = subKey != nullptr ? subKey : "";
+    return SettingsFolder(std::string(name.substr(name.find_last_of("\\/") + 1))); // nothing found is -1
 }
 
 std::string Format(const toml::table& table)

@@ -29,6 +29,7 @@ TEST_P(PathTable, FindsTheFile)
     folder.Write("Dat/Image/Bg0.JPG", "x");
     folder.Write("Dat/Image/bg1.jpg", "x");
     folder.Write("Dat/Image/BG1.JPG", "x");
+    folder.Write("back\\slash/x", "x");
     const PathCase& path = GetParam();
     EXPECT_EQ(ResolvePath(path.written), path.found) << path.why;
     const std::string absolute = folder.Path() + "/" + path.written;
@@ -41,6 +42,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PathCase{ "dat\\IMAGE/bg0.jpg", "Dat/Image/Bg0.JPG", "another case in every part, both slashes" },
                     PathCase{ "dat/image/bg1.jpg", "Dat/Image/bg1.jpg", "the name as written before any other" },
                     PathCase{ "Dat/Image/Bg1.Jpg", "Dat/Image/BG1.JPG", "two candidates: always the same one" },
+                    PathCase{ "back\\slash/", "back\\slash/", "a folder with a back slash in its own name" },
                     PathCase{ "dat\\New.txt", "Dat/New.txt", "a file yet to be made, in a folder that exists" },
                     PathCase{ "none\\dat\\x", "none/dat/x", "nothing of it exists" },
                     PathCase{ "dat\\..\\DAT\\.\\image", "Dat/../Dat/./Image", "dots" }));

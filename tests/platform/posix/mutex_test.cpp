@@ -1,0 +1,149 @@
+#include "platform/kernel.h"
+#include "support/temp_folder.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+/// Each test has settings, session and temporary folders of its own.
+class MutexTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        for (const char* made : { "run", "run2", "tmp" })
+            fs::create_directory(made);
+        UseFolder("XDG_CONFIG_HOME", "config");
+        UseFolder("XDG_RUNTIME_DIR", "run");
+        UseFolder("TMPDIR", "tmp");
+    }
+    void TearDown() override
+    {
+        for (const char* variable : { "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "TMPDIR" })
+            unsetenv(variable);
+    }
+    void UseFolder(const char* variable, const std::string& name) const
+    {
+        setenv(variable, (folder.Path() + "/" + name).c_str(), 1);
+    }
+
+    /// Makes the mutex, closes it at once and gives GetLastError of its making.
+    static DWORD Try()
+    {
+        const HANDLE mutex = CreateMutexA(nullptr, FALSE, "Test");
+        const DWORD error = GetLastError();
+        if (mutex)
+            CloseHandle(mutex);
+        return error;
+    }
+
+    TempFolder folder;
+};
+
+/// Another process that has made the mutex and lives until it is killed, and a child of it that lives some longer, as
+/// the one that shows a message box. Both are under way when this returns.
+pid_t StartOwner()
+{
+    int ready[2] = {};
+    if (pipe(ready) != 0)
+        return -1;
+    const pid_t owner = fork();
+    if (owner == 0) {
+        const char made = CreateMutexA(nullptr, FALSE, "Test") ? 'y' : 'n';
+        if (fork() == 0) {
+            if (write(ready[1], &made, 1) == 1)
+                sleep(1);
+            _exit(0);
+        }
+        if (write(ready[1], &made, 1) == 1)
+            pause();
+        _exit(1);
+    }
+    char made[2] = {};
+    const bool answered = read(ready[0], &made[0], 1) == 1 && read(ready[0], &made[1], 1) == 1;
+    close(ready[0]);
+    close(ready[1]);
+    return answered && made[0] == 'y' && made[1] == 'y' ? owner : -1;
+}
+}
+
+TEST_F(MutexTest, IsKnownToEverySessionUntilItsOwnerDies)
+{
+    EXPECT_EQ(Try(), ERROR_SUCCESS);
+    const pid_t owner = StartOwner();
+    ASSERT_GT(owner, 0);
+    UseFolder("XDG_RUNTIME_DIR", "run2");
+    EXPECT_EQ(Try(), ERROR_ALREADY_EXISTS);
+    EXPECT_EQ(Try(), ERROR_ALREADY_EXISTS) << "a copy that gave up takes nothing with it";
+    kill(owner, SIGKILL);
+    waitpid(owner, nullptr, 0);
+    EXPECT_EQ(Try(), ERROR_SUCCESS) << "its message box may still be open";
+}
+
+TEST_F(MutexTest, GoesWhereALockCanBeMade)
+{
+    const auto link = [](const char* path) { fs::create_symlink("../../victim", path); };
+    const auto hardLink = [](const char* path) { fs::create_hard_link("victim", path); };
+    const auto foreign = [this](const char* path) {
+        folder.Write(path, "");
+        ASSERT_EQ(chown(path, 65534, 65534), 0);
+    };
+    const std::string temporary = "tmp/Test-" + std::to_string(getuid()) + ".lock";
+    struct Case {
+        std::function<void(const char*)> lay; ///< in the way of the lock beside the settings
+        const char* config;
+        const char* runtime;
+        std::string lock;
+        const char* why;
+    };
+    std::vector<Case> cases = {
+        { nullptr, "config", "run", "config/Test/instance.lock", "beside the settings" },
+        { nullptr, "victim/none", "run", "run/Test.lock", "settings cannot be stored" },
+        { nullptr, "victim/none", "none", temporary, "the session has no folder" },
+        { link, "config", "run", "run/Test.lock", "a link that somebody laid" },
+        { hardLink, "config", "none", temporary, "a second name of another file" },
+    };
+    if (getuid() == 0)
+        cases.push_back({ foreign, "config", "run", "run/Test.lock", "another user's file" });
+    folder.Write("victim", "kept");
+    for (const Case& row : cases) {
+        fs::create_directories("config/Test");
+        if (row.lay)
+            row.lay("config/Test/instance.lock");
+        UseFolder("XDG_CONFIG_HOME", row.config);
+        UseFolder("XDG_RUNTIME_DIR", row.runtime);
+        const HANDLE mutex = CreateMutexA(nullptr, FALSE, "Test");
+        EXPECT_EQ(GetLastError(), ERROR_SUCCESS) << row.why;
+        EXPECT_TRUE(fs::exists(row.lock)) << row.why;
+        EXPECT_EQ(Try(), ERROR_ALREADY_EXISTS) << row.why;
+        ASSERT_TRUE(CloseHandle(mutex)) << row.why;
+        EXPECT_FALSE(fs::exists(row.lock)) << "locks pile up: " << row.why;
+        fs::remove_all("config");
+    }
+    EXPECT_EQ(folder.Read("victim"), "kept");
+}
+
+TEST_F(MutexTest, SaysSoWhereNoneCanBeMade)
+{
+    folder.Write("file", "");
+    for (const char* variable : { "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "TMPDIR" })
+        UseFolder(variable, "file/none");
+    const std::string name = "Test" + std::to_string(getpid());
+    const fs::path last = "/tmp/" + name + "-" + std::to_string(getuid()) + ".lock";
+    fs::create_directory(last); // in the way
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(CreateMutexA(nullptr, FALSE, name.c_str()), nullptr);
+    const std::string said = testing::internal::GetCapturedStderr();
+    fs::remove(last);
+    EXPECT_EQ(said.find('\n'), said.size() - 1) << "one line: " << said;
+    EXPECT_NE(said.find(last.string() + ": Is a directory"), std::string::npos) << said;
+}
