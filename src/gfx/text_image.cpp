@@ -80,8 +80,7 @@ bool CTextImage::TextImageCreate(HFONT font, int greyLevels, int slots)
     TextImageFree();
     if (!Acquire(font, slots)) {
         Release();
-        lastError = ENGINE_CREATE_FONT;
-        return false;
+        return FailWith(ENGINE_CREATE_FONT);
     }
     capacity = slots;
     levels = greyLevels;
@@ -192,10 +191,8 @@ CGlyph& CTextImage::ReplaceOldest(uint32_t code, int place)
 bool CTextImage::GetGlyphView(uint32_t code, uint16_t colour, GlyphView& view)
 {
     const CGlyph* glyph = GetGlyph(code);
-    if (glyph == nullptr) {
-        lastError = ENGINE_CREATE_CHAR;
-        return false;
-    }
+    if (glyph == nullptr)
+        return FailWith(ENGINE_CREATE_CHAR);
     view = { glyph->offsetX, glyph->offsetY, glyph->width, glyph->height, glyph->advance, glyph->bits.get(), colour };
     return true;
 }
