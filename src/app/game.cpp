@@ -19,15 +19,14 @@ namespace
 {
 constexpr uint32_t FRAME_MS = 40;
 
-/// Every relative path is resolved from the program's own folder.
-void EnterProgramFolder()
+/// Every relative path is resolved from the program's own folder. False: the current folder is still another.
+bool EnterProgramFolder()
 {
     char path[MAX_PATH] = {};
     GetModuleFileNameA(nullptr, path, sizeof(path));
     const std::string program = path;
     const size_t folderEnd = program.find_last_of("\\/");
-    if (folderEnd != std::string::npos)
-        SetCurrentDirectoryA(program.substr(0, folderEnd + 1).c_str());
+    return folderEnd != std::string::npos && SetCurrentDirectoryA(program.substr(0, folderEnd + 1).c_str());
 }
 
 bool IsOtherScene(const CSection& a, const CSection& b)
@@ -67,9 +66,9 @@ CGame::~CGame()
 
 bool CGame::Create()
 {
-    EnterProgramFolder();
+    if (EnterProgramFolder())
+        ClearLog();
     SeedRandom(static_cast<uint32_t>(std::time(nullptr)));
-    ClearLog();
     if (!DisplaySetMode(gameWindow, width, height, windowed))
         return false;
     SoundInit(gameWindow);

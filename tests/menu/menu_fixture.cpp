@@ -1,6 +1,7 @@
 #include "menu/menu_fixture.h"
 
 #include "app/globals.h"
+#include "app/log.h"
 #include "doubles/fake_platform.h"
 #include "gfx/display.h"
 #include "sound/sound.h"
@@ -10,6 +11,7 @@ void MenuFixture::SetUp()
 {
     GameFixture::SetUp();
     UseFreshSettings(pictures.folder);
+    ClearLog();
     gameWindow = FAKE_WINDOW;
     isWindowed = true;
     ASSERT_TRUE(DisplaySetMode(gameWindow, 640, 480, true));

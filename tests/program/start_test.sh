@@ -49,6 +49,12 @@ start() {
     wait_for_line "$1/Log.txt" "CSectionMenu::SectionBegin" || fail "$1 did not reach its menu"
 }
 
+# start_elsewhere: runs the loose copy until its end, from a folder of the user's.
+start_elsewhere() {
+    mkdir -p "$folder/elsewhere"
+    (cd "$folder/elsewhere" && timeout 20 "$loose/tervalis") >"$loose/second" 2>&1
+}
+
 # stop FOLDER: asks the program to close, as a session's end does; it must end with code 0.
 stop() {
     kill -TERM $pid
@@ -74,10 +80,12 @@ loose=$(new_copy loose)
 cp -r "$pictures" "$loose/Dat/Image"
 start "$loose"
 cp "$loose/Log.txt" "$loose/before.txt"
-timeout 20 "$loose/tervalis" >"$loose/second" 2>&1 || fail "a second copy ended with $?"
+start_elsewhere || fail "a second copy ended with $?"
 [ -s "$loose/second" ] && fail "a second copy said: $(cat "$loose/second")"
 cmp -s "$loose/Log.txt" "$loose/before.txt" || fail "a second copy wrote to the log"
 stop "$loose"
+SDL_VIDEODRIVER=x11 DISPLAY=:nowhere start_elsewhere || fail "without a display it ended with $?"
+[ -z "$(ls "$folder/elsewhere")" ] || fail "a copy that did not start wrote where the user was"
 
 packed=$(new_copy 'pack\ed') # a back slash is a letter here
 cp "$program/Dat/Image.xpf" "$packed/Dat/"
