@@ -80,6 +80,7 @@ void CStatusBar::ProcessStripButtons()
     leftPanel.isActive = false;
     SetPaused(true);
     captureScreen = true;
+    input.DropPresses();
 }
 
 void CStatusBar::ProcessPausedPanel()
@@ -97,6 +98,7 @@ void CStatusBar::ProcessPausedPanel()
     } else if (IsClicked(pausedPanel, BUTTON_HELP)) {
         pausedPanel.Hide();
         helpPanels[0].Show();
+        input.DropPresses();
     }
 }
 
@@ -112,7 +114,7 @@ void CStatusBar::ProcessConfirmPanel()
 
     if (IsClicked(confirmPanel, BUTTON_YES)) {
         panelOpen = false;
-        input.lastKeyDown = 0;
+        input.DropPresses();
         requestedSection = &sectionMenu;
     } else if (IsClicked(confirmPanel, BUTTON_NO)) {
         ResumeGame(confirmPanel);
@@ -126,6 +128,7 @@ void CStatusBar::ResumeGame(CMenu& panel)
     panel.Hide();
     leftPanel.isActive = true;
     SetPaused(false);
+    input.DropPresses();
 }
 
 void CStatusBar::ProcessHelpPages()
@@ -139,4 +142,5 @@ void CStatusBar::ProcessHelpPages()
         return;
     open->Hide();
     (next == HELP_CLOSE ? pausedPanel : helpPanels[next]).Show();
+    input.DropPresses();
 }

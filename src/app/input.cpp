@@ -9,3 +9,10 @@ bool InputState::TakeKey(std::initializer_list<int> wanted)
     lastKeyDown = 0;
     return true;
 }
+
+void InputState::DropPresses()
+{
+    mouseLeftDown = false;
+    lastKeyDown = 0;
+    lastChar = 0;
+}

@@ -7,6 +7,9 @@
 struct InputState {
     /// Consumes the last key pressed when it is one of these.
     bool TakeKey(std::initializer_list<int> wanted);
+    /// Forgets the presses that nobody took. Called when a page or panel opens or closes, so that none of them acts on
+    /// what shows next.
+    void DropPresses();
 
     int mouseX = 0; ///< client pixels; negative left of or above the window while a button is held
     int mouseY = 0;

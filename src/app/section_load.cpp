@@ -23,13 +23,6 @@ bool LoadNext(bool& allLoaded)
     allLoaded = true;
     return true;
 }
-
-/// A key or click from while the program loaded is not for the menu.
-void DropPendingInput()
-{
-    input.mouseLeftDown = false;
-    input.lastKeyDown = 0;
-}
 }
 
 bool CSectionLoad::SectionBegin()
@@ -54,7 +47,7 @@ bool CSectionLoad::SectionProcess()
         return false;
     if (allLoaded) {
         requestedSection = &sectionMenu;
-        DropPendingInput();
+        input.DropPresses(); // those from while the program loaded
     }
     backBuffer.Fill(BLACK);
     return true;

@@ -45,8 +45,7 @@ void LeaveForMenu(const CPond& pond)
     if (pond.players == 0)
         sectionMenu.RankingInsert(pond.snake[0].score);
     requestedSection = &sectionMenu;
-    input.mouseLeftDown = false;
-    input.lastKeyDown = 0;
+    input.DropPresses();
 }
 }
 

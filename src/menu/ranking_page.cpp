@@ -29,7 +29,6 @@ void CSectionMenu::RankingInsert(int32_t score)
     rankNames[place][0] = 0;
 
     rankingMenu.FindText(FIELD_NAME_FIRST + place)->focused = true;
-    input.lastChar = 0; // a letter that steered the snake is no part of the name
     rankEntryPending = 1;
     RankingPageFill();
     captureScreen = true; // the game's last frame is the still behind the page

@@ -35,6 +35,7 @@ bool CSectionMenu::SectionBegin()
     rankingMenu.Hide();
     for (CMenu& page : helpMenus)
         page.Hide();
+    input.DropPresses();
     if (rankEntryPending != 0)
         OpenPage(rankingMenu);
     SetCursor(LoadCursorA(nullptr, IDC_ARROW));
@@ -165,12 +166,14 @@ void CSectionMenu::OpenPage(CMenu& page)
 {
     mainMenu.isActive = false;
     page.Show();
+    input.DropPresses();
 }
 
 void CSectionMenu::ClosePage(CMenu& page)
 {
     page.isVisible = false;
     mainMenu.Show();
+    input.DropPresses();
 }
 
 void CSectionMenu::HelpPageProcess(int page)
@@ -178,12 +181,9 @@ void CSectionMenu::HelpPageProcess(int page)
     const int next = ProcessHelpPage(helpMenus[page], BUTTON_HELP_FIRST, page);
     if (next == HELP_STAY)
         return;
-    if (next == HELP_CLOSE) {
-        ClosePage(helpMenus[page]);
-        return;
-    }
-    helpMenus[page].isVisible = false;
-    helpMenus[next].Show();
+    ClosePage(helpMenus[page]);
+    if (next != HELP_CLOSE)
+        OpenPage(helpMenus[next]);
 }
 
 void CSectionMenu::PlayAmbience()

@@ -14,6 +14,14 @@ class SectionMenuTest : public MenuFixture
 {
 protected:
     MenuButton* MainButton(int id) { return menu.mainMenu.FindButton(id); }
+    /// Clicks the button with that id on the page that is open.
+    void ClickOpen(int id)
+    {
+        for (CMenu* page : { &menu.mainMenu, &menu.optionsMenu, &menu.rankingMenu, &menu.helpMenus[0] }) {
+            if (page->IsOpen())
+                return Click(*page, page->FindButton(id));
+        }
+    }
     const char* NameField(int place) { return menu.rankingMenu.FindText(FIELD_NAME_FIRST + place - 1)->text.get(); }
     const char* ScoreField(int place) { return menu.rankingMenu.FindText(FIELD_SCORE_FIRST + place - 1)->text.get(); }
 };
@@ -80,6 +88,41 @@ TEST_F(SectionMenuTest, KeysOpenAndClosePages)
         Press(step.key);
         EXPECT_EQ(OpenPages(), step.pages) << step.key;
     }
+}
+
+TEST_F(SectionMenuTest, APressThatNobodyWantedActsOnNoOtherPage)
+{
+    constexpr int MAIN = -1;
+    const struct {
+        int from; ///< the main menu's button whose page is open
+        int key;
+        int button; ///< clicked in a later frame
+        const char* pages;
+    } cases[] = {
+        { MAIN, VK_RETURN, BUTTON_HELP, "help1" },         { MAIN, VK_ESCAPE, BUTTON_HELP, "help1" },
+        { MAIN, VK_RETURN, BUTTON_RANKING, "ranking" },    { MAIN, VK_RETURN, BUTTON_OPTIONS, "options" },
+        { MAIN, VK_LEFT, BUTTON_OPTIONS, "options" },      { BUTTON_RANKING, VK_F1, BUTTON_RANKING_OK, "main" },
+        { BUTTON_HELP, VK_F1, BUTTON_HELP_FIRST, "main" }, { BUTTON_OPTIONS, VK_F1, BUTTON_OPTIONS_CANCEL, "main" },
+    };
+    for (const auto& [from, key, button, pages] : cases) {
+        SCOPED_TRACE(std::to_string(from) + ", " + std::to_string(key) + ", " + std::to_string(button));
+        menu.SectionBegin();
+        if (from != MAIN)
+            ClickOpen(from);
+        Press(key);
+        ClickOpen(button);
+        Frame();
+        EXPECT_EQ(OpenPages(), pages);
+        EXPECT_NE(menu.optionsMenu.FindText(FIELD_KEY_FIRST)->key, VK_LEFT);
+        EXPECT_EQ(StoredNumber("Windowed").has_value(), from > MAIN) << "stored by OK alone";
+    }
+    input.mouseX = input.mouseY = 0;
+    input.mouseLeftDown = true; // beside every button, and held
+    Press(VK_F1);
+    input.mouseX = menu.helpMenus[0].x + 180;
+    input.mouseY = menu.helpMenus[0].y + 20;
+    Frame();
+    EXPECT_EQ(OpenPages(), "help1") << "and no tab";
 }
 
 TEST_F(SectionMenuTest, EachMainButtonDoesItsOwnThing)
