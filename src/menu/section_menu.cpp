@@ -46,6 +46,8 @@ bool CSectionMenu::SectionBegin()
 
 bool CSectionMenu::SectionEnd()
 {
+    if (rankEntryPending != 0)
+        RankingPageStore(); // the window closes before the name is confirmed: what was typed counts
     // The music goes on under the game.
     for (int id = SOUND_MENU_ENV_FIRST; id <= SOUND_MENU_ENV_LAST; ++id)
         SoundStop(id);

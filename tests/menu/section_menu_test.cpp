@@ -306,3 +306,17 @@ TEST_F(SectionMenuTest, OkConfirmsWhileTheNameIsTyped)
     Press(VK_SPACE);
     EXPECT_EQ(OpenPages(), "main") << "no field has the focus any more";
 }
+
+TEST_F(SectionMenuTest, KeepsWhatWasTypedWhenTheWindowIsClosed)
+{
+    for (const int lastKey : { int{ 'x' - 'a' + 'A' }, VK_RETURN }) {
+        menu.RankingInsert(70);
+        menu.SectionBegin();
+        Type("zo");
+        Press(lastKey);
+        menu.SectionEnd();
+        menu.SettingsSave();
+        EXPECT_EQ(StoredText("Name 1"), "zo") << lastKey;
+        menu.rankScores[0] = 0;
+    }
+}
