@@ -67,6 +67,7 @@ struct MenuText {
     std::unique_ptr<char[]> text; ///< MENU_TEXT_SIZE bytes, zero-terminated; the owner may write it
     int32_t key = 0;              ///< in key capture: the virtual-key code captured last
     int32_t maxLength = 0;        ///< of typed text
+    int32_t room = 0;             ///< width around the box's middle beyond which nothing is drawn; 0 = any
     int32_t align = ALIGN_LEFT;
     int32_t mode = TEXT_ENTRY;
     bool focused = false; ///< takes the keyboard; set and cleared by the owner
@@ -134,6 +135,8 @@ private:
     void ProcessButtons(CImage& target);
     void ProcessToggles(CImage& target);
     void ProcessTexts(CImage& target);
-    /// Draws the item's text at its place in the box; returns where it ends and its top.
-    POINT DrawTextItem(CImage& target, const MenuText& item, uint16_t colour) const;
+    bool TakesKeyboard(const MenuText& item) const { return item.focused && isActive; }
+    int TextLeft(const MenuText& item) const;
+    /// Draws the item's text at its place in the box, with the cursor behind it if that shows.
+    void DrawTextItem(CImage& target, const MenuText& item, uint16_t colour, bool hasCursor) const;
 };

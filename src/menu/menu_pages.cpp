@@ -118,11 +118,12 @@ constexpr int PLAYER_NAME_LENGTH = 20;
 struct RankingColumn {
     int firstId;
     MenuBox top;
+    int room;
 };
 
 constexpr RankingColumn rankingColumns[] = {
-    { FIELD_NAME_FIRST, { 150, 48, 20, 16 } },
-    { FIELD_SCORE_FIRST, { 260, 48, 20, 16 } },
+    { FIELD_NAME_FIRST, { 150, 48, 20, 16 }, 154 },
+    { FIELD_SCORE_FIRST, { 260, 48, 20, 16 }, 0 },
 };
 constexpr int RANKING_ROW_HEIGHT = 20;
 
@@ -179,11 +180,13 @@ void CSectionMenu::BuildOptionsPage()
 void CSectionMenu::BuildRankingPage()
 {
     CreateCentred(rankingMenu, images[PICTURE_RANKING]);
-    for (const auto& [firstId, top] : rankingColumns) {
-        for (int place = 0; place < RANKING_PLACES; ++place)
+    for (const auto& [firstId, top, room] : rankingColumns) {
+        for (int place = 0; place < RANKING_PLACES; ++place) {
             rankingMenu.AddText(firstId + place, top.x, top.y + RANKING_ROW_HEIGHT * place, top.width, top.height,
                                 nullptr, &smallFont, TEXT_WHITE, TEXT_YELLOW, ALIGN_CENTRE, TEXT_ENTRY,
                                 PLAYER_NAME_LENGTH);
+            rankingMenu.FindText(firstId + place)->room = room;
+        }
     }
 }
 

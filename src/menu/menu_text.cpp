@@ -11,6 +11,7 @@ namespace
 // The cursor shows in the first frames of each period.
 constexpr int CURSOR_PERIOD = 10;
 constexpr int CURSOR_SHOWN = 6;
+constexpr char CURSOR[] = "|";
 
 /// The codes that a key-capture field takes besides letters and the numeric keypad's digits.
 struct NamedKey {
@@ -91,9 +92,23 @@ void TypeText(MenuText& item)
     else if (IsNameCharacter(input.lastChar) || input.lastKeyDown == VK_SPACE)
         Append(item, input.lastChar);
 }
+
+int RoomLeft(const CMenu& menu, const MenuText& item)
+{
+    return menu.x + item.x + (item.width - item.room) / 2;
 }
 
-POINT CMenu::DrawTextItem(CImage& target, const MenuText& item, uint16_t colour) const
+void DrawLine(CImage& target, const MenuText& item, POINT place, uint16_t colour, bool hasCursor)
+{
+    const char* text = item.text.get();
+    item.font->TextDraw(target, place.x, place.y, colour, text);
+    if (hasCursor)
+        item.font->TextDraw(target, place.x + item.font->TextWidth(text), place.y, colour, CURSOR);
+}
+}
+
+/// Where the text begins. One that is wider than its room shows its end while it is typed, else its beginning.
+int CMenu::TextLeft(const MenuText& item) const
 {
     const int textWidth = item.font->TextWidth(item.text.get());
     int left = x + item.x;
@@ -101,9 +116,26 @@ POINT CMenu::DrawTextItem(CImage& target, const MenuText& item, uint16_t colour)
         left += (item.width - textWidth) / 2;
     else if (item.align != ALIGN_LEFT)
         left += item.width - textWidth;
+    if (item.room == 0)
+        return left;
+    const int roomLeft = RoomLeft(*this, item);
+    if (TakesKeyboard(item))
+        return std::min(left, roomLeft + item.room - textWidth - item.font->TextWidth(CURSOR));
+    return std::max(left, roomLeft);
+}
+
+void CMenu::DrawTextItem(CImage& target, const MenuText& item, uint16_t colour, bool hasCursor) const
+{
+    const int left = TextLeft(item);
     const int top = y + item.y + (item.height - item.font->height) / 2;
-    item.font->TextDraw(target, left, top, colour, item.text.get());
-    return { left + textWidth, top };
+    if (item.room == 0) {
+        DrawLine(target, item, { left, top }, colour, hasCursor);
+        return;
+    }
+    const int roomLeft = RoomLeft(*this, item);
+    CImage room;
+    if (room.CreateView(target, roomLeft, 0, item.room, target.height))
+        DrawLine(room, item, { left - roomLeft + room.x, top }, colour, hasCursor);
 }
 
 void CMenu::DrawTexts(CImage& target) const
@@ -116,8 +148,8 @@ void CMenu::DrawTexts(CImage& target) const
             item.image->Draw(target, x + item.x, y + item.y);
         if (item.mode != TEXT_ENTRY)
             ShowKey(item, item.key);
-        if (!item.focused || !isActive)
-            DrawTextItem(target, item, item.colour);
+        if (!TakesKeyboard(item))
+            DrawTextItem(target, item, item.colour, false);
     }
 }
 
@@ -131,9 +163,8 @@ void CMenu::ProcessTexts(CImage& target)
             CaptureKey(item);
         else if (item.isEnabled)
             TypeText(item);
-        const POINT end = DrawTextItem(target, item, item.focusColour);
-        if (item.mode == TEXT_ENTRY && cursorBlink % CURSOR_PERIOD < CURSOR_SHOWN)
-            item.font->TextDraw(target, end.x, end.y, item.focusColour, "|");
+        const bool hasCursor = item.mode == TEXT_ENTRY && cursorBlink % CURSOR_PERIOD < CURSOR_SHOWN;
+        DrawTextItem(target, item, item.focusColour, hasCursor);
         ++cursorBlink;
     }
 }

@@ -10,10 +10,16 @@ MenuText& CSectionMenu::KeyField(int binding)
     return *optionsMenu.FindText(keyBindings[binding].field);
 }
 
-void CSectionMenu::ShowOptions(bool windowed, bool soundOn, const std::array<uint32_t, KEY_BINDINGS>& shownKeys)
+void CSectionMenu::ShowDisplayMode(bool windowed)
 {
     optionsMenu.FindToggle(TOGGLE_WINDOWED)->checked = windowed;
     optionsMenu.FindToggle(TOGGLE_FULL_SCREEN)->checked = !windowed;
+    modeSeen = isWindowed;
+}
+
+void CSectionMenu::ShowOptions(bool windowed, bool soundOn, const std::array<uint32_t, KEY_BINDINGS>& shownKeys)
+{
+    ShowDisplayMode(windowed);
     optionsMenu.FindToggle(TOGGLE_SOUND_ON)->checked = soundOn;
     optionsMenu.FindToggle(TOGGLE_SOUND_OFF)->checked = !soundOn;
     for (int i = 0; i < KEY_BINDINGS; ++i) {
@@ -34,6 +40,8 @@ void CSectionMenu::OptionsDefault()
 
 void CSectionMenu::OptionsPageProcess()
 {
+    if (isWindowed != modeSeen) // Alt+Enter is the player's latest choice; OK must not take it back
+        ShowDisplayMode(isWindowed);
     MenuButton& ok = *optionsMenu.FindButton(BUTTON_OPTIONS_OK);
     MenuButton& cancel = *optionsMenu.FindButton(BUTTON_OPTIONS_CANCEL);
     // None of these keys can be bound.

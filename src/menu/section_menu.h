@@ -60,6 +60,7 @@ public:
     std::array<uint32_t, KEY_BINDINGS> keys = DefaultKeys();
     bool keyConflict = false;  ///< two bindings on the options page are equal
     bool settingsRead = false; ///< SettingsLoad has succeeded
+    bool modeSeen = true;      ///< `isWindowed` when the options page last showed a display mode
 
 private:
     bool LoadFonts();
@@ -88,6 +89,7 @@ private:
     void RankingPageProcess();
 
     MenuText& KeyField(int binding);
+    void ShowDisplayMode(bool windowed);
     void ShowOptions(bool windowed, bool soundOn, const std::array<uint32_t, KEY_BINDINGS>& shownKeys);
     void MarkKeyConflicts();
     void AdvanceKeyFocus();

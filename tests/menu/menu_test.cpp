@@ -295,6 +295,36 @@ TEST_F(Menu, BlinksTheCursorBehindAFocusedText)
     EXPECT_TRUE(IsOnScreen(TEXT_COLOUR)) << "without input it is a plain label";
 }
 
+TEST_F(Menu, CutsATextToItsRoom)
+{
+    constexpr int LEFT = 15, ROOM = 60; // around the middle of the box
+    MenuText& item = AddText(TEXT_ENTRY, 20, ALIGN_CENTRE);
+    const int cursorWidth = text.TextWidth("|");
+    for (int length = 0; length <= 20; ++length) {
+        const std::string typed(static_cast<size_t>(length), 'W');
+        snprintf(item.text.get(), MENU_TEXT_SIZE, "%s", typed.c_str());
+        for (const auto& [focused, hasCursor] : { std::pair{ false, false }, { true, false }, { true, true } }) {
+            SCOPED_TRACE(typed + (hasCursor ? "|" : focused ? "." : ""));
+            item.focused = focused;
+            CImage uncut;
+            for (const int room : { 0, ROOM }) {
+                uncut.Copy(screen);
+                item.room = room;
+                menu.cursorBlink = hasCursor ? 0 : 6;
+                Process();
+            }
+            const int end = 45 + text.TextWidth(typed.c_str()) / 2 + (focused ? cursorWidth : 0);
+            const bool fits = end <= LEFT + ROOM;
+            EXPECT_EQ(std::equal(screen.pixels, screen.Row(screen.height), uncut.pixels), fits);
+            EXPECT_STREQ(item.text.get(), typed.c_str());
+            EXPECT_FALSE(IsDrawnIn(0, 0, LEFT, 100) || IsDrawnIn(LEFT + ROOM, 0, 100 - LEFT - ROOM, 100));
+            if (!fits && focused) {
+                EXPECT_EQ(IsDrawnIn(LEFT + ROOM - cursorWidth, 40, cursorWidth, 20), hasCursor);
+            }
+        }
+    }
+}
+
 TEST_F(Menu, HoldsNoMoreItemsThanItHasRoomFor)
 {
     for (int i = 0; i < 40; ++i) {
