@@ -55,9 +55,10 @@ start_elsewhere() {
     (cd "$folder/elsewhere" && timeout 20 "$loose/tervalis") >"$loose/second" 2>&1
 }
 
-# stop FOLDER: asks the program to close, as a session's end does; it must end with code 0.
+# stop FOLDER SIGNAL: asks the program to close, as the end of a session or of its terminal does; it must end with
+# code 0.
 stop() {
-    kill -TERM $pid
+    kill "-$2" $pid
     wait $pid || fail "$1 ended with $?"
     grep -qxF "CGame::Destroy" "$1/Log.txt" || fail "$1 did not log its end"
 }
@@ -83,14 +84,14 @@ cp "$loose/Log.txt" "$loose/before.txt"
 start_elsewhere || fail "a second copy ended with $?"
 [ -s "$loose/second" ] && fail "a second copy said: $(cat "$loose/second")"
 cmp -s "$loose/Log.txt" "$loose/before.txt" || fail "a second copy wrote to the log"
-stop "$loose"
+stop "$loose" TERM
 SDL_VIDEODRIVER=x11 DISPLAY=:nowhere start_elsewhere || fail "without a display it ended with $?"
 [ -z "$(ls "$folder/elsewhere")" ] || fail "a copy that did not start wrote where the user was"
 
 packed=$(new_copy 'pack\ed') # a back slash is a letter here
 cp "$program/Dat/Image.xpf" "$packed/Dat/"
 start "$packed"
-stop "$packed"
+stop "$packed" HUP
 [ -s "$packed/errors" ] && fail "the program said: $(cat "$packed/errors")"
 
 [ $failures -eq 0 ] && echo "All starts end as they should."

@@ -4,6 +4,27 @@
 
 #include <string_view>
 
+namespace
+{
+bool NeedsNoScreen(std::string_view driver)
+{
+    return driver == "dummy" || driver == "offscreen" || driver == "evdev";
+}
+}
+
+std::string ScreenDrivers()
+{
+    if (const char* wanted = SDL_GetHint(SDL_HINT_VIDEODRIVER))
+        return wanted;
+    std::string names;
+    for (int i = 0; i < SDL_GetNumVideoDrivers(); ++i) {
+        const char* name = SDL_GetVideoDriver(i);
+        if (!NeedsNoScreen(name))
+            names += (names.empty() ? "" : ", ") + std::string(name);
+    }
+    return names;
+}
+
 bool StartVideo()
 {
     if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0)
@@ -19,8 +40,7 @@ bool StartVideo()
 bool HasScreen()
 {
     const char* driver = SDL_GetCurrentVideoDriver();
-    const std::string_view name = driver ? driver : "";
-    return !name.empty() && name != "dummy" && name != "offscreen";
+    return driver && !NeedsNoScreen(driver);
 }
 
 SDL_Rect MainScreen()

@@ -1,10 +1,14 @@
 #pragma once
 
 #include <SDL.h>
+#include <string>
 
 /// Gets ready to make windows. Fails without a screen, unless a driver without one was asked for by name.
 /// The reason is then in SDL_GetError. Ends with SDL_QuitSubSystem.
 bool StartVideo();
+
+/// The names of the video drivers that StartVideo tries.
+std::string ScreenDrivers();
 
 /// Whether somebody can see what is shown.
 bool HasScreen();

@@ -1,6 +1,7 @@
 #include "platform/sdl/events.h"
 #include "platform/sdl/native_window.h"
 #include "platform/sdl/screen.h"
+#include "platform/sdl/signals.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -101,8 +102,10 @@ HWND CreateWindowExA(DWORD extendedStyle, LPCSTR, LPCSTR title, DWORD style, int
     if (nativeWindow.handle || !registeredProcedure)
         return nullptr;
     SetHints();
+    EndOnHangUp();
     if (!StartVideo()) {
-        std::fprintf(stderr, "%s: cannot open the display: %s\n", title, SDL_GetError());
+        std::fprintf(stderr, "%s: cannot open the display (tried: %s): %s\n", title, ScreenDrivers().c_str(),
+                     SDL_GetError());
         return nullptr;
     }
     nativeWindow.procedure = registeredProcedure;

@@ -1,0 +1,10 @@
+#pragma once
+
+using SignalHandler = void (*)(int);
+
+/// Gives a signal another handler, unless it is ignored: whoever started the program so wants it ignored.
+/// The handler before.
+SignalHandler SetSignalHandler(int signal, SignalHandler handler);
+
+/// The end of the terminal that the program runs in ends it as SIGTERM does.
+void EndOnHangUp();
