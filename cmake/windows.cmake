@@ -6,8 +6,7 @@ include(cmake/windows_libraries.cmake)
 # On 64-bit Windows GCC aligns the stack to 16 bytes, yet moves vectors of 32 and 64 bytes as if it were aligned to them.
 add_compile_options(-Wa,-muse-unaligned-vector-move)
 
-# No functions marked as imported: so they are called by their names, in which the tests' fake can answer.
-target_compile_definitions(tervalis_game PUBLIC NOMINMAX WIN32_LEAN_AND_MEAN DECLSPEC_IMPORT=)
+target_compile_definitions(tervalis_game PUBLIC NOMINMAX WIN32_LEAN_AND_MEAN)
 target_link_libraries(tervalis_game PUBLIC turbojpeg hwy)
 
 add_library(tervalis_platform_base INTERFACE)

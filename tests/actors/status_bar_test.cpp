@@ -1,5 +1,5 @@
 #include "actors/status_bar_fixture.h"
-#include "doubles/fake_platform.h"
+#include "doubles/directx.h"
 #include "gfx/error.h"
 #include "sound/sound.h"
 
@@ -14,8 +14,8 @@ constexpr int SECOND_PLAYER_Y = 150; ///< the second player's figures stand belo
 TEST(StatusBar, GivesALifeAtEachFiveThousandPoints)
 {
     BarGame run(1);
-    fake.Reset();
-    SoundInit(FAKE_WINDOW);
+    directX = {};
+    SoundInit(nullptr);
     SoundSetMute(0);
     const WAVEFORMATEX format = { WAVE_FORMAT_PCM, 1, 22050, 44100, 2, 16, 0 };
     ASSERT_TRUE(SoundCreate(SOUND_LIFE_UP, &format, 100));
@@ -32,7 +32,7 @@ TEST(StatusBar, GivesALifeAtEachFiveThousandPoints)
         const bool isAwarded = lives > second.lives;
         run.Process();
         EXPECT_EQ(second.lives, lives) << score;
-        EXPECT_EQ(fake.soundBuffers[0]->plays, lives - 2) << score;
+        EXPECT_EQ(directX.buffers[0]->plays, lives - 2) << score;
         EXPECT_EQ(popup.active, isAwarded);
         EXPECT_TRUE(!isAwarded || (popup.kind == POPUP_LIFE_UP && popup.x == x && popup.y == y)) << "at the head";
     }

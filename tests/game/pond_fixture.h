@@ -2,7 +2,7 @@
 
 #include "app/globals.h"
 #include "app/random.h"
-#include "doubles/fake_platform.h"
+#include "doubles/directx.h"
 #include "game/water.h"
 #include "gfx/blit.h"
 #include "support/test_game.h"
@@ -15,7 +15,7 @@ class PondTest : public testing::Test
 protected:
     void SetUp() override
     {
-        fake.Reset();
+        directX = {};
         StartGame(0);
     }
 

@@ -19,7 +19,7 @@ protected:
     void SetUp() override
     {
         PondTest::SetUp();
-        SoundInit(FAKE_WINDOW);
+        SoundInit(nullptr);
         const WAVEFORMATEX format = { 1, 1, 22050, 44100, 2, 16, 0 };
         for (int id = SOUND_POND_FIRST; id <= SOUND_POND_LAST; ++id)
             ASSERT_TRUE(SoundCreate(id, &format, 64));
@@ -40,7 +40,7 @@ protected:
     {
         std::set<std::string> heard;
         for (int id = SOUND_POND_FIRST; id <= SOUND_POND_LAST; ++id) {
-            FakeSoundBuffer& sound = *fake.soundBuffers[static_cast<size_t>(id - SOUND_POND_FIRST)];
+            SoundBufferDouble& sound = *directX.buffers[static_cast<size_t>(id - SOUND_POND_FIRST)];
             const std::string starts(static_cast<size_t>(sound.plays), sound.looping ? '*' : '+');
             const std::string stops(static_cast<size_t>(sound.stops), '-');
             if (!starts.empty() || !stops.empty())
@@ -188,12 +188,12 @@ TEST_F(PondSounds, AreLoadedFromTheirFiles)
         game.pictures.folder.Write("Wav/" + name + ".wav",
                                    Wave(Chunk("fmt ", Format()) + Chunk("data", std::string(bytesOf(name), 'x'))));
     SoundRelease();
-    SoundInit(FAKE_WINDOW);
+    SoundInit(nullptr);
     scenery.loadStage = 0;
     bool done = false;
     ASSERT_TRUE(pond.DataLoad(done));
-    ASSERT_EQ(fake.soundBuffers.size(), files.size());
+    ASSERT_EQ(directX.buffers.size(), files.size());
     for (size_t i = 0; i < files.size(); ++i)
-        EXPECT_EQ(fake.soundBuffers[i]->bytes.size(), bytesOf(files[i])) << files[i];
+        EXPECT_EQ(directX.buffers[i]->bytes.size(), bytesOf(files[i])) << files[i];
 }
 }

@@ -1,13 +1,15 @@
 #include "game/section_main.h"
 
 #include "app/globals.h"
-#include "doubles/fake_platform.h"
+#include "doubles/directx.h"
+#include "doubles/system.h"
 #include "game/water.h"
 #include "menu/menu_items.h"
 #include "menu/section_menu.h"
 #include "support/game_fixture.h"
 #include "support/test_pictures.h"
 
+#include <SDL.h>
 #include <algorithm>
 #include <filesystem>
 
@@ -19,7 +21,7 @@ class GameScene : public testing::Test
 protected:
     void SetUp() override
     {
-        fake.Reset();
+        directX = {};
         ASSERT_TRUE(PrepareGlobals());
         scenery.loadStage = 0;
         for (bool done = false; !done;)
@@ -54,9 +56,9 @@ TEST_F(GameScene, StandsStillWithoutFocus)
 {
     input.hasFocus = false;
     input.lastKeyDown = 37;
-    const uint32_t before = fake.now;
+    const uint32_t before = systemDouble.now;
     scene.SectionProcess();
-    EXPECT_EQ(fake.now, before + 100);
+    EXPECT_EQ(systemDouble.now, before + 100);
     EXPECT_EQ(input.lastKeyDown, 37);
     EXPECT_EQ(scene.pond.dayTimer, 0);
     input.hasFocus = true;
@@ -75,18 +77,18 @@ TEST_F(GameScene, HidesARestingCursorUnlessAPanelIsOpen)
     input.mouseX = 33;
     rest(1);
     rest(124);
-    EXPECT_TRUE(fake.cursorShown);
+    EXPECT_EQ(SDL_ShowCursor(SDL_QUERY), SDL_ENABLE);
     rest(1);
-    EXPECT_FALSE(fake.cursorShown);
+    EXPECT_EQ(SDL_ShowCursor(SDL_QUERY), SDL_DISABLE);
     scene.pond.statusBar.panelOpen = true;
     rest(1);
-    EXPECT_TRUE(fake.cursorShown);
+    EXPECT_EQ(SDL_ShowCursor(SDL_QUERY), SDL_ENABLE);
     scene.pond.statusBar.panelOpen = false;
     rest(1);
-    EXPECT_FALSE(fake.cursorShown);
+    EXPECT_EQ(SDL_ShowCursor(SDL_QUERY), SDL_DISABLE);
     ++input.mouseY;
     rest(1);
-    EXPECT_TRUE(fake.cursorShown);
+    EXPECT_EQ(SDL_ShowCursor(SDL_QUERY), SDL_ENABLE);
 }
 
 struct OverCase {

@@ -1,54 +1,27 @@
 #include "menu/menu_fixture.h"
 
-#include "app/globals.h"
-#include "app/log.h"
-#include "doubles/fake_platform.h"
-#include "gfx/display.h"
 #include "sound/sound.h"
-#include "support/settings_store.h"
 
 void MenuFixture::SetUp()
 {
-    GameFixture::SetUp();
-    UseFreshSettings(pictures.folder);
-    ClearLog();
-    gameWindow = FAKE_WINDOW;
-    isWindowed = true;
-    ASSERT_TRUE(DisplaySetMode(gameWindow, 640, 480, true));
-    SoundInit(gameWindow);
-    SoundSetMute(0);
+    ProgramFixture::SetUp();
     const WAVEFORMATEX format{ 1, 2, 22050, 88200, 4, 16, 0 };
+    ASSERT_EQ(menu.SettingsLoad(), 0);
+    for (bool loaded = false; !loaded;)
+        ASSERT_TRUE(menu.DataLoad(loaded));
     for (int id = SOUND_MENU_HOVER; id <= SOUND_MENU_ENV_LAST; ++id)
         ASSERT_TRUE(SoundCreate(id, &format, 16));
-    ASSERT_EQ(menu.SettingsLoad(), 0);
-    bool loaded = false;
-    while (!loaded)
-        ASSERT_TRUE(menu.DataLoad(loaded));
     ASSERT_TRUE(menu.SectionBegin());
-}
-
-void MenuFixture::TearDown()
-{
-    SoundRelease();
-    SoundSetMute(0);
-    DisplayRelease();
-    isWindowed = true;
-    gameWindow = nullptr;
-    UseNoSettings();
-}
-
-void MenuFixture::Frame()
-{
-    EXPECT_TRUE(menu.SectionProcess());
-    if (captureScreen)
-        backBuffer.Draw(screenCopy);
-    captureScreen = false;
 }
 
 void MenuFixture::Press(int key)
 {
-    input.lastKeyDown = key;
-    Frame();
+    if (key != 0)
+        input.lastKeyDown = key;
+    EXPECT_TRUE(menu.SectionProcess());
+    if (captureScreen)
+        backBuffer.Draw(screenCopy);
+    captureScreen = false;
 }
 
 void MenuFixture::Type(const std::string& text)
@@ -61,17 +34,12 @@ void MenuFixture::Type(const std::string& text)
 
 std::string MenuFixture::OpenPages() const
 {
-    struct Page {
-        const char* name;
-        const CMenu& page;
-    };
-    std::string names;
-    for (const Page& row :
-         { Page{ "main", menu.mainMenu }, Page{ "options", menu.optionsMenu }, Page{ "ranking", menu.rankingMenu },
-           Page{ "help1", menu.helpMenus[0] }, Page{ "help2", menu.helpMenus[1] }, Page{ "help3", menu.helpMenus[2] },
-           Page{ "help4", menu.helpMenus[3] } }) {
-        if (row.page.isVisible && row.page.isActive)
-            names += (names.empty() ? "" : "+") + std::string(row.name);
-    }
-    return names;
+    std::string pages;
+    const auto add = [&pages](char name, const CMenu& page) { pages += page.IsOpen() ? std::string(1, name) : ""; };
+    add('m', menu.mainMenu);
+    add('o', menu.optionsMenu);
+    add('r', menu.rankingMenu);
+    for (int i = 0; i < HELP_PAGES; ++i)
+        add(static_cast<char>('1' + i), menu.helpMenus[i]);
+    return pages;
 }

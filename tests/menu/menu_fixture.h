@@ -1,24 +1,21 @@
 #pragma once
 
 #include "app/globals.h"
+#include "menu/menu_items.h"
 #include "menu/section_menu.h"
-#include "support/game_fixture.h"
+#include "support/program_fixture.h"
 #include "support/settings_store.h"
-#include "support/test_pictures.h"
 
 #include <string>
 
-/// The menu scene, loaded and begun, with stand-in pictures, a window, a sound buffer for each menu sound and a
-/// settings of its own, in which nothing is stored.
-class MenuFixture : public GameFixture
+/// The menu scene, loaded and begun in the program's window, with a sound buffer for each menu sound. Nothing is
+/// stored.
+class MenuFixture : public ProgramFixture
 {
 protected:
     void SetUp() override;
-    void TearDown() override;
 
-    /// One frame, with the tick's capture of the still.
-    void Frame();
-    /// A frame in which that key is the last one pressed.
+    /// One frame, with the tick's capture of the still, in which that key is the last one pressed; 0: no new one.
     void Press(int key);
     /// A frame for each character, as the window's messages give it.
     void Type(const std::string& text);
@@ -29,13 +26,14 @@ protected:
         input.mouseX = page.x + item->x + item->width / 2;
         input.mouseY = page.y + item->y + item->height / 2;
         input.mouseLeftDown = true;
-        Frame();
+        Press(0);
         input.mouseLeftDown = false;
     }
-    /// The pages that take input, by name, in the order main, options, ranking, help1 to help4; "+" between them.
+    void ClickMain(int button) { Click(menu.mainMenu, menu.mainMenu.FindButton(button)); }
+    /// The pages that take input: m(ain), o(ptions), r(anking), 1 to 4 for help.
     std::string OpenPages() const;
-    std::string Log() const { return pictures.folder.ReadText("Log.txt"); }
+    /// The settings' file.
+    std::string Stored() const { return pictures.folder.ReadText(SETTINGS_FILE); }
 
-    TestPictures pictures;
     CSectionMenu menu;
 };

@@ -1,8 +1,7 @@
-#include "app/globals.h"
-#include "doubles/fake_platform.h"
+#include "doubles/directx.h"
 #include "gfx/display.h"
+#include "gfx/error.h"
 #include "menu/menu_fixture.h"
-#include "menu/menu_items.h"
 #include "sound/sound.h"
 
 namespace
@@ -10,9 +9,8 @@ namespace
 class OptionsPageTest : public MenuFixture
 {
 protected:
-    void Open() { Click(menu.mainMenu, menu.mainMenu.FindButton(BUTTON_OPTIONS)); }
+    void Open() { ClickMain(BUTTON_OPTIONS); }
     void ClickToggle(int id) { Click(menu.optionsMenu, menu.optionsMenu.FindToggle(id)); }
-    void ClickDefault() { Click(menu.optionsMenu, menu.optionsMenu.FindButton(BUTTON_OPTIONS_DEFAULT)); }
     MenuText& Field(int id) { return *menu.optionsMenu.FindText(id); }
     /// Ids of the focused and of the red fields.
     std::string Marks()
@@ -24,33 +22,16 @@ protected:
         }
         return marks;
     }
-    bool MusicPlays() const { return fake.soundBuffers[SOUND_MUSIC]->playing; }
 };
 }
 
-TEST_F(OptionsPageTest, ShowsWhatIsInForce)
-{
-    for (const bool changed : { false, true }) {
-        if (changed) {
-            isWindowed = false;
-            SoundSetMute(1);
-            menu.keys[3] = 'Q';
-        }
-        Field(20).focused = true; // left from the last time
-        Open();
-        EXPECT_EQ(menu.optionsMenu.FindToggle(TOGGLE_WINDOWED)->checked, !changed);
-        EXPECT_EQ(menu.optionsMenu.FindToggle(TOGGLE_FULL_SCREEN)->checked, changed);
-        EXPECT_EQ(menu.optionsMenu.FindToggle(TOGGLE_SOUND_ON)->checked, !changed);
-        EXPECT_EQ(menu.optionsMenu.FindToggle(TOGGLE_SOUND_OFF)->checked, changed);
-        EXPECT_EQ(Field(19).key, changed ? 'Q' : VK_RIGHT);
-        EXPECT_EQ(Marks(), " 16");
-        Press(VK_ESCAPE);
-    }
-}
-
-TEST_F(OptionsPageTest, CapturesTheKeysInOrder)
+TEST_F(OptionsPageTest, CapturesKeysThatTakeEffectWithOk)
 {
     Open();
+    for (const int key : { int{ '1' }, VK_F1, VK_TAB, VK_MULTIPLY, VK_NUMPAD0 - 1, VK_SHIFT }) {
+        Press(key);
+        EXPECT_EQ(Marks(), " 16") << "cannot be bound: " << key;
+    }
     const std::string typed = "WSADIKJL";
     for (size_t i = 0; i < typed.size(); ++i) {
         EXPECT_TRUE(Field(16 + static_cast<int>(i)).focused) << i;
@@ -59,21 +40,9 @@ TEST_F(OptionsPageTest, CapturesTheKeysInOrder)
     EXPECT_EQ(Marks(), " 16");
     EXPECT_EQ(menu.keys, DefaultKeys()) << "nothing takes effect before OK";
     Press(VK_RETURN);
-    EXPECT_EQ(OpenPages(), "main");
-    for (size_t i = 0; i < typed.size(); ++i)
-        EXPECT_EQ(menu.keys[i], static_cast<uint32_t>(typed[i])) << i;
-    EXPECT_EQ(StoredNumber("Right 2"), 76U);
-}
-
-TEST_F(OptionsPageTest, IgnoresKeysThatCannotBeBound)
-{
-    Open();
-    for (const int key : { int{ '1' }, VK_F1, VK_TAB, VK_MULTIPLY, VK_NUMPAD0 - 1, VK_SHIFT }) {
-        Press(key);
-        EXPECT_EQ(Field(16).key, VK_UP) << key;
-        EXPECT_EQ(Marks(), " 16") << key;
-        EXPECT_EQ(OpenPages(), "options") << key;
-    }
+    EXPECT_EQ(OpenPages(), "m");
+    EXPECT_TRUE(std::equal(typed.begin(), typed.end(), menu.keys.begin()));
+    EXPECT_NE(Stored().find("76"), std::string::npos) << "player 2's right key";
 }
 
 TEST_F(OptionsPageTest, EqualKeysTurnRedAndBlockOk)
@@ -84,68 +53,63 @@ TEST_F(OptionsPageTest, EqualKeysTurnRedAndBlockOk)
     EXPECT_EQ(Marks(), " red18 red19 20");
     Press(VK_RETURN);
     Press(VK_SPACE);
-    EXPECT_EQ(OpenPages(), "options");
-    EXPECT_FALSE(StoredNumber("Windowed"));
+    EXPECT_EQ(OpenPages(), "o");
     for (const int key : { int{ 'I' }, int{ 'K' }, int{ 'J' }, int{ 'E' } }) // the last one is player 1's down key
         Press(key);
     EXPECT_EQ(Marks(), " 16 red17 red18 red19 red23");
     Press(VK_ESCAPE);
-    EXPECT_EQ(OpenPages(), "main");
+    EXPECT_EQ(OpenPages(), "m");
     EXPECT_EQ(menu.keys, DefaultKeys());
-
+    EXPECT_EQ(Stored(), "");
     Open();
-    Frame(); // the refilled page has no conflict
+    Press(0); // the refilled page has no conflict
     Press(VK_RETURN);
-    EXPECT_EQ(OpenPages(), "main");
+    EXPECT_EQ(OpenPages(), "m");
 }
 
 TEST_F(OptionsPageTest, DefaultTakesEffectOnlyWithOk)
 {
     menu.keys[0] = 'Q';
     SoundSetMute(1);
-    isWindowed = false;
-    ASSERT_TRUE(DisplaySetMode(gameWindow, 640, 480, false));
+    Send(WM_SYSKEYUP, VK_RETURN);
     for (const int key : { VK_ESCAPE, VK_RETURN }) {
         const bool applied = key == VK_RETURN;
         Open();
-        ClickDefault();
+        EXPECT_TRUE(menu.optionsMenu.FindToggle(TOGGLE_FULL_SCREEN)->checked);
+        EXPECT_TRUE(menu.optionsMenu.FindToggle(TOGGLE_SOUND_OFF)->checked);
+        EXPECT_EQ(Field(16).key, 'Q');
+        Click(menu.optionsMenu, menu.optionsMenu.FindButton(BUTTON_OPTIONS_DEFAULT));
         EXPECT_EQ(Field(16).key, VK_UP);
         Press(key);
         EXPECT_EQ(menu.keys[0], applied ? 38U : uint32_t{ 'Q' });
         EXPECT_EQ(SoundGetMute(), applied ? 0 : 1);
         EXPECT_EQ(isWindowed, applied);
-        EXPECT_EQ(fake.fullScreen, !applied);
     }
 }
 
-TEST_F(OptionsPageTest, SoundOffStopsTheMusicAtOnceAndSoundOnStartsIt)
+TEST_F(OptionsPageTest, SoundOffStopsTheMusicAndAFailedSwitchOfTheDisplayKeepsTheMode)
 {
-    Open();
-    ClickToggle(TOGGLE_SOUND_OFF);
-    EXPECT_TRUE(MusicPlays());
-    Press(VK_RETURN);
-    EXPECT_FALSE(MusicPlays());
-    EXPECT_EQ(StoredNumber("No Sound"), 1U);
-    Open();
-    ClickToggle(TOGGLE_SOUND_ON);
-    Press(VK_RETURN);
-    EXPECT_TRUE(MusicPlays());
-    EXPECT_EQ(StoredNumber("No Sound"), 0U);
-}
-
-TEST_F(OptionsPageTest, AFailedSwitchKeepsAndSavesTheModeInForce)
-{
-    for (const bool fails : { true, false }) {
-        if (fails)
-            fake.Fail("DirectDrawCreate", 1);
+    const struct {
+        int toggle;
+        bool fails, windowed, music;
+        const char* stored;
+    } cases[] = {
+        { TOGGLE_SOUND_OFF, false, true, false, "No Sound\" = 1" },
+        { TOGGLE_SOUND_ON, false, true, true, "No Sound\" = 0" },
+        { TOGGLE_FULL_SCREEN, true, true, true, "Windowed = 1" },
+        { TOGGLE_FULL_SCREEN, false, false, true, "Windowed = 0" },
+        { TOGGLE_WINDOWED, false, true, true, "Windowed = 1" },
+    };
+    for (const auto& row : cases) {
+        directX.Fail("SetDisplayMode", row.fails);
         Open();
-        ClickToggle(TOGGLE_FULL_SCREEN);
-        const std::string log = Log();
+        ClickToggle(row.toggle);
         Press(VK_RETURN);
-        EXPECT_EQ(Log().substr(log.size()), "Windowed -> Full Screen\n");
-        EXPECT_EQ(isWindowed, fails);
-        EXPECT_EQ(fake.fullScreen, !fails);
-        EXPECT_EQ(StoredNumber("Windowed"), fails ? 1U : 0U);
+        EXPECT_EQ(isWindowed, row.windowed);
+        EXPECT_EQ(directX.fullScreen, !row.windowed);
+        EXPECT_EQ(directX.buffers[SOUND_MUSIC]->playing, row.music);
+        EXPECT_NE(Stored().find(row.stored), std::string::npos) << Stored();
+        lastError = ENGINE_NO_ERROR;
     }
 }
 
@@ -156,7 +120,7 @@ TEST_F(OptionsPageTest, FollowsASwitchOfTheDisplayThatOthersMake)
         ClickToggle(isWindowed ? TOGGLE_FULL_SCREEN : TOGGLE_WINDOWED);
         for (int switches = 0; switches < 3; ++switches) {
             ApplyDisplayMode(!isWindowed);
-            Frame();
+            Press(0);
             EXPECT_EQ(menu.optionsMenu.FindToggle(TOGGLE_WINDOWED)->checked, isWindowed);
             EXPECT_EQ(menu.optionsMenu.FindToggle(TOGGLE_FULL_SCREEN)->checked, !isWindowed);
         }

@@ -1,6 +1,6 @@
-#include "app/globals.h"
-#include "doubles/fake_platform.h"
+#include "doubles/directx.h"
 #include "gfx/display.h"
+#include "gfx/error.h"
 #include "menu/menu_fixture.h"
 #include "sound/sound.h"
 
@@ -8,27 +8,40 @@
 
 namespace
 {
-class SettingsTest : public MenuFixture
-{
-};
+using SettingsTest = MenuFixture;
 }
 
-TEST_F(SettingsTest, AFirstRunHasTheDefaultsAndWritesThemAll)
+TEST_F(SettingsTest, TakesValuesAsBytesWhateverTheirType)
 {
-    EXPECT_EQ(Log().find("->"), std::string::npos) << "no switch of the display";
-    EXPECT_FALSE(StoredNumber("Windowed"));
-    EXPECT_EQ(menu.SettingsSave(), 0);
-
-    const struct {
-        const char* name;
-        uint32_t value;
-    } numbers[] = { { "Windowed", 1 }, { "No Sound", 0 }, { "Up 1", 38 },   { "Down 1", 40 }, { "Left 1", 37 },
-                    { "Right 1", 39 }, { "Up 2", 87 },    { "Down 2", 83 }, { "Left 2", 65 }, { "Right 2", 68 } };
-    for (const auto& [name, value] : numbers)
-        EXPECT_EQ(StoredNumber(name), value) << name;
-    for (int place = 1; place <= RANKING_PLACES; ++place) {
-        EXPECT_EQ(StoredText(("Name " + std::to_string(place)).c_str()), "") << place;
-        EXPECT_EQ(StoredNumber(("Rank " + std::to_string(place)).c_str()), 0U) << place;
+    struct Case {
+        std::string line;
+        uint32_t firstKey;
+        const char* firstName;
+        int32_t firstScore;
+    };
+    const Case cases[] = {
+        { "", 38, "", 0 },
+        { "\"Up 1\" = 'A'", 'A', "", 0 }, // one byte of the default's four
+        { "\"Up 1\" = 'ABCD'", 0x44434241, "", 0 },
+        { "\"Up 1\" = 'ABCDE'", 38, "", 0 },
+        { "\"Up 1\" = 3.5", 38, "", 0 },
+        { "\"Name 1\" = 16705", 38, "AA", 0 },
+        { "\"Name 1\" = 'ab\xC3\xA9'", 38, "ab\xC3\xA9", 0 },
+        { "\"Name 1\" = { type = 1, hex = '61620063' }", 38, "ab", 0 },
+        { "\"Name 1\" = '" + std::string(256, 'x') + "'", 38, "", 0 },
+        { "\"Rank 1\" = 4294967295", 38, "", -1 },
+        { "\"Rank 1\" = -5", 38, "", 0 },
+        { "damaged = = ", 38, "", 0 },
+    };
+    for (const Case& row : cases) {
+        pictures.folder.Write(SETTINGS_FILE, row.line);
+        menu.keys[0] = 1;
+        strcpy(menu.rankNames[0], "before");
+        menu.rankScores[0] = 1;
+        EXPECT_EQ(menu.SettingsLoad(), 0) << row.line;
+        EXPECT_EQ(menu.keys[0], row.firstKey) << row.line;
+        EXPECT_STREQ(menu.rankNames[0], row.firstName) << row.line;
+        EXPECT_EQ(menu.rankScores[0], row.firstScore) << row.line;
     }
 }
 
@@ -67,28 +80,28 @@ TEST_F(SettingsTest, EveryRecordComesBack)
 TEST_F(SettingsTest, AppliesTheStoredDisplayMode)
 {
     struct Case {
-        uint32_t stored;
+        const char* stored;
         bool fails;
         bool windowed; ///< afterwards
         const char* logged;
     };
     const Case cases[] = {
-        { 1, false, true, "" },
-        { 0, true, true, "Windowed -> Full Screen\n" },
-        { 0, false, false, "Windowed -> Full Screen\n" },
-        { 0, false, false, "" },
-        { 2, false, true, "Full Screen -> Windowed\n" },
+        { "Windowed = 1", false, true, "" },
+        { "Windowed = 0", true, true, "Windowed -> Full Screen\n" },
+        { "Windowed = 0", false, false, "Windowed -> Full Screen\n" },
+        { "Windowed = 0", false, false, "" },
+        { "Windowed = 2", false, true, "Full Screen -> Windowed\n" },
     };
     for (const Case& row : cases) {
-        StoreNumber("Windowed", row.stored);
-        if (row.fails)
-            fake.Fail("DirectDrawCreate", 1);
+        pictures.folder.Write(SETTINGS_FILE, row.stored);
+        directX.Fail("DirectDrawCreate", row.fails);
         const std::string log = Log();
         EXPECT_EQ(menu.SettingsLoad(), 0);
         EXPECT_EQ(Log().substr(log.size()), row.logged) << row.stored;
         EXPECT_EQ(isWindowed, row.windowed) << row.stored;
-        EXPECT_EQ(fake.fullScreen, !row.windowed) << row.stored;
+        EXPECT_EQ(directX.fullScreen, !row.windowed) << row.stored;
     }
+    lastError = ENGINE_NO_ERROR;
 }
 
 TEST_F(SettingsTest, WhatCouldNotBeReadIsNeverReplaced)
@@ -100,12 +113,10 @@ TEST_F(SettingsTest, WhatCouldNotBeReadIsNeverReplaced)
     EXPECT_EQ(other.keys[0], uint32_t{ 'Q' });
 
     UseFreshSettings(pictures.folder); // they can be had again
-    StoreNumber("Rank 1", 5000);
+    pictures.folder.Write(SETTINGS_FILE, "\"Rank 1\" = 5000");
     EXPECT_NE(other.SettingsSave(), 0);
-    EXPECT_EQ(StoredNumber("Rank 1"), 5000U);
-    EXPECT_FALSE(StoredNumber("Up 1"));
-
+    EXPECT_EQ(Stored(), "\"Rank 1\" = 5000");
     EXPECT_EQ(other.SettingsLoad(), 0);
     EXPECT_EQ(other.SettingsSave(), 0);
-    EXPECT_EQ(StoredNumber("Up 1"), 38U);
+    EXPECT_NE(Stored().find("5000"), std::string::npos);
 }

@@ -1,7 +1,5 @@
 #include "support/allocations.h"
 
-#include "support/aligned_memory.h"
-
 #include <atomic>
 #include <cstdlib>
 #include <new>
@@ -36,12 +34,13 @@ void* operator new[](size_t size, std::align_val_t alignment, const std::nothrow
     ++allocations;
     if (planesUntilFailure > 0 && --planesUntilFailure == 0)
         return nullptr;
-    return AllocateAligned(size, static_cast<size_t>(alignment));
+    const auto unit = static_cast<size_t>(alignment);
+    return std::aligned_alloc(unit, (size + unit - 1) / unit * unit);
 }
 
 void operator delete[](void* memory, std::align_val_t) noexcept
 {
-    FreeAligned(memory);
+    std::free(memory);
 }
 
 void operator delete(void* memory) noexcept

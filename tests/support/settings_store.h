@@ -2,19 +2,20 @@
 
 #include "support/temp_folder.h"
 
-#include <cstdint>
-#include <optional>
-#include <string>
+#include <cstdlib>
 
 // Tests must not touch the settings of whoever runs them.
 
-/// From here on the settings are kept apart, at first empty; `folder` is the test's own and may hold them.
-void UseFreshSettings(const TempFolder& folder);
-/// From here on settings can be neither read nor written.
-void UseNoSettings();
+/// The settings' file in a test's folder.
+constexpr char SETTINGS_FILE[] = "config/Tervalis/settings.toml";
 
-/// A stored number; none when there is no such value.
-std::optional<uint32_t> StoredNumber(const char* name);
-/// A stored text; none when there is no such value.
-std::optional<std::string> StoredText(const char* name);
-void StoreNumber(const char* name, uint32_t value);
+/// From here on the settings are kept in that folder.
+inline void UseFreshSettings(const TempFolder& folder)
+{
+    setenv("XDG_CONFIG_HOME", (folder.Path() + "/config").c_str(), 1);
+}
+/// From here on settings can be neither read nor written.
+inline void UseNoSettings()
+{
+    setenv("XDG_CONFIG_HOME", "/dev/null", 1);
+}

@@ -1,0 +1,179 @@
+#include "doubles/directx.h"
+
+#include <utility>
+
+DirectXDouble directX;
+
+void DirectXDouble::Fail(const std::string& call, int times, HRESULT result)
+{
+    failing = call;
+    failures = times;
+    failure = result;
+}
+
+std::string DirectXDouble::TakeCalls()
+{
+    return std::exchange(calls, "");
+}
+
+HRESULT DirectXDouble::Step(const std::string& call, const std::string& numbers)
+{
+    calls += (calls.empty() ? "" : ", ") + call + (numbers.empty() ? "" : " " + numbers);
+    return call == failing && failures-- > 0 ? failure : DD_OK;
+}
+
+namespace
+{
+/// Counts itself among the living objects; deletes itself when it is released.
+template <typename Interface>
+struct Counted : Interface {
+    Counted() { ++directX.objects; }
+    Counted(const Counted&) = delete;
+    Counted& operator=(const Counted&) = delete;
+    virtual ~Counted() { --directX.objects; }
+    ULONG Release() override
+    {
+        delete this;
+        return 0;
+    }
+};
+
+/// Makes the object if the step succeeds.
+template <typename Object, typename Interface, typename... Arguments>
+HRESULT Make(Interface** made, HRESULT result, Arguments... arguments)
+{
+    if (result == DD_OK)
+        *made = new Object(arguments...);
+    return result;
+}
+
+struct Clipper : Counted<IDirectDrawClipper> {
+    HRESULT SetHWnd(DWORD, HWND) override { return directX.Step("SetHWnd"); }
+};
+
+struct Surface : Counted<IDirectDrawSurface> {
+    static constexpr LONG WIDTH = 640;
+    static constexpr LONG HEIGHT = 480;
+    static constexpr LONG PITCH = WIDTH + 32; ///< pixels: a surface's rows may lie apart
+
+    HRESULT Blt(RECT*, IDirectDrawSurface* source, RECT*, DWORD, DDBLTFX*) override
+    {
+        const auto from = static_cast<Surface*>(source)->pixels.begin();
+        directX.screen.clear();
+        for (LONG y = 0; y < HEIGHT; ++y)
+            directX.screen.insert(directX.screen.end(), from + y * PITCH, from + y * PITCH + WIDTH);
+        return directX.Step("Blt");
+    }
+    HRESULT GetAttachedSurface(DDSCAPS*, IDirectDrawSurface** surface) override
+    {
+        return Make<Surface>(surface, directX.Step("GetAttachedSurface"));
+    }
+    HRESULT GetPixelFormat(DDPIXELFORMAT* format) override
+    {
+        format->dwGBitMask = directX.greenMask;
+        return directX.Step("GetPixelFormat");
+    }
+    HRESULT IsLost() override { return directX.surfacesLost ? DDERR_SURFACELOST : DD_OK; }
+    HRESULT Lock(RECT*, DDSURFACEDESC* description, DWORD, HANDLE) override
+    {
+        description->lpSurface = pixels.data();
+        description->lPitch = 2 * PITCH;
+        return directX.Step("Lock");
+    }
+    HRESULT Restore() override { return directX.Step("Restore"); }
+    HRESULT SetClipper(IDirectDrawClipper*) override { return directX.Step("SetClipper"); }
+    HRESULT Unlock(LPVOID) override { return directX.Step("Unlock"); }
+
+    std::vector<uint16_t> pixels = std::vector<uint16_t>(PITCH * HEIGHT);
+};
+
+struct DirectDraw : Counted<IDirectDraw> {
+    HRESULT CreateClipper(DWORD, IDirectDrawClipper** clipper, IUnknown*) override
+    {
+        return Make<Clipper>(clipper, directX.Step("CreateClipper"));
+    }
+    HRESULT CreateSurface(DDSURFACEDESC* description, IDirectDrawSurface** surface, IUnknown*) override
+    {
+        return Make<Surface>(surface, directX.Step("CreateSurface", std::to_string(description->dwBackBufferCount)));
+    }
+    HRESULT RestoreDisplayMode() override
+    {
+        directX.fullScreen = false;
+        return directX.Step("RestoreDisplayMode");
+    }
+    HRESULT SetCooperativeLevel(HWND, DWORD level) override
+    {
+        return directX.Step("SetCooperativeLevel", std::to_string(level));
+    }
+    HRESULT SetDisplayMode(DWORD width, DWORD height, DWORD bits) override
+    {
+        const HRESULT result = directX.Step("SetDisplayMode", std::to_string(width) + " " + std::to_string(height) +
+                                                                  " " + std::to_string(bits));
+        directX.fullScreen = result == DD_OK;
+        return result;
+    }
+};
+
+struct SoundBuffer : Counted<IDirectSoundBuffer>, SoundBufferDouble {
+    explicit SoundBuffer(const DSBUFFERDESC& description) : number(directX.buffers.size())
+    {
+        bytes.resize(description.dwBufferBytes);
+        if ((description.dwFlags & DSBCAPS_PRIMARYBUFFER) == 0)
+            directX.buffers.push_back(this);
+    }
+    ~SoundBuffer() override { std::erase(directX.buffers, this); }
+    HRESULT Lock(DWORD, DWORD, LPVOID* first, DWORD* firstBytes, LPVOID*, DWORD*, DWORD) override
+    {
+        *first = bytes.data();
+        *firstBytes = static_cast<DWORD>(bytes.size());
+        return directX.Step("LockSound");
+    }
+    HRESULT Play(DWORD, DWORD, DWORD flags) override
+    {
+        ++plays;
+        playing = true;
+        looping = flags == DSBPLAY_LOOPING;
+        return directX.Step("Play", std::to_string(number) + " " + std::to_string(flags));
+    }
+    HRESULT SetCurrentPosition(DWORD position) override
+    {
+        return directX.Step("SetCurrentPosition", std::to_string(position));
+    }
+    HRESULT SetFormat(const WAVEFORMATEX* format) override
+    {
+        return directX.Step("SetFormat", std::to_string(format->nSamplesPerSec));
+    }
+    HRESULT Stop() override
+    {
+        ++stops;
+        playing = false;
+        return directX.Step("Stop", std::to_string(number));
+    }
+    HRESULT Unlock(LPVOID, DWORD, LPVOID, DWORD) override { return directX.Step("UnlockSound"); }
+    HRESULT Restore() override { return directX.Step("RestoreSound"); }
+
+    size_t number; ///< in order of creation
+};
+
+struct SoundDevice : Counted<IDirectSound> {
+    HRESULT CreateSoundBuffer(const DSBUFFERDESC* description, IDirectSoundBuffer** buffer, IUnknown*) override
+    {
+        return Make<SoundBuffer>(buffer, directX.Step("CreateSoundBuffer", std::to_string(description->dwFlags)),
+                                 *description);
+    }
+    HRESULT SetCooperativeLevel(HWND, DWORD level) override
+    {
+        return directX.Step("SetSoundLevel", std::to_string(level));
+    }
+};
+}
+
+HRESULT DirectDrawCreate(GUID*, IDirectDraw** directDraw, IUnknown*)
+{
+    return Make<DirectDraw>(directDraw, directX.Step("DirectDrawCreate"));
+}
+
+HRESULT DirectSoundCreate(const GUID*, IDirectSound** directSound, IUnknown*)
+{
+    return Make<SoundDevice>(directSound, directX.Step("DirectSoundCreate"));
+}

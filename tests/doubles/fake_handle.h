@@ -1,6 +1,0 @@
-#pragma once
-
-#include "platform/types.h"
-
-/// A handle that CloseHandle takes.
-HANDLE NewFakeHandle();

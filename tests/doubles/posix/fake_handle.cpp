@@ -1,8 +1,0 @@
-#include "doubles/fake_handle.h"
-
-#include "platform/posix/kernel_object.h"
-
-HANDLE NewFakeHandle()
-{
-    return HandleOf(new KernelObject);
-}
