@@ -2,7 +2,8 @@
 
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config libsdl2-dev libfreetype-dev libfontconfig-dev libturbojpeg0-dev
     libtomlplusplus-dev libpng-dev libhwy-dev fonts-dejavu-core"
-TEST_PACKAGES="libgtest-dev xvfb xdotool imagemagick openbox x11-utils wmctrl python3 python3-numpy python3-pil"
+TEST_PACKAGES="libgtest-dev xvfb xdotool imagemagick openbox x11-utils x11-xserver-utils wmctrl python3 python3-numpy
+    python3-pil"
 BENCH_PACKAGES="libbenchmark-dev libpixman-1-dev python3"
 WINDOWS_PACKAGES="g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build nasm dpkg-dev googletest"
 WINE_PACKAGES="wine wine64 xvfb xdotool imagemagick openbox x11-utils wmctrl"

@@ -160,6 +160,7 @@ point_at 10 10
 await "the menu" shows_menu
 wmctrl -c Tervalis
 expect_end
+
 step "A program that is ended takes its message box with it"
 mv "$program/Dat" "$folder/"
 "$program/tervalis" 2>"$folder/errors" &
@@ -169,4 +170,18 @@ kill -TERM $pid
 wait $pid || fail "the program ended with $?"
 kill -0 "$box" 2>/dev/null && fail "the box is still there"
 mv "$folder/Dat" "$program/"
+
+step "Without a window manager, on a screen that changes meanwhile"
+openbox --exit
+await "the window manager goes" eval '! wmctrl -m >/dev/null 2>&1'
+start_program
+expect_full_screen
+xrandr --setmonitor smaller 800/200x600/150+100+50 screen
+xdotool mousemove 500 350 # keys go to what is under the mouse
+press_alt_enter
+await "the window is in the middle of the present screen" is_at 640x480+180+121
+press_alt_enter
+await "the present screen is covered" is_at 800x600+100+50
+kill -TERM $pid
+expect_end
 echo "The menu does what it should."

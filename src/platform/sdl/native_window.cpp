@@ -1,5 +1,7 @@
 #include "platform/sdl/native_window.h"
 
+#include "platform/sdl/x11_screen.h"
+
 NativeWindow nativeWindow;
 
 namespace
@@ -72,8 +74,11 @@ void KeepClientSize()
 bool EnterFullScreen(NativeWindow& window, SDL_Point frameSize)
 {
     window.titleHeight = TitleHeight(window.handle);
-    return window.view.SetFrameSize(frameSize) &&
-           SDL_SetWindowFullscreen(window.handle, SDL_WINDOW_FULLSCREEN_DESKTOP) == 0;
+    if (!window.view.SetFrameSize(frameSize) ||
+        SDL_SetWindowFullscreen(window.handle, SDL_WINDOW_FULLSCREEN_DESKTOP) != 0)
+        return false;
+    CoverX11Screen(window.handle);
+    return true;
 }
 
 void LeaveFullScreen(NativeWindow& window)

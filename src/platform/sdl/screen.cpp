@@ -1,5 +1,7 @@
 #include "platform/sdl/screen.h"
 
+#include "platform/sdl/native_window.h"
+#include "platform/sdl/x11_screen.h"
 #include "platform/window.h"
 
 #include <string_view>
@@ -45,6 +47,8 @@ bool HasScreen()
 
 SDL_Rect MainScreen()
 {
+    if (const std::optional<SDL_Rect> area = X11MainScreen(nativeWindow.handle))
+        return *area;
     SDL_Rect area = {};
     SDL_GetDisplayBounds(0, &area);
     return area;
