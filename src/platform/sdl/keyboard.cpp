@@ -25,11 +25,36 @@ constexpr ControlCharacter controlCharacters[] = {
     { VK_ESCAPE, 0x1B, 0x1B },
 };
 
-/// A system key is meant for the window's own commands, not for the game: F10, and any key with Alt but not Ctrl.
-bool IsSystemKey(int code, Uint16 modifiers)
+/// The modifiers and the word of the latest key, for the text that comes behind it.
+Uint16 latestModifiers = 0;
+LPARAM latestWord = 0;
+
+/// The right Alt key chooses characters on many layouts, as Mode does: no command then, whatever else is held.
+bool ChoosesCharacter(Uint16 modifiers)
 {
-    const bool alt = (modifiers & KMOD_ALT) || code == VK_MENU;
-    return code == VK_F10 || (alt && !(modifiers & KMOD_CTRL));
+    return modifiers & (KMOD_RALT | KMOD_MODE);
+}
+
+bool IsControl(Uint16 modifiers)
+{
+    return (modifiers & KMOD_CTRL) && !ChoosesCharacter(modifiers);
+}
+
+bool IsAlt(Uint16 modifiers)
+{
+    return (modifiers & KMOD_LALT) && !ChoosesCharacter(modifiers);
+}
+
+/// A system key is meant for the window's own commands, not for the game: F10, and any key with Alt but not Ctrl.
+bool IsSystemKey(int code, const SDL_Keysym& key)
+{
+    const bool alt = IsAlt(key.mod) || key.sym == SDLK_LALT;
+    return code == VK_F10 || (alt && !(key.mod & KMOD_CTRL));
+}
+
+bool HasLatinLetters()
+{
+    return SDL_GetScancodeFromKey(SDLK_a) != SDL_SCANCODE_UNKNOWN;
 }
 
 LPARAM KeyWord(bool alt, bool wasDown, bool up)
@@ -40,7 +65,7 @@ LPARAM KeyWord(bool alt, bool wasDown, bool up)
 
 void PostCharacter(WPARAM character)
 {
-    PostToWindow(WM_CHAR, character, 1);
+    PostToWindow(WM_CHAR, character, latestWord);
 }
 
 void PostControlCharacter(int code, bool control)
@@ -54,37 +79,29 @@ void PostControlCharacter(int code, bool control)
     }
 }
 
-void PressKey(const SDL_Keysym& key)
+void PressKey(const SDL_Keysym& key, bool repeatedBySystem)
 {
     int& held = heldCodes[key.scancode];
-    const bool repeated = held != 0;
-    const int code = repeated ? held : VirtualKey(key);
+    const int code = held != 0 ? held : VirtualKey(key, HasLatinLetters());
+    latestWord = KeyWord(IsAlt(key.mod), held != 0 || repeatedBySystem, false);
     if (code == 0)
         return;
     held = code;
-    const bool system = IsSystemKey(code, key.mod);
-    PostToWindow(system ? WM_SYSKEYDOWN : WM_KEYDOWN, static_cast<WPARAM>(code),
-                 KeyWord(key.mod & KMOD_ALT, repeated, false));
+    const bool system = IsSystemKey(code, key);
+    PostToWindow(system ? WM_SYSKEYDOWN : WM_KEYDOWN, static_cast<WPARAM>(code), latestWord);
     if (!system)
-        PostControlCharacter(code, key.mod & KMOD_CTRL);
+        PostControlCharacter(code, IsControl(key.mod));
 }
 
 void ReleaseKey(const SDL_Keysym& key)
 {
     int& held = heldCodes[key.scancode];
-    const int code = held != 0 ? held : VirtualKey(key);
+    const int code = held;
     if (code == 0)
         return;
     held = 0;
-    PostToWindow(IsSystemKey(code, key.mod) ? WM_SYSKEYUP : WM_KEYUP, static_cast<WPARAM>(code),
-                 KeyWord(key.mod & KMOD_ALT, true, true));
-}
-
-/// Whether a text comes from a command key and is none. The right Alt key chooses characters on many layouts.
-bool IsCommandText()
-{
-    const bool control = heldCodes[SDL_SCANCODE_LCTRL] || heldCodes[SDL_SCANCODE_RCTRL];
-    return !heldCodes[SDL_SCANCODE_RALT] && (control || heldCodes[SDL_SCANCODE_LALT]);
+    PostToWindow(IsSystemKey(code, key) ? WM_SYSKEYUP : WM_KEYUP, static_cast<WPARAM>(code),
+                 KeyWord(IsAlt(key.mod), true, true));
 }
 }
 
@@ -92,12 +109,13 @@ void HandleKey(const SDL_KeyboardEvent& event)
 {
     if (event.keysym.scancode >= SDL_NUM_SCANCODES)
         return;
-    event.type == SDL_KEYDOWN ? PressKey(event.keysym) : ReleaseKey(event.keysym);
+    latestModifiers = event.keysym.mod;
+    event.type == SDL_KEYDOWN ? PressKey(event.keysym, event.repeat != 0) : ReleaseKey(event.keysym);
 }
 
 void HandleText(const char* text)
 {
-    if (IsCommandText())
+    if (IsControl(latestModifiers) || IsAlt(latestModifiers))
         return;
     const std::unique_ptr<char, decltype(&SDL_free)> ansi(
         SDL_iconv_string("CP1252", "UTF-8", text, SDL_strlen(text) + 1), SDL_free);
@@ -113,4 +131,5 @@ void ReleaseHeldKeys()
             PostToWindow(WM_KEYUP, static_cast<WPARAM>(held), KeyWord(false, true, true));
         held = 0;
     }
+    latestModifiers = 0;
 }

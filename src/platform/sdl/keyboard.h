@@ -2,8 +2,9 @@
 
 #include <SDL.h>
 
-/// The virtual-key code of a key, 0 for keys without one.
-int VirtualKey(const SDL_Keysym& key);
+/// The virtual-key code of a key, 0 for keys without one. A letter goes by the layout if that has Latin letters, else
+/// by its place.
+int VirtualKey(const SDL_Keysym& key, bool hasLatinLetters);
 
 /// Posts the key's message and, for keys that are control characters, the character's.
 void HandleKey(const SDL_KeyboardEvent& event);

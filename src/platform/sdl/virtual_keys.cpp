@@ -10,6 +10,8 @@ namespace
 constexpr int VK_CLEAR = 0x0C;
 constexpr int VK_OEM_102 = 0xE2;
 
+constexpr SDL_Keycode DOTLESS_I = 0x131;
+
 struct KeyCode {
     SDL_Scancode position;
     int code;
@@ -35,7 +37,7 @@ struct PunctuationKey {
     int code;
 };
 
-/// Letters here are for layouts without Latin ones.
+/// Letters here are for layouts without Latin ones, or with others among them.
 constexpr KeyRange keyRanges[] = {
     { SDL_SCANCODE_A, SDL_SCANCODE_Z, 'A' },
     { SDL_SCANCODE_1, SDL_SCANCODE_9, '1' },
@@ -129,15 +131,17 @@ int CodeByPosition(SDL_Scancode position)
 }
 }
 
-int VirtualKey(const SDL_Keysym& key)
+int VirtualKey(const SDL_Keysym& key, bool hasLatinLetters)
 {
     if (IsLetter(key.sym))
         return 'A' + (key.sym - 'a');
+    if (key.sym == DOTLESS_I) // Turkish: it is the key of I, wherever it is
+        return 'I';
     const auto* keypad = std::ranges::find(keypadKeys, key.scancode, &KeypadKey::position);
     if (keypad != std::end(keypadKeys))
         return key.mod & KMOD_NUM ? keypad->digit : keypad->editing;
-    // Where a layout has punctuation in a letter's place, that letter is elsewhere, and its code taken.
-    if (IsLetterPosition(key.scancode)) {
+    // Where a layout with Latin letters has punctuation in a letter's place, that letter is elsewhere, its code taken.
+    if (hasLatinLetters && IsLetterPosition(key.scancode)) {
         const auto* mark = std::ranges::find(punctuationKeys, key.sym, &PunctuationKey::character);
         if (mark != std::end(punctuationKeys))
             return mark->code;

@@ -63,13 +63,17 @@ TEST_F(KeyboardTest, KeepsAltAndF10FromThePlayer)
                                      WM_SYSKEYDOWN, WM_SYSKEYUP }));
 }
 
-TEST_F(KeyboardTest, TakesControlWithAltAsAnOrdinaryKey)
+TEST_F(KeyboardTest, TakesAltThatChoosesCharactersAsAnOrdinaryKey)
 {
-    PushKey(true, SDL_SCANCODE_E, SDLK_e, KMOD_LALT | KMOD_LCTRL);
-    PushKey(false, SDL_SCANCODE_E, SDLK_e, KMOD_LALT | KMOD_LCTRL);
-    RunMessages();
-    EXPECT_EQ(received.front().message, WM_KEYDOWN);
-    EXPECT_EQ(received.back().message, WM_KEYUP);
+    for (const int modifiers :
+         { KMOD_LALT | KMOD_LCTRL, KMOD_RALT | 0, KMOD_RALT | KMOD_LCTRL, KMOD_LALT | KMOD_MODE }) {
+        PushKey(true, SDL_SCANCODE_RETURN, SDLK_RETURN, modifiers);
+        PushKey(false, SDL_SCANCODE_RETURN, SDLK_RETURN, modifiers);
+        RunMessages();
+        EXPECT_EQ(received.front().message, WM_KEYDOWN) << modifiers;
+        EXPECT_EQ(received.back().message, WM_KEYUP) << "and the display is not switched";
+        received.clear();
+    }
 }
 
 TEST_F(KeyboardTest, ReleasesTheCodeThatWasPressedAfterNumLockChanged)

@@ -11,6 +11,7 @@ struct KeyCase {
     int modifiers;
     int code;
     const char* why;
+    bool hasLatinLetters = true;
 };
 
 class VirtualKeyTable : public testing::TestWithParam<KeyCase>
@@ -22,7 +23,7 @@ TEST_P(VirtualKeyTable, GivesWindowsCode)
 {
     const KeyCase& key = GetParam();
     const SDL_Keysym symbol = { key.position, key.symbol, static_cast<Uint16>(key.modifiers), 0 };
-    EXPECT_EQ(VirtualKey(symbol), key.code) << key.why;
+    EXPECT_EQ(VirtualKey(symbol, key.hasLatinLetters), key.code) << key.why;
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -31,7 +32,9 @@ INSTANTIATE_TEST_SUITE_P(
         KeyCase{ SDL_SCANCODE_Z, SDLK_z, 0, 'Z', "a letter" },
         KeyCase{ SDL_SCANCODE_Q, SDLK_a, 0, 'A', "French: the layout says which letter" },
         KeyCase{ SDL_SCANCODE_SEMICOLON, SDLK_m, 0, 'M', "French: a letter in a mark's place" },
-        KeyCase{ SDL_SCANCODE_A, 0x0444, 0, 'A', "Russian: no Latin letter, so the place counts" },
+        KeyCase{ SDL_SCANCODE_A, 0x0444, 0, 'A', "Russian: no Latin letter, so the place counts", false },
+        KeyCase{ SDL_SCANCODE_W, SDLK_QUOTE, 0, 'W', "Hebrew: nor for marks in letters' places", false },
+        KeyCase{ SDL_SCANCODE_R, 0x0131, 0, 'I', "Turkish F: the key of I has no dot" },
         KeyCase{ SDL_SCANCODE_Q, SDLK_QUOTE, 0, 0xDE, "Dvorak: a mark in a letter's place is not that letter" },
         KeyCase{ SDL_SCANCODE_SEMICOLON, 0xF6, 0, 0xBA, "German: a letter that Windows has no code for" },
         KeyCase{ SDL_SCANCODE_1, SDLK_AMPERSAND, 0, '1', "French: digits need Shift but have their code without" },
