@@ -1,5 +1,6 @@
 #include "platform/directdraw.h"
 #include "platform/sdl/native_window.h"
+#include "platform/sdl/present.h"
 
 #include <cstdint>
 #include <vector>
@@ -96,10 +97,9 @@ public:
 
     bool ShowIn(CFrameView& view) const
     {
-        if (locked || !view.Update({ 0, 0, size.x, size.y }, pixels.data(), size.x * 2))
-            return false;
-        view.Show();
-        return true;
+        const bool isDrawn = !locked && view.Update({ 0, 0, size.x, size.y }, pixels.data(), size.x * 2);
+        PresentFrame();
+        return isDrawn;
     }
 
 private:

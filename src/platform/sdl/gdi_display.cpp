@@ -1,5 +1,6 @@
 #include "platform/gdi.h"
 #include "platform/sdl/native_window.h"
+#include "platform/sdl/present.h"
 
 #include <cstring>
 #include <iterator>
@@ -54,12 +55,12 @@ int SetDIBitsToDevice(HDC context, int x, int y, DWORD width, DWORD height, int 
     const SDL_Point size = window->view.FrameSize();
     const SDL_Rect frame = { 0, 0, size.x, size.y };
     SDL_Rect area = {};
+    bool isDrawn = true;
     if (SDL_IntersectRect(&asked, &held, &area) && SDL_IntersectRect(&area, &frame, &area)) {
         const int rowBytes = RowBytes(info->bmiHeader.biWidth);
         const ptrdiff_t offset = static_cast<ptrdiff_t>(area.y - held.y) * rowBytes + (area.x - held.x) * 2;
-        if (!window->view.Update(area, static_cast<const char*>(bits) + offset, rowBytes))
-            return 0;
+        isDrawn = window->view.Update(area, static_cast<const char*>(bits) + offset, rowBytes);
     }
-    window->view.Show();
-    return static_cast<int>(scanLines);
+    PresentFrame();
+    return isDrawn ? static_cast<int>(scanLines) : 0;
 }

@@ -1,42 +1,78 @@
 #include "platform/sdl/messages.h"
 
-#include "platform/sdl/events.h"
 #include "platform/sdl/native_window.h"
 
-#include <chrono>
+#include <algorithm>
 #include <deque>
-#include <optional>
-#include <thread>
 
 namespace
 {
+/// Presses that wait for later frames. Only a stall brings more at once; then the oldest go, for what the player did
+/// last matters most, and the game is up to date again this many frames later.
+constexpr int MOST_WAITING_PRESSES = 4;
+
+constexpr LPARAM WAS_DOWN = 1 << 30;
+
+/// What the frame in the making sees already.
+struct SeenPresses {
+    WPARAM key = 0; ///< virtual-key code, 0 none
+    bool character = false;
+    bool button = false;
+};
+
 std::deque<MSG> queue;
-std::optional<int> quitCode;
+SeenPresses seen;
 
-/// A program that polls an empty queue gives up the processor for a moment each time: it then needs a few per cent
-/// of it instead of all, and the game's 40 ms frame starts at most this much late.
-constexpr auto EMPTY_QUEUE_PAUSE = std::chrono::microseconds(200);
-
-constexpr LPARAM ALT_HELD = 1 << 29;
-
-LRESULT SystemCommand(HWND window, WPARAM command)
+bool IsRepeat(const MSG& message)
 {
-    NativeWindow* native = WindowOf(window);
-    if (!native)
-        return 0;
-    switch (command & 0xFFF0) { // the low four bits are the system's own
-    case SC_CLOSE:
-        return native->procedure(window, WM_CLOSE, 0, 0);
-    case SC_MINIMIZE:
-        SDL_MinimizeWindow(native->handle);
-        break;
-    case SC_RESTORE:
-        SDL_RestoreWindow(native->handle);
-        break;
+    return (message.message == WM_KEYDOWN || message.message == WM_CHAR) && (message.lParam & WAS_DOWN);
+}
+
+bool IsPress(const MSG& message)
+{
+    return message.message == WM_KEYDOWN || message.message == WM_LBUTTONDOWN || message.message == WM_RBUTTONDOWN;
+}
+
+bool IsNoCharacter(const MSG& message)
+{
+    return message.message != WM_CHAR;
+}
+
+/// Whether the message would undo or replace a press that the frame in the making is to see. A move takes a click
+/// elsewhere; a key waits for a character too, so as to stay together with its own.
+bool Collides(const MSG& message)
+{
+    switch (message.message) {
+    case WM_KEYDOWN:
+        return seen.key != 0 || seen.character;
+    case WM_KEYUP:
+    case WM_SYSKEYUP:
+        return seen.key == message.wParam;
+    case WM_CHAR:
+        return seen.character;
+    case WM_MOUSEMOVE:
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONUP:
+        return seen.button;
     default:
-        break;
+        return false;
     }
-    return 0;
+}
+
+/// Drops the press that has waited longest, with its characters. Its release does no harm.
+void DropOldestPress()
+{
+    const auto press = std::ranges::find_if(queue, IsPress);
+    queue.erase(press, std::find_if(press + 1, queue.end(), IsNoCharacter));
+}
+
+void DropWhatMustNotWait()
+{
+    std::erase_if(queue, IsRepeat);
+    while (std::ranges::count_if(queue, IsPress) > MOST_WAITING_PRESSES)
+        DropOldestPress();
 }
 }
 
@@ -50,71 +86,34 @@ void PostToWindow(UINT message, WPARAM wParam, LPARAM lParam)
     queue.push_back(posted);
 }
 
+const MSG* DueMessage()
+{
+    if (!queue.empty() && Collides(queue.front()))
+        DropWhatMustNotWait();
+    return queue.empty() || Collides(queue.front()) ? nullptr : &queue.front();
+}
+
+void TakeDueMessage()
+{
+    const MSG message = queue.front();
+    queue.pop_front();
+    if (IsRepeat(message))
+        return;
+    if (message.message == WM_KEYDOWN)
+        seen.key = message.wParam;
+    else if (message.message == WM_CHAR)
+        seen.character = true;
+    else if (IsPress(message))
+        seen.button = true;
+}
+
+void EndFrameOfMessages()
+{
+    seen = {};
+}
+
 void DropMessages()
 {
     queue.clear();
-}
-
-void PostQuitMessage(int exitCode)
-{
-    quitCode = exitCode;
-}
-
-BOOL PeekMessageA(MSG* message, HWND, UINT, UINT, UINT)
-{
-    CollectEvents();
-    if (!queue.empty()) {
-        *message = queue.front();
-        return TRUE;
-    }
-    if (quitCode) {
-        *message = {};
-        message->message = WM_QUIT;
-        message->wParam = static_cast<WPARAM>(*quitCode);
-        return TRUE;
-    }
-    std::this_thread::sleep_for(EMPTY_QUEUE_PAUSE);
-    return FALSE;
-}
-
-BOOL GetMessageA(MSG* message, HWND window, UINT first, UINT last)
-{
-    while (!PeekMessageA(message, window, first, last, PM_NOREMOVE))
-        ;
-    if (message->message == WM_QUIT) {
-        quitCode.reset();
-        return FALSE;
-    }
-    queue.pop_front();
-    return TRUE;
-}
-
-/// Characters come from the text input of the layout (keyboard.cpp), which puts them right behind their key.
-BOOL TranslateMessage(const MSG* message)
-{
-    return message->message == WM_KEYDOWN || message->message == WM_SYSKEYDOWN;
-}
-
-LRESULT DispatchMessageA(const MSG* message)
-{
-    const NativeWindow* window = WindowOf(message->hwnd);
-    return window ? window->procedure(message->hwnd, message->message, message->wParam, message->lParam) : 0;
-}
-
-LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    switch (message) {
-    case WM_SYSKEYDOWN:
-        if (wParam == VK_F4 && (lParam & ALT_HELD))
-            PostToWindow(WM_SYSCOMMAND, SC_CLOSE, 0);
-        break;
-    case WM_SYSCOMMAND:
-        return SystemCommand(window, wParam);
-    case WM_CLOSE:
-        DestroyWindow(window);
-        break;
-    default:
-        break;
-    }
-    return 0;
+    seen = {};
 }

@@ -168,12 +168,12 @@ TEST_F(GdiDisplayTest, RefusesWhatItCannotShow)
     EXPECT_EQ(Set(0, 0, 4, 4, 0, pixels, Rgb565Picture(4, 4)), 0) << "no window any more";
 }
 
-TEST_F(GdiDisplayTest, ShowsTheLastFrameAgainWhenUncovered)
+TEST_F(GdiDisplayTest, ShowsNothingWithoutTheFocusButTheLastFrameWhenUncovered)
 {
     const uint16_t pixel[] = { RED, 0 };
+    PushWindowEvent(SDL_WINDOWEVENT_FOCUS_LOST);
+    RunMessages();
     Set(5, 5, 1, 1, 0, pixel, Rgb565Picture(2, 1));
-    SDL_Renderer* renderer = SDL_GetRenderer(nativeWindow.handle);
-    SDL_RenderClear(renderer);
     ASSERT_EQ(ScreenPixel(5, 5), 0x000000u);
     PushWindowEvent(SDL_WINDOWEVENT_EXPOSED);
     RunMessages();

@@ -18,11 +18,6 @@ protected:
 };
 
 using Sequence = std::vector<UINT>;
-
-bool IsRepeat(const Received& message)
-{
-    return (message.lParam >> 30) & 1;
-}
 }
 
 TEST_F(KeyboardTest, GivesTheCharacterRightBehindItsKey)
@@ -35,16 +30,6 @@ TEST_F(KeyboardTest, GivesTheCharacterRightBehindItsKey)
     EXPECT_EQ(Messages(), Sequence({ WM_KEYDOWN, WM_CHAR, WM_KEYDOWN, WM_CHAR, WM_KEYUP }));
     EXPECT_EQ(received[0].wParam, 'E');
     EXPECT_EQ(Characters(), "e\b");
-}
-
-TEST_F(KeyboardTest, PassesAutoRepeatOnAsKeyDown)
-{
-    PushKey(true, SDL_SCANCODE_LEFT, SDLK_LEFT);
-    PushKey(true, SDL_SCANCODE_LEFT, SDLK_LEFT);
-    RunMessages();
-    ASSERT_EQ(Messages(), Sequence({ WM_KEYDOWN, WM_KEYDOWN }));
-    EXPECT_FALSE(IsRepeat(received[0]));
-    EXPECT_TRUE(IsRepeat(received[1]));
 }
 
 TEST_F(KeyboardTest, KeepsAltAndF10FromThePlayer)

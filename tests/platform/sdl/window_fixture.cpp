@@ -1,5 +1,6 @@
 #include "platform/sdl/window_fixture.h"
 
+#include "platform/sdl/messages.h"
 #include "platform/sdl/native_window.h"
 
 #include <cstdlib>
@@ -46,6 +47,16 @@ void WindowFixture::TearDown()
 
 bool WindowFixture::RunMessages()
 {
+    for (size_t before = received.size() + 1; before != received.size();) {
+        before = received.size();
+        if (RunFrame())
+            return true;
+    }
+    return false;
+}
+
+bool WindowFixture::RunFrame()
+{
     MSG message = {};
     while (PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE)) {
         if (!GetMessageA(&message, nullptr, 0, 0))
@@ -53,6 +64,7 @@ bool WindowFixture::RunMessages()
         TranslateMessage(&message);
         DispatchMessageA(&message);
     }
+    EndFrameOfMessages();
     return false;
 }
 
@@ -94,6 +106,17 @@ void WindowFixture::PushMotion(int x, int y)
     event.motion.type = SDL_MOUSEMOTION;
     event.motion.x = x;
     event.motion.y = y;
+    SDL_PushEvent(&event);
+}
+
+void WindowFixture::PushButton(bool down, int x, int y)
+{
+    SDL_Event event = {};
+    event.button.type = down ? SDL_MOUSEBUTTONDOWN : SDL_MOUSEBUTTONUP;
+    event.button.button = SDL_BUTTON_LEFT;
+    event.button.state = down ? SDL_PRESSED : SDL_RELEASED;
+    event.button.x = x;
+    event.button.y = y;
     SDL_PushEvent(&event);
 }
 

@@ -22,8 +22,10 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
-    /// Gives the window all that waits for it; true when the quit message was among it.
+    /// Gives the window all that waits for it, in as many frames as that takes; true when the quit message was in it.
     bool RunMessages();
+    /// Gives the window what is due in one frame.
+    bool RunFrame();
     /// The messages received so far, in order, without their words.
     std::vector<UINT> Messages() const;
 
@@ -31,6 +33,8 @@ protected:
     static void PushText(const char* text);
     static void PushWindowEvent(SDL_WindowEventID id);
     static void PushMotion(int x, int y);
+    /// The left mouse button.
+    static void PushButton(bool down, int x, int y);
 
     /// A screen pixel as 0xRRGGBB, each channel in the five bits that every conversion keeps.
     static uint32_t ScreenPixel(int x, int y);

@@ -1,0 +1,100 @@
+#include "platform/sdl/events.h"
+#include "platform/sdl/messages.h"
+#include "platform/sdl/native_window.h"
+
+#include <optional>
+
+namespace
+{
+std::optional<int> quitCode;
+
+/// A program that polls an empty queue gives up the processor for a moment each time, less if something happens: it
+/// then needs a few per cent of it instead of all, and the game's 40 ms frame starts at most this much late.
+constexpr int EMPTY_QUEUE_PAUSE_MS = 1;
+
+constexpr LPARAM ALT_HELD = 1 << 29;
+
+LRESULT SystemCommand(HWND window, WPARAM command)
+{
+    NativeWindow* native = WindowOf(window);
+    if (!native)
+        return 0;
+    switch (command & 0xFFF0) { // the low four bits are the system's own
+    case SC_CLOSE:
+        return native->procedure(window, WM_CLOSE, 0, 0);
+    case SC_MINIMIZE:
+        SDL_MinimizeWindow(native->handle);
+        break;
+    case SC_RESTORE:
+        SDL_RestoreWindow(native->handle);
+        break;
+    default:
+        break;
+    }
+    return 0;
+}
+}
+
+void PostQuitMessage(int exitCode)
+{
+    quitCode = exitCode;
+}
+
+BOOL PeekMessageA(MSG* message, HWND, UINT, UINT, UINT)
+{
+    CollectEvents();
+    if (const MSG* due = DueMessage()) {
+        *message = *due;
+        return TRUE;
+    }
+    if (quitCode) {
+        *message = {};
+        message->message = WM_QUIT;
+        message->wParam = static_cast<WPARAM>(*quitCode);
+        return TRUE;
+    }
+    SDL_WaitEventTimeout(nullptr, EMPTY_QUEUE_PAUSE_MS);
+    return FALSE;
+}
+
+BOOL GetMessageA(MSG* message, HWND window, UINT first, UINT last)
+{
+    while (!PeekMessageA(message, window, first, last, PM_NOREMOVE))
+        EndFrameOfMessages(); // whoever waits here shows no frame meanwhile
+    if (message->message == WM_QUIT) {
+        quitCode.reset();
+        return FALSE;
+    }
+    TakeDueMessage();
+    return TRUE;
+}
+
+/// Characters come from the text input of the layout (keyboard.cpp), which puts them right behind their key.
+BOOL TranslateMessage(const MSG* message)
+{
+    return message->message == WM_KEYDOWN || message->message == WM_SYSKEYDOWN;
+}
+
+LRESULT DispatchMessageA(const MSG* message)
+{
+    const NativeWindow* window = WindowOf(message->hwnd);
+    return window ? window->procedure(message->hwnd, message->message, message->wParam, message->lParam) : 0;
+}
+
+LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message) {
+    case WM_SYSKEYDOWN:
+        if (wParam == VK_F4 && (lParam & ALT_HELD))
+            PostToWindow(WM_SYSCOMMAND, SC_CLOSE, 0);
+        break;
+    case WM_SYSCOMMAND:
+        return SystemCommand(window, wParam);
+    case WM_CLOSE:
+        DestroyWindow(window);
+        break;
+    default:
+        break;
+    }
+    return 0;
+}

@@ -1,0 +1,22 @@
+#include "platform/sdl/present.h"
+
+#include "platform/sdl/messages.h"
+#include "platform/sdl/native_window.h"
+#include "platform/sdl/window_state.h"
+
+namespace
+{
+/// Scenes stand still without the focus, and what uncovers the window shows its last frame again (events.cpp).
+bool IsWatched()
+{
+    constexpr Uint32 OUT_OF_SIGHT = SDL_WINDOW_MINIMIZED | SDL_WINDOW_HIDDEN;
+    return WindowHasFocus() && !(SDL_GetWindowFlags(nativeWindow.handle) & OUT_OF_SIGHT);
+}
+}
+
+void PresentFrame()
+{
+    if (IsWatched())
+        nativeWindow.view.Show();
+    EndFrameOfMessages();
+}
