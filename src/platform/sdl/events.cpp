@@ -13,16 +13,23 @@ namespace
 {
 std::atomic<bool> focused = true;
 
+void ReleaseAll()
+{
+    ReleaseHeldKeys();
+    ReleaseHeldButtons();
+}
+
 void LoseFocus()
 {
     focused = false;
-    ReleaseHeldKeys();
+    ReleaseAll();
     PostToWindow(WM_KILLFOCUS, 0, 0);
 }
 
 void GainFocus()
 {
     focused = true;
+    FindMissedReleases();
     PostToWindow(WM_SETFOCUS, 0, 0);
 }
 
@@ -51,6 +58,10 @@ void HandleWindowEvent(const SDL_WindowEvent& event)
         return GainFocus();
     case SDL_WINDOWEVENT_FOCUS_LOST:
         return LoseFocus();
+    case SDL_WINDOWEVENT_ENTER:
+        return FindMissedReleases();
+    case SDL_WINDOWEVENT_MINIMIZED:
+        return ReleaseAll();
     case SDL_WINDOWEVENT_CLOSE:
         return PostToWindow(WM_SYSCOMMAND, SC_CLOSE, 0);
     case SDL_WINDOWEVENT_MAXIMIZED:
@@ -107,7 +118,7 @@ void CollectEvents()
 
 void ForgetEvents()
 {
-    ReleaseHeldKeys();
+    ReleaseAll();
     DropMessages();
     focused = true;
 }

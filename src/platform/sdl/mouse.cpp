@@ -3,6 +3,9 @@
 #include "platform/sdl/messages.h"
 #include "platform/sdl/native_window.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace
 {
 struct ButtonMessages {
@@ -16,6 +19,13 @@ constexpr ButtonMessages buttonMessages[] = {
     { SDL_BUTTON_RIGHT, WM_RBUTTONDOWN, WM_RBUTTONUP },
 };
 
+/// Both in SDL's mask of buttons. SDL takes a button whose release it missed as held still and swallows its next
+/// press; there is no way to tell it better.
+Uint32 heldButtons = 0;
+Uint32 missedReleases = 0;
+
+LPARAM lastPosition = 0;
+
 LPARAM PositionWord(int x, int y)
 {
     const POINT position = nativeWindow.view.FramePosition(x, y);
@@ -25,14 +35,40 @@ LPARAM PositionWord(int x, int y)
 
 void HandleMotion(const SDL_MouseMotionEvent& event)
 {
-    PostToWindow(WM_MOUSEMOVE, 0, PositionWord(event.x, event.y));
+    lastPosition = PositionWord(event.x, event.y);
+    PostToWindow(WM_MOUSEMOVE, 0, lastPosition);
 }
 
 void HandleButton(const SDL_MouseButtonEvent& event)
 {
+    const auto* row = std::ranges::find(buttonMessages, event.button, &ButtonMessages::button);
+    if (row == std::end(buttonMessages))
+        return;
+    const Uint32 mask = SDL_BUTTON(event.button);
+    const bool isPressed = event.state == SDL_PRESSED;
+    const bool wasSwallowed = !isPressed && (missedReleases & mask);
+    lastPosition = PositionWord(event.x, event.y);
+    if (isPressed || wasSwallowed)
+        PostToWindow(row->down, 0, lastPosition);
+    if (!isPressed)
+        PostToWindow(row->up, 0, lastPosition);
+    heldButtons = isPressed ? heldButtons | mask : heldButtons & ~mask;
+    missedReleases &= ~mask;
+}
+
+void ReleaseHeldButtons()
+{
     for (const ButtonMessages& row : buttonMessages)
-        if (row.button == event.button)
-            PostToWindow(event.state == SDL_PRESSED ? row.down : row.up, 0, PositionWord(event.x, event.y));
+        if (heldButtons & SDL_BUTTON(row.button))
+            PostToWindow(row.up, 0, lastPosition);
+    heldButtons = 0;
+}
+
+void FindMissedReleases()
+{
+    const Uint32 heldForSdl = SDL_GetMouseState(nullptr, nullptr);
+    if (heldForSdl & ~heldButtons)
+        missedReleases |= heldForSdl & ~heldButtons & ~SDL_GetGlobalMouseState(nullptr, nullptr);
 }
 
 HCURSOR LoadCursorA(HINSTANCE, LPCSTR name)

@@ -5,3 +5,9 @@
 /// Post the mouse's messages, with positions in pixels of the frame.
 void HandleMotion(const SDL_MouseMotionEvent& event);
 void HandleButton(const SDL_MouseButtonEvent& event);
+
+/// Posts the release of every button that is down, so that none stays held when the mouse goes elsewhere.
+void ReleaseHeldButtons();
+
+/// Notes the buttons that were let go where SDL did not see it; to be asked whenever the window is entered again.
+void FindMissedReleases();

@@ -70,22 +70,32 @@ TEST_F(KeyboardTest, ReleasesTheCodeThatWasPressedAfterNumLockChanged)
     EXPECT_EQ(received.back().wParam, static_cast<WPARAM>(VK_NUMPAD0 + 8));
 }
 
-TEST_F(KeyboardTest, HoldsNoKeyAfterTheFocusIsLost)
+TEST_F(KeyboardTest, HoldsNeitherKeyNorButtonAfterTheFocusIsLostOrTheWindowMinimised)
 {
-    PushKey(true, SDL_SCANCODE_W, SDLK_w);
-    PushKey(true, SDL_SCANCODE_LALT, SDLK_LALT, KMOD_LALT);
-    PushKey(true, SDL_SCANCODE_RETURN, SDLK_RETURN, KMOD_LALT);
-    RunMessages();
-    received.clear();
-    PushKey(false, SDL_SCANCODE_RETURN, SDLK_RETURN, KMOD_LALT); // SDL's own releases come first
-    PushKey(false, SDL_SCANCODE_LALT, SDLK_LALT);
-    PushWindowEvent(SDL_WINDOWEVENT_FOCUS_LOST);
-    RunMessages();
-    EXPECT_EQ(Messages(), Sequence({ WM_KEYUP, WM_KEYUP, WM_KEYUP, WM_KILLFOCUS })) << "and Alt+Enter does not switch";
-    received.clear();
-    PushWindowEvent(SDL_WINDOWEVENT_FOCUS_LOST);
-    RunMessages();
-    EXPECT_EQ(Messages(), Sequence({ WM_KILLFOCUS })) << "each key is released once";
+    for (const SDL_WindowEventID id : { SDL_WINDOWEVENT_FOCUS_LOST, SDL_WINDOWEVENT_MINIMIZED }) {
+        const bool isFocus = id == SDL_WINDOWEVENT_FOCUS_LOST;
+        const auto pushSdlsOwnRelease = [] { PushKey(false, SDL_SCANCODE_RETURN, SDLK_RETURN, KMOD_LALT); };
+        PushKey(true, SDL_SCANCODE_W, SDLK_w);
+        PushKey(true, SDL_SCANCODE_LALT, SDLK_LALT, KMOD_LALT);
+        PushKey(true, SDL_SCANCODE_RETURN, SDLK_RETURN, KMOD_LALT);
+        PushButton(true, 3, 4);
+        RunMessages();
+        received.clear();
+        if (isFocus)
+            pushSdlsOwnRelease();
+        PushWindowEvent(id);
+        if (!isFocus)
+            pushSdlsOwnRelease();
+        RunMessages();
+        Sequence expected = { WM_KEYUP, WM_KEYUP, WM_KEYUP, WM_LBUTTONUP };
+        if (isFocus)
+            expected.push_back(WM_KILLFOCUS);
+        EXPECT_EQ(Messages(), expected) << "and Alt+Enter does not switch";
+        received.clear();
+        PushWindowEvent(id);
+        RunMessages();
+        EXPECT_EQ(received.size(), isFocus ? 1u : 0u) << "each is released once";
+    }
 }
 
 TEST_F(KeyboardTest, GivesTextInTheAnsiCodePage)

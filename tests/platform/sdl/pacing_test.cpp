@@ -96,4 +96,4 @@ INSTANTIATE_TEST_SUITE_P(
                     PacingCase{ "a+ b+ c+ d+ e+ f+ g+ a- b- c- d- e- f- g-",
                                 { "Aa", "Dd", "Ee", "Ff", "Gg", "" },
                                 "after a stall the oldest of many go" },
-                    PacingCase{ "w+ F", { "Ww", "F" }, "the focus goes after what happened before" }));
+                    PacingCase{ "L+5 w+ F", { "5LWw", "5F" }, "the focus goes after what happened before" }));
