@@ -1,7 +1,8 @@
 // Whole frames of play in several situations, composed only and also presented, and loading all there is. Names are
 // Frame/SITUATION/composed or presented, and Load/all.
+#include "app/frame_images.h"
 #include "app/game.h"
-#include "app/globals.h"
+#include "app/game_window.h"
 #include "app/random.h"
 #include "app/section_load.h"
 #include "game/section_main.h"

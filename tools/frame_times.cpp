@@ -4,7 +4,8 @@
 //     frame_times [FRAMES]
 
 #include "app/game.h"
-#include "app/globals.h"
+#include "app/game_window.h"
+#include "app/scenes.h"
 #include "app/section_load.h"
 #include "game/section_main.h"
 #include "menu/section_menu.h"

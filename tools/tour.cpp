@@ -12,8 +12,10 @@
 //     50 end               the program's end
 // Lines need not be in order; '#' starts a comment.
 
+#include "app/frame_images.h"
 #include "app/game.h"
-#include "app/globals.h"
+#include "app/game_window.h"
+#include "app/input.h"
 #include "app/random.h"
 #include "platform/window.h"
 

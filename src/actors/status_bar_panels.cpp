@@ -1,8 +1,10 @@
 #include "actors/status_bar_items.h"
 
-#include "app/globals.h"
+#include "app/frame_images.h"
+#include "app/input.h"
+#include "app/scenes.h"
 #include "game/pond.h"
-#include "menu/section_menu.h"
+#include "platform/window.h"
 
 #include <algorithm>
 
@@ -115,7 +117,7 @@ void CStatusBar::ProcessConfirmPanel()
     if (IsClicked(confirmPanel, BUTTON_YES)) {
         panelOpen = false;
         input.DropPresses();
-        requestedSection = &sectionMenu;
+        RequestMenu();
     } else if (IsClicked(confirmPanel, BUTTON_NO)) {
         ResumeGame(confirmPanel);
     }

@@ -1,5 +1,5 @@
 #include "app/game.h"
-#include "app/globals.h"
+#include "app/game_window.h"
 #include "platform/gdi.h"
 #include "platform/kernel.h"
 #include "platform/window.h"

@@ -1,8 +1,10 @@
 #include "app/game.h"
 
-#include "app/globals.h"
+#include "app/frame_images.h"
+#include "app/game_window.h"
 #include "app/log.h"
 #include "app/random.h"
+#include "app/scenes.h"
 #include "app/section.h"
 #include "gfx/display.h"
 #include "menu/section_menu.h"

@@ -27,6 +27,11 @@ public:
     int height;
 };
 
+extern CGame game;
+extern HANDLE instanceMutex;   ///< marks a running copy
+extern uint32_t frameTime;     ///< clock of the last tick, ms
+extern uint32_t nextFrameTime; ///< earliest time of the next frame, ms; 0 = no frame yet
+
 /// Makes the instance mutex, the window class, the window and all that CGame::Create makes. False when another copy
 /// runs or a step fails.
 bool CreateGameWindow(HINSTANCE instance);

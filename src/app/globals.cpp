@@ -1,6 +1,10 @@
-#include "app/globals.h"
+// The long-lived objects, in their order of construction.
 
+#include "app/frame_images.h"
 #include "app/game.h"
+#include "app/game_window.h"
+#include "app/input.h"
+#include "app/scenes.h"
 #include "app/section_load.h"
 #include "game/geometry.h"
 #include "game/section_main.h"

@@ -20,3 +20,5 @@ struct InputState {
     char lastChar = 0;   ///< latest character, in the ANSI code page
     bool hasFocus = true;
 };
+
+extern InputState input;

@@ -1,7 +1,7 @@
 #pragma once
 
-/// A scene. Each has one global object that lives for the whole run; a scene asks for another by assigning that
-/// object's address to `requestedSection`. A false result from any operation ends the program.
+/// A scene. Each has one global object that lives for the whole run; scenes.h tells how they ask for each other. A
+/// false result from any operation ends the program.
 class CSection
 {
 public:

@@ -1,9 +1,12 @@
 #include "app/section_load.h"
 
-#include "app/globals.h"
+#include "app/frame_images.h"
+#include "app/input.h"
 #include "app/log.h"
+#include "app/scenes.h"
 #include "game/section_main.h"
 #include "menu/section_menu.h"
+#include "platform/window.h"
 #include "res/pack_file.h"
 
 namespace
@@ -46,7 +49,7 @@ bool CSectionLoad::SectionProcess()
     if (!LoadNext(allLoaded))
         return false;
     if (allLoaded) {
-        requestedSection = &sectionMenu;
+        RequestMenu();
         input.DropPresses(); // those from while the program loaded
     }
     backBuffer.Fill(BLACK);

@@ -11,3 +11,8 @@ public:
     bool SectionEnd() override;
     bool SectionProcess() override;
 };
+
+extern CSectionLoad sectionLoad;
+extern bool menuLoaded; ///< set by the last loading step of their owners
+extern bool pondLoaded;
+extern bool statusBarLoaded;

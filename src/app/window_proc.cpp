@@ -1,5 +1,5 @@
 #include "app/game.h"
-#include "app/globals.h"
+#include "app/input.h"
 #include "app/mode_switch.h"
 #include "gfx/display.h"
 #include "gfx/error.h"

@@ -1,6 +1,6 @@
 #include "game/pond.h"
 
-#include "app/globals.h"
+#include "app/frame_images.h"
 #include "app/random.h"
 #include "game/water.h"
 #include "gfx/blit.h"

@@ -1,4 +1,4 @@
-#include "app/globals.h"
+#include "app/frame_images.h"
 #include "game/pond.h"
 #include "gfx/blit.h"
 

@@ -1,9 +1,10 @@
 #include "game/section_main.h"
 
-#include "app/globals.h"
+#include "app/frame_images.h"
+#include "app/input.h"
 #include "app/log.h"
+#include "app/scenes.h"
 #include "game/water.h"
-#include "menu/section_menu.h"
 #include "platform/kernel.h"
 #include "platform/window.h"
 
@@ -43,8 +44,8 @@ void ShowOrHideCursor(bool panelOpen)
 void LeaveForMenu(const CPond& pond)
 {
     if (pond.players == 0)
-        sectionMenu.RankingInsert(pond.snake[0].score);
-    requestedSection = &sectionMenu;
+        EnterRanking(pond.snake[0].score);
+    RequestMenu();
     input.DropPresses();
 }
 }
@@ -54,8 +55,8 @@ bool CSectionMain::SectionBegin()
     waterBufferA.Fill(0);
     waterBufferB.Fill(0);
     WaterInit(waterBufferA, waterBufferB, DAMPING_SHIFT, REFRACTION_SHIFT);
-    const uint32_t* keys = sectionMenu.keys.data();
-    if (!pond.NewGame(static_cast<int>(sectionMenu.twoPlayers), keys, keys + KEY_BINDINGS / 2))
+    const auto& [players, keys1, keys2] = ChosenGame();
+    if (!pond.NewGame(players, keys1, keys2))
         return false;
     input.lastKeyDown = 0; // the key that started the game is not a turn
     WriteLog("CSectionMain::SectionBegin");

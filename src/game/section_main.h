@@ -13,3 +13,5 @@ public:
 
     CPond pond;
 };
+
+extern CSectionMain sectionMain;

@@ -1,6 +1,6 @@
 #include "menu/help_page.h"
 
-#include "app/globals.h"
+#include "app/input.h"
 #include "platform/window.h"
 
 namespace

@@ -1,4 +1,4 @@
-#include "app/globals.h"
+#include "app/frame_images.h"
 #include "app/log.h"
 #include "menu/menu_items.h"
 #include "menu/section_menu.h"

@@ -1,6 +1,6 @@
 #include "menu/menu.h"
 
-#include "app/globals.h"
+#include "app/input.h"
 #include "sound/sound.h"
 
 #include <span>

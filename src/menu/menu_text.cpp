@@ -1,6 +1,7 @@
 #include "menu/menu.h"
 
-#include "app/globals.h"
+#include "app/input.h"
+#include "platform/window.h"
 
 #include <algorithm>
 #include <cstdio>

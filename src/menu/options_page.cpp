@@ -1,4 +1,4 @@
-#include "app/globals.h"
+#include "app/input.h"
 #include "gfx/display.h"
 #include "menu/menu_items.h"
 #include "menu/section_menu.h"

@@ -1,4 +1,5 @@
-#include "app/globals.h"
+#include "app/frame_images.h"
+#include "app/input.h"
 #include "menu/menu_items.h"
 #include "menu/section_menu.h"
 #include "platform/window.h"

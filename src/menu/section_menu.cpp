@@ -1,9 +1,11 @@
 #include "menu/section_menu.h"
 
-#include "app/globals.h"
+#include "app/frame_images.h"
+#include "app/game_window.h"
+#include "app/input.h"
 #include "app/log.h"
 #include "app/random.h"
-#include "game/section_main.h"
+#include "app/scenes.h"
 #include "gfx/blit.h"
 #include "menu/menu_items.h"
 #include "platform/kernel.h"
@@ -140,7 +142,7 @@ void CSectionMenu::StartGame(uint32_t secondPlayer)
 {
     mainMenu.isVisible = false;
     twoPlayers = secondPlayer;
-    requestedSection = &sectionMain;
+    RequestGame();
 }
 
 void CSectionMenu::OpenRanking()

@@ -96,3 +96,5 @@ private:
 
     int loadStep = 0; ///< the next step of DataLoad
 };
+
+extern CSectionMenu sectionMenu;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/globals.h"
+#include "app/frame_images.h"
 #include "game/pond.h"
 #include "support/game_fixture.h"
 #include "support/test_game.h"

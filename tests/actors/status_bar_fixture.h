@@ -1,7 +1,10 @@
 #pragma once
 
 #include "actors/status_bar_items.h"
-#include "app/globals.h"
+#include "app/frame_images.h"
+#include "app/input.h"
+#include "app/scenes.h"
+#include "platform/window.h"
 #include "support/test_game.h"
 
 #include <algorithm>

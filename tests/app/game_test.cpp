@@ -1,6 +1,9 @@
 #include "app/game.h"
 
-#include "app/globals.h"
+#include "app/frame_images.h"
+#include "app/game_window.h"
+#include "app/input.h"
+#include "app/scenes.h"
 #include "app/section.h"
 #include "doubles/directx.h"
 #include "doubles/system.h"

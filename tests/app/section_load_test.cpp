@@ -1,7 +1,9 @@
 #include "app/section_load.h"
 
-#include "app/globals.h"
+#include "app/frame_images.h"
+#include "app/input.h"
 #include "app/log.h"
+#include "app/scenes.h"
 #include "game/pond.h"
 #include "gfx/error.h"
 #include "menu/section_menu.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/globals.h"
+#include "app/frame_images.h"
 #include "app/random.h"
 #include "doubles/directx.h"
 #include "game/water.h"

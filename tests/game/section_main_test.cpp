@@ -1,6 +1,7 @@
 #include "game/section_main.h"
 
-#include "app/globals.h"
+#include "app/input.h"
+#include "app/scenes.h"
 #include "doubles/directx.h"
 #include "doubles/system.h"
 #include "game/water.h"

@@ -1,5 +1,6 @@
 #include "menu/menu_fixture.h"
 
+#include "app/frame_images.h"
 #include "sound/sound.h"
 
 void MenuFixture::SetUp()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/globals.h"
+#include "app/input.h"
 #include "menu/menu_items.h"
 #include "menu/section_menu.h"
 #include "support/program_fixture.h"

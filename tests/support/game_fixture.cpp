@@ -1,7 +1,9 @@
 #include "support/game_fixture.h"
 
-#include "app/globals.h"
+#include "app/frame_images.h"
+#include "app/input.h"
 #include "app/random.h"
+#include "app/scenes.h"
 #include "game/geometry.h"
 #include "game/water.h"
 

@@ -1,7 +1,10 @@
 #include "support/program_fixture.h"
 
+#include "app/frame_images.h"
 #include "app/game.h"
-#include "app/globals.h"
+#include "app/game_window.h"
+#include "app/input.h"
+#include "app/scenes.h"
 #include "doubles/directx.h"
 #include "doubles/system.h"
 #include "gfx/error.h"

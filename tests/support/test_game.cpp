@@ -1,6 +1,7 @@
 #include "support/test_game.h"
 
-#include "app/globals.h"
+#include "app/frame_images.h"
+#include "app/input.h"
 #include "app/random.h"
 #include "support/game_fixture.h"
 

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "platform/window.h"
+
+extern HWND gameWindow;
+extern HINSTANCE gameInstance;
