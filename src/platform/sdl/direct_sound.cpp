@@ -1,80 +1,19 @@
 #include "platform/directsound.h"
-#include "platform/posix/mixer.h"
-#include "platform/sdl/window_state.h"
+#include "platform/sdl/sound_output.h"
 
-#include <SDL.h>
 #include <memory>
+#include <optional>
+#include <string>
 
 namespace
 {
-constexpr int OUTPUT_RATE = 22050;
-constexpr Uint16 OUTPUT_FRAMES = 512; ///< mixed at a time: 23 ms
-constexpr Uint32 LONGEST_FADE_OUT_MS = 100;
-
 constexpr DWORD LARGEST_BUFFER = 0x0FFFFFFF;
 constexpr DWORD LOWEST_RATE = 4000;
 constexpr DWORD HIGHEST_RATE = 192000;
 
-/// The open audio device and its mix. The device object and every buffer hold it; the last one closes it.
-class SoundOutput
-{
-public:
-    SoundOutput() = default;
-    SoundOutput(const SoundOutput&) = delete;
-    SoundOutput& operator=(const SoundOutput&) = delete;
-    ~SoundOutput();
-
-    /// False where there is no audio device.
-    bool Open();
-
-    /// Always at our own rate, so that our own sounds are mixed sample by sample; SDL brings the whole mix to the
-    /// device's rate, with a better filter than the voices have.
-    Mixer mixer{ OUTPUT_RATE };
-
-private:
-    static void SDLCALL Fill(void* output, Uint8* bytes, int byteCount);
-
-    bool initialised = false;
-    SDL_AudioDeviceID device = 0;
-};
-
-bool SoundOutput::Open()
-{
-    initialised = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
-    if (!initialised)
-        return false;
-    SDL_AudioSpec wanted{};
-    wanted.freq = OUTPUT_RATE;
-    wanted.format = AUDIO_S16SYS;
-    wanted.channels = 2;
-    wanted.samples = OUTPUT_FRAMES;
-    wanted.callback = Fill;
-    wanted.userdata = this;
-    device = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
-    if (device == 0)
-        return false;
-    SDL_PauseAudioDevice(device, 0);
-    return true;
-}
-
-SoundOutput::~SoundOutput()
-{
-    if (device != 0) {
-        // Buffers released while they played are still fading out. A device that has stalled does not keep us.
-        for (Uint32 waited = 0; !mixer.IsSilent() && waited < LONGEST_FADE_OUT_MS; waited += 5)
-            SDL_Delay(5);
-        SDL_CloseAudioDevice(device);
-    }
-    if (initialised)
-        SDL_QuitSubSystem(SDL_INIT_AUDIO);
-}
-
-void SoundOutput::Fill(void* output, Uint8* bytes, int byteCount)
-{
-    constexpr size_t FRAME_BYTES = 2 * sizeof(int16_t);
-    static_cast<SoundOutput*>(output)->mixer.Mix(reinterpret_cast<int16_t*>(bytes),
-                                                 static_cast<size_t>(byteCount) / FRAME_BYTES, WindowHasFocus());
-}
+/// The driver asked for when there was no device. It is not tried again: the game asks twice at its start, and a
+/// library that finds no device writes its complaint each time.
+std::optional<std::string> failedDriver;
 
 bool IsPlayable(const WAVEFORMATEX& format)
 {
@@ -224,9 +163,15 @@ HRESULT DirectSoundCreate(const GUID*, IDirectSound** directSound, IUnknown*)
 {
     if (!directSound)
         return DSERR_INVALIDPARAM;
-    auto output = std::make_shared<SoundOutput>();
-    if (!output->Open())
+    const char* const hint = SDL_GetHint(SDL_HINT_AUDIODRIVER);
+    const std::string driver = hint ? hint : "";
+    if (driver == failedDriver)
         return DSERR_NODRIVER;
+    auto output = std::make_shared<SoundOutput>();
+    if (!output->Open()) {
+        failedDriver = driver;
+        return DSERR_NODRIVER;
+    }
     *directSound = new SoundDevice(std::move(output));
     return DS_OK;
 }

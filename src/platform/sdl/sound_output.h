@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/posix/mixer.h"
+
+#include <SDL.h>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+
+/// The open audio device and its mix. The device object and every buffer hold it; the last one closes it.
+/// A device that goes, or whose sound server ends, is opened again as soon as there is one; until then the mix goes on
+/// unheard.
+class SoundOutput
+{
+public:
+    SoundOutput() = default;
+    SoundOutput(const SoundOutput&) = delete;
+    SoundOutput& operator=(const SoundOutput&) = delete;
+    ~SoundOutput();
+
+    /// False where there is no audio device.
+    bool Open();
+
+    static constexpr int RATE = 22050; ///< frames per second
+
+    /// Always at our own rate, so that our own sounds are mixed sample by sample; SDL brings the whole mix to the
+    /// device's rate, with a better filter than the voices have.
+    Mixer mixer{ RATE };
+
+private:
+    static void SDLCALL Fill(void* output, Uint8* bytes, int byteCount);
+    SDL_AudioDeviceID OpenDevice();
+    void Watch(const std::stop_token& stop);
+    void Reopen();
+
+    bool initialised = false;
+    SDL_AudioDeviceID device = 0; ///< 0 when none is open; the watcher's while it runs
+    std::mutex mutex;
+    std::condition_variable_any wake;
+    /// Looks after the device, on a thread of its own: opening and closing one takes longer than a frame may.
+    std::jthread watcher;
+};
