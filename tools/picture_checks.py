@@ -1,6 +1,5 @@
 """What can be wrong with the program's pictures, as lists of texts. Used by contact_sheet."""
 import pathlib
-import re
 import struct
 import sys
 
@@ -9,11 +8,10 @@ from PIL import Image
 ROOT = pathlib.Path(__file__).resolve().parents[1]
 sys.path.insert(0, str(ROOT / "art" / "image"))
 import hashes  # noqa: E402
+import layout  # noqa: E402
 import manifest  # noqa: E402
 
 BITMAP_BITS = (8, 16, 24)
-CODE_NAME = re.compile(r'"Dat\\\\Image/([^"]+\.(?:jpg|bmp))"')
-NUMBER = re.compile(r"%(?:0(\d))?d")
 
 
 def bitmap_fault(data):
@@ -56,31 +54,18 @@ def gather(folder):
     return {name: opened(folder / name, size) for name, (size, _) in manifest.pictures().items()}
 
 
-def loaded_by_code():
-    """What the program's sources load: file names, or patterns with a number in them, each with its source file."""
-    names = {}
-    for source in sorted((ROOT / "src").rglob("*.cpp")):
-        for name in CODE_NAME.findall(source.read_text()):
-            names.setdefault(name, source.relative_to(ROOT))
-    return names
-
-
-def matches(pattern, names):
-    """Those of the names that the pattern may stand for."""
-    parts = NUMBER.split(re.sub(r"\.", r"\\.", pattern))  # every second part is the number's width, or None
-    form = "".join(part if place % 2 == 0 else rf"\d{{{part}}}" if part else r"[1-9]\d*"
-                   for place, part in enumerate(parts))
-    return [name for name in names if re.fullmatch(form, name)]
-
-
-def code_faults(present):
-    """Differences between what the sources load, the manifest and the files that are there."""
-    wanted, sources = manifest.pictures(), loaded_by_code()
-    loaded = {name for pattern in sources for name in matches(pattern, set(wanted) | present)}
-    faults = [f"{pattern}: loaded by {source}, but there is none" for pattern, source in sources.items()
-              if not matches(pattern, present)]
-    faults += [f"{name}: no code loads it" for name in sorted((present | set(wanted)) - loaded)]
-    return faults + [f"{name}: not in the manifest" for name in sorted((present & loaded) - set(wanted))]
+def table_faults(present):
+    """Differences between the program's tables, the files that are there and what the pages are drawn for."""
+    names = [name for name, *_ in manifest.rows("picture")]
+    faults = [f"{name}: two sizes or masks in the code's tables" for name in sorted(set(names)) if names.count(name) > 1]
+    faults += [f"{name}: no code loads it" for name in sorted(present - set(names))]
+    drawn, handled = layout.boxes(), manifest.boxes()
+    for name in sorted(drawn | handled):
+        faults += [f"{name}: drawn for {box}, where the program has nothing"
+                   for box in sorted(drawn.get(name, set()) - handled.get(name, set()))]
+        faults += [f"{name}: not drawn for {box}, which the program has"
+                   for box in sorted(handled.get(name, set()) - drawn.get(name, set()))]
+    return faults
 
 
 def mask_faults(found, present):
@@ -118,4 +103,4 @@ def readable(path):
 def all_faults(folder, found):
     present = {path.name for path in folder.iterdir()}
     faults = [f"{name}: {fault}" for name, (_, fault) in found.items() if fault]
-    return faults + code_faults(present) + mask_faults(found, present) + pixel_faults(folder, present)
+    return faults + table_faults(present) + mask_faults(found, present) + pixel_faults(folder, present)

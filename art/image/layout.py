@@ -56,3 +56,22 @@ MESSAGE_SIZE, NEXT_LEVEL_SIZE = (160, 90), (160, 110)
 PAUSED_BUTTONS = (("Resume", (18, 63, 54, 14)), ("Help", (88, 63, 54, 14)))
 CONFIRM_BUTTONS = (("Yes", (18, 63, 54, 14)), ("No", (88, 63, 54, 14)))
 NEXT_LEVEL_FIELDS = (("Level", (4, 25, 152, 14)), ("Target", (4, 70, 152, 14)))
+
+
+def boxes():
+    """name -> set of the boxes that the picture of that name is drawn for."""
+    parts = {
+        "MainMenu.jpg": (HOME_PAGE, *MENU_BUTTONS),
+        "Options.jpg": (*TOGGLES, *OPTIONS_BUTTONS),
+        "Ranking.jpg": (RANKING_OK,),
+        "LeftPanel.bmp": STRIP_BUTTONS,
+        "MessagePaused.jpg": PAUSED_BUTTONS,
+        "MessageConfirm.jpg": CONFIRM_BUTTONS,
+        "MessageNextLevel.jpg": NEXT_LEVEL_FIELDS,
+    }
+    found = {name: {box for _, box in labelled} for name, labelled in parts.items()}
+    found["Options.jpg"] |= {(x, y, KEY_FIELD, KEY_FIELD) for _, keys in KEY_FIELDS for _, x, y in keys}
+    found["Ranking.jpg"] |= {(x, y, 20, 16) for *columns, y in RANKING_ROWS for x in columns}
+    for page in range(4):
+        found[f"Help{page + 1}.jpg"] = {HELP_BACK[1], *HELP_TABS} - {HELP_TABS[page]}
+    return found

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "actors/snake_pictures.h"
 #include "game/geometry.h"
 #include "gfx/image.h"
 
@@ -17,9 +18,6 @@ struct Segment {
 
 constexpr int MAX_SEGMENTS = 25;
 constexpr int TURN_QUEUE = 10;
-constexpr int EYE_IMAGES = 24;
-constexpr int BUMP_EYE_IMAGES = 4;
-constexpr int ARROW_IMAGES = 4;
 
 /// One player's water snake: steering, movement, eating, effects, death and drawing. The pond holds two by value.
 class CSnake
@@ -97,8 +95,6 @@ public:
     int32_t startX = 0;
 
 private:
-    bool LoadArrows();
-
     // Steering: keys in, turns out.
     Direction DirectionOf(int key) const;
     bool IsReverse(int key, int otherKey) const;

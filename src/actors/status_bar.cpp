@@ -1,46 +1,18 @@
 #include "actors/status_bar.h"
 
 #include "actors/status_bar_items.h"
+#include "app/loading_steps.h"
 #include "app/log.h"
 #include "game/geometry.h"
 #include "gfx/error.h"
-#include "res/image_loader.h"
 
-#include <functional>
 #include <iterator>
+#include <span>
 
 namespace
 {
 constexpr int FONT_HEIGHT = 13;
 constexpr int FONT_WIDTH = 5;
-
-struct ImageFile {
-    const char* path;
-    bool (*load)(CImage& image, const char* path);
-    BlitRoutine blit;
-};
-
-/// By StatusImage.
-constexpr ImageFile imageFiles[] = {
-    { "Dat\\Image/LeftPanel.bmp", LoadBmpFile, BlitCopy },
-    { "Dat\\Image/beanred.bmp", LoadBmpFile, BlitColorKey },
-    { "Dat\\Image/beangreen.bmp", LoadBmpFile, BlitColorKey },
-    { "Dat\\Image/beanblue.bmp", LoadBmpFile, BlitColorKey },
-    { "Dat\\Image/beanorange.bmp", LoadBmpFile, BlitColorKey },
-    { "Dat\\Image/beanpurple.bmp", LoadBmpFile, BlitColorKey },
-    { "Dat\\Image/heart.bmp", LoadBmpFile, BlitColorKey },
-    { "Dat\\Image/Progress.jpg", LoadJpegFile, BlitCopy },
-    { "Dat\\Image/MessagePaused.jpg", LoadJpegFile, BlitCopy },
-    { "Dat\\Image/MessageConfirm.jpg", LoadJpegFile, BlitCopy },
-    { "Dat\\Image/MessageLevelCleared.jpg", LoadJpegFile, BlitCopy },
-    { "Dat\\Image/MessageNextLevel.jpg", LoadJpegFile, BlitCopy },
-    { "Dat\\Image/Help1.jpg", LoadJpegFile, BlitCopy },
-    { "Dat\\Image/Help2.jpg", LoadJpegFile, BlitCopy },
-    { "Dat\\Image/Help3.jpg", LoadJpegFile, BlitCopy },
-    { "Dat\\Image/Help4.jpg", LoadJpegFile, BlitCopy },
-    { "Dat\\Image/MessageGameOver.jpg", LoadJpegFile, BlitCopy },
-};
-static_assert(std::size(imageFiles) == STATUS_IMAGES);
 
 enum class Place { CORNER, SCREEN_CENTRE, POND_CENTRE };
 
@@ -113,26 +85,12 @@ std::array<CMenu*, STATUS_PANELS> CStatusBar::Panels()
 
 bool CStatusBar::DataLoad(bool& done)
 {
-    struct Step {
-        bool (CStatusBar::*load)();
-        const char* logLine;
-    };
-    static constexpr Step steps[] = {
+    static constexpr LoadingStep<CStatusBar> steps[] = {
         { &CStatusBar::LoadFont, "CStatusBar::DataLoad 0" },
         { &CStatusBar::LoadImages, "CStatusBar::DataLoad 1" },
         { &CStatusBar::CreatePanels, "CStatusBar::DataLoad 2" },
     };
-    constexpr int stepCount = static_cast<int>(std::size(steps));
-    if (loadStep < stepCount) {
-        const Step& step = steps[loadStep];
-        if (!std::invoke(step.load, this))
-            return false;
-        WriteLog(step.logLine);
-        ++loadStep;
-    }
-    if (loadStep == stepCount)
-        done = true;
-    return true;
+    return DoLoadingStep(*this, steps, loadStep, done);
 }
 
 bool CStatusBar::LoadFont()
@@ -145,12 +103,8 @@ bool CStatusBar::LoadImages()
 {
     if (!AllocateImages(images, STATUS_IMAGES))
         return false;
-    for (int i = 0; i < STATUS_IMAGES; ++i) {
-        if (!imageFiles[i].load(images[i], imageFiles[i].path))
-            return false;
-        images[i].blit = imageFiles[i].blit;
-    }
-    return true;
+    const std::span<CImage> sets[] = { { images.get(), STATUS_IMAGES } };
+    return LoadPictures(sets, statusPictures);
 }
 
 bool CStatusBar::CreatePanels()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "actors/status_bar_pictures.h"
 #include "gfx/image.h"
 #include "gfx/text_image.h"
 #include "menu/help_page.h"
@@ -11,7 +12,6 @@
 
 class CPond;
 
-constexpr int STATUS_IMAGES = 17;
 constexpr int STATUS_PANELS = 10;
 constexpr int FIRST_TARGET = 500;   ///< score that clears level 1
 constexpr int COUNT_UP_FRAMES = 75; ///< of the target's figure at a new level
@@ -57,7 +57,7 @@ public:
 
 private:
     std::array<CMenu*, STATUS_PANELS> Panels(); ///< in the order in which they are handled
-    bool LoadFont();
+    bool LoadFont();                            // the steps of loading
     bool LoadImages();
     bool CreatePanels();
 

@@ -116,7 +116,7 @@ void CStatusBar::DrawStreak(CImage& screen, int player)
     if (snake.streak == WARNING_STREAK && IsBlinkedOff(streakBlink))
         return;
     for (int i = 0; i < snake.streak; ++i)
-        images[IMAGE_STREAK + snake.lastColour].Draw(screen, STREAK_X + STREAK_STEP * i, playerRows[player].streakY);
+        images[StreakImage(snake.lastColour)].Draw(screen, STREAK_X + STREAK_STEP * i, playerRows[player].streakY);
 }
 
 void CStatusBar::DrawCensus(CImage& screen)

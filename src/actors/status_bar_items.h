@@ -2,21 +2,7 @@
 
 #include "actors/status_bar.h"
 
-// How the status bar's own files number its pictures, panels, buttons and texts.
-
-/// Index into the status bar's `images`.
-enum StatusImage : int {
-    IMAGE_STRIP = 0,
-    IMAGE_STREAK = 1, ///< the first of five, by berry colour
-    IMAGE_HEART = 6,
-    IMAGE_PROGRESS = 7,
-    IMAGE_PAUSED = 8,
-    IMAGE_CONFIRM = 9,
-    IMAGE_LEVEL_CLEARED = 10,
-    IMAGE_NEXT_LEVEL = 11,
-    IMAGE_HELP = 12, ///< the first page
-    IMAGE_GAME_OVER = IMAGE_HELP + HELP_PAGES,
-};
+// How the status bar's own files number its panels, buttons and texts.
 
 /// The panels in the order in which they are drawn and handled.
 enum PanelId : int {

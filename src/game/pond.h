@@ -3,6 +3,9 @@
 #include "actors/snake.h"
 #include "actors/status_bar.h"
 #include "game/geometry.h"
+#include "game/pond_pictures.h"
+#include "game/pond_records.h"
+#include "game/scenery.h"
 #include "gfx/image.h"
 
 #include <array>
@@ -10,79 +13,6 @@
 #include <cstdint>
 #include <memory>
 #include <span>
-
-/// One cell of the pond: nothing, a growing berry, a ripe berry or a stone.
-struct Cell {
-    int32_t x = 0; ///< top-left corner, pond pixels
-    int32_t y = 0;
-    bool occupied = false;
-    bool ripe = false;     ///< with `occupied`: a ripe berry
-    int32_t colour = 0;    ///< of a berry, 0..5
-    int32_t age = 0;       ///< a stone's order number: larger is newer
-    int32_t growth = 0;    ///< frames of growth left, 28..1; 0 when ripe or a stone
-    bool splashed = false; ///< a ripe berry's landing splash has been made
-
-    bool IsStone() const { return occupied && !ripe && growth == 0; }
-    bool IsRipeBerry() const { return occupied && ripe; }
-    /// A stone or a ripe berry: what lasers and shock wave strike.
-    bool IsLanded() const { return occupied && growth == 0; }
-};
-
-struct Laser {
-    bool active = false;
-    int32_t x = 0; ///< pond pixels
-    int32_t y = 0;
-    int32_t heading = 0;
-    int32_t frame = 0; ///< animation counter
-    bool hit = false;  ///< playing its burst
-};
-
-/// Index into `popupImages`.
-enum PopupKind : int {
-    POPUP_5 = 0,
-    POPUP_10 = 1,
-    POPUP_15 = 2,
-    POPUP_30 = 3,
-    POPUP_35 = 4,
-    POPUP_40 = 5,
-    POPUP_45 = 6,
-    POPUP_LIFE_UP = 7,
-};
-
-struct Popup {
-    bool active = false;
-    int32_t x = 0; ///< pond pixels; rises by 2 a frame
-    int32_t y = 0;
-    int32_t kind = 0;
-    int32_t opacity = 0; ///< 255 falling by 10 a frame
-};
-
-/// An expanding ring; inactive while radius >= maxRadius.
-struct Shockwave {
-    int32_t x = 0;
-    int32_t y = 0;
-    int32_t radius = 0;
-    int32_t maxRadius = 0;
-};
-
-constexpr int OBJECT_IMAGES = 7; ///< six berries, then the stone
-constexpr int STONE_IMAGE = 6;
-constexpr int LASER_IMAGES = 8;
-constexpr int LASER_FLIGHT_IMAGES = 4; ///< then the burst
-constexpr int POPUP_IMAGES = 8;
-constexpr int GROWTH_FRAMES = 14; ///< falling-berry images per colour
-constexpr int GROWTH_IMAGES = GROWTH_FRAMES * ORDINARY_COLOURS;
-constexpr int GROWTH_START = 28; ///< frames of growth of a new berry
-constexpr int HIGHLIGHTS = 5;
-constexpr int FADE_OUT_START = 125; ///< `fadeOut` as the end of a game begins
-
-/// The state of the moon and of loading, which outlives a game.
-struct SceneryState {
-    int32_t loadStage = 0;
-    bool moonToggle = false; ///< which moon rises this night: set = the first
-    int32_t moonY = 1000;    ///< the moon's top edge, pond pixels
-};
-extern SceneryState scenery;
 
 /// Frames that the start-up highlight has been drawn; it blinks by it. Outlives a game.
 extern int32_t blinkCounter;
@@ -104,7 +34,7 @@ public:
     /// End of play: frees the snakes' images and stops the pond's sounds.
     void GameEnd();
 
-    /// One loading step a call, until `done` is set. False when a file cannot be had.
+    /// One loading step a call, until `done` is set. False when a picture cannot be loaded.
     bool DataLoad(bool& done);
     void UnDataLoad();
 
@@ -143,7 +73,7 @@ public:
     std::unique_ptr<CImage[]> laserImages;
     std::unique_ptr<CImage[]> popupImages;
     std::unique_ptr<CImage[]> growthImages; ///< index colour * GROWTH_FRAMES + frame - 1
-    CImage moonImages[2];
+    CImage moonImages[MOON_IMAGES];
     Laser lasers[2];
     Popup popups[20];
     bool isDay = false;
@@ -209,12 +139,8 @@ private:
     void DrawMoon(CImage& pondPicture);
 
     // Resources
+    std::array<std::span<CImage>, POND_IMAGE_SETS> ImageSets();
+    bool LoadSounds();
     bool LoadBackgrounds();
-    bool LoadPictures();
-    bool LoadObjectImages();
-    bool LoadLaserImages();
-    bool LoadPopupImages();
-    bool LoadGrowthImages();
-    bool LoadGrowthFrame(int frame);
-    bool LoadMoonImages();
+    bool LoadImages();
 };

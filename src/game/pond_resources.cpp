@@ -1,26 +1,13 @@
+#include "app/loading_steps.h"
 #include "app/log.h"
 #include "game/pond.h"
-#include "gfx/blit.h"
-#include "res/image_loader.h"
 #include "sound/sound.h"
 
-#include <algorithm>
 #include <iterator>
 #include <span>
 
 namespace
 {
-struct PictureFile {
-    int index; ///< in its image array
-    const char* path;
-};
-
-/// Pictures of berries by colour, numbered by frame of growth.
-struct GrowthFile {
-    int colour;
-    const char* pattern;
-};
-
 // One id is one voice: what both players may need at once is there twice.
 constexpr SoundFile pondSounds[] = {
     { SOUND_DROP, "Wav\\drop.wav" },
@@ -48,142 +35,51 @@ constexpr SoundFile pondSounds[] = {
 };
 static_assert(AllIdsDiffer(pondSounds) && std::size(pondSounds) == SOUND_POND_LAST - SOUND_POND_FIRST + 1);
 
-constexpr PictureFile objectFiles[] = {
-    { RED, "Dat\\Image/bean_red.jpg" },       { GREEN, "Dat\\Image/bean_green.jpg" },
-    { BLUE, "Dat\\Image/bean_blue.jpg" },     { ORANGE, "Dat\\Image/bean_orange.jpg" },
-    { PURPLE, "Dat\\Image/bean_purple.jpg" }, { GOLDEN, "Dat\\Image/bean_golden.jpg" },
-    { STONE_IMAGE, "Dat\\Image/stone.jpg" },
-};
-
-constexpr PictureFile popupFiles[] = {
-    { POPUP_5, "Dat\\Image/add5.jpg" },   { POPUP_10, "Dat\\Image/add10.jpg" },
-    { POPUP_15, "Dat\\Image/add15.jpg" }, { POPUP_30, "Dat\\Image/add30.jpg" },
-    { POPUP_35, "Dat\\Image/add35.jpg" }, { POPUP_40, "Dat\\Image/add40.jpg" },
-    { POPUP_45, "Dat\\Image/add45.jpg" }, { POPUP_LIFE_UP, "Dat\\Image/lifeup.jpg" },
-};
-
-constexpr GrowthFile growthFiles[] = {
-    { RED, "Dat\\Image/bean_red%d.jpg" },       { GREEN, "Dat\\Image/bean_green%d.jpg" },
-    { BLUE, "Dat\\Image/bean_blue%d.jpg" },     { ORANGE, "Dat\\Image/bean_orange%d.jpg" },
-    { PURPLE, "Dat\\Image/bean_purple%d.jpg" },
-};
-
-constexpr NumberedFiles laserFiles{ "Dat\\Image/light%d.jpg", "Dat\\Image/light%d_.bmp" };
-
-/// A JPEG picture, drawn that way.
-bool LoadWithBlit(CImage& image, const char* path, BlitRoutine blit)
-{
-    if (!LoadJpegFile(image, path))
-        return false;
-    image.blit = blit;
-    return true;
-}
-
-/// Pictures that share a mask.
-bool ApplyMaskToAll(std::span<CImage> images, const CImage& mask, BlitRoutine blit)
-{
-    return std::ranges::all_of(images, [&](CImage& image) { return ApplyMask(image, mask, blit); });
-}
-
-bool LoadPictureFiles(CImage* images, std::span<const PictureFile> files)
-{
-    const auto load = [images](const PictureFile& file) { return LoadJpegFile(images[file.index], file.path); };
-    return std::ranges::all_of(files, load);
-}
+constexpr std::span<const PictureRow> allPictures = pondPictures;
+constexpr size_t BACKGROUND_PICTURES = 1;
 }
 
 bool CPond::DataLoad(bool& done)
 {
-    switch (scenery.loadStage) {
-    case 0:
-        for (const SoundFile& sound : pondSounds)
-            SoundLoad(sound.id, sound.path); // a missing sound is silence, not a failed start
-        WriteLog("CPond::DataLoad 0");
-        break;
-    case 1:
-        if (!LoadBackgrounds())
-            return false;
-        WriteLog("CPond::DataLoad 1");
-        break;
-    case 2:
-        if (!LoadPictures())
-            return false;
-        done = true;
-        WriteLog("CPond::DataLoad 2");
-        break;
-    default:
-        done = true;
-    }
-    ++scenery.loadStage;
-    return true;
+    static constexpr LoadingStep<CPond> steps[] = {
+        { &CPond::LoadSounds, "CPond::DataLoad 0" },
+        { &CPond::LoadBackgrounds, "CPond::DataLoad 1" },
+        { &CPond::LoadImages, "CPond::DataLoad 2" },
+    };
+    return DoLoadingStep(*this, steps, scenery.loadStage, done);
+}
+
+bool CPond::LoadSounds()
+{
+    for (const SoundFile& sound : pondSounds)
+        SoundLoad(sound.id, sound.path);
+    return true; // a missing sound is silence, not a failed start
 }
 
 bool CPond::LoadBackgrounds()
 {
-    return LoadWithBlit(dayBackground, "Dat\\Image/bg0.jpg", BlitCopy) && MakeNightBackground();
+    return LoadPictures(ImageSets(), allPictures.first(BACKGROUND_PICTURES)) && MakeNightBackground();
 }
 
-bool CPond::LoadPictures()
+bool CPond::LoadImages()
 {
-    return LoadObjectImages() && LoadWithBlit(shadowImage, "Dat\\Image/shadow.jpg", BlitSub) &&
-           LoadWithBlit(lightImage, "Dat\\Image/light.jpg", BlitAdd) && LoadLaserImages() && LoadPopupImages() &&
-           LoadGrowthImages() && LoadMoonImages();
+    return AllocateImages(objectImages, OBJECT_IMAGES) && AllocateImages(laserImages, LASER_IMAGES) &&
+           AllocateImages(popupImages, POPUP_IMAGES) && AllocateImages(growthImages, GROWTH_IMAGES) &&
+           LoadPictures(ImageSets(), allPictures.subspan(BACKGROUND_PICTURES));
 }
 
-bool CPond::LoadObjectImages()
+std::array<std::span<CImage>, POND_IMAGE_SETS> CPond::ImageSets()
 {
-    CImage mask;
-    return AllocateImages(objectImages, OBJECT_IMAGES) && LoadPictureFiles(objectImages.get(), objectFiles) &&
-           LoadMaskFile(mask, "Dat\\Image/mask.bmp") &&
-           ApplyMaskToAll({ objectImages.get(), OBJECT_IMAGES }, mask, BlitAlpha);
-}
-
-bool CPond::LoadLaserImages()
-{
-    return AllocateImages(laserImages, LASER_IMAGES) &&
-           LoadMaskedFiles({ laserImages.get(), LASER_IMAGES }, laserFiles, BlitAlpha);
-}
-
-bool CPond::LoadPopupImages()
-{
-    CImage mask;
-    return AllocateImages(popupImages, POPUP_IMAGES) && LoadMaskFile(mask, "Dat\\Image/add_.bmp") &&
-           LoadPictureFiles(popupImages.get(), popupFiles) &&
-           ApplyMaskToAll({ popupImages.get(), POPUP_IMAGES }, mask, BlitAlphaOpacity);
-}
-
-bool CPond::LoadGrowthImages()
-{
-    if (!AllocateImages(growthImages, GROWTH_IMAGES))
-        return false;
-    for (int frame = 1; frame <= GROWTH_FRAMES; ++frame)
-        if (!LoadGrowthFrame(frame))
-            return false;
-    return true;
-}
-
-/// One frame of the falling berries of every colour, which share a mask.
-bool CPond::LoadGrowthFrame(int frame)
-{
-    const auto image = [this, frame](const GrowthFile& file) -> CImage& {
-        return growthImages[file.colour * GROWTH_FRAMES + frame - 1];
-    };
-    for (const GrowthFile& file : growthFiles)
-        if (!LoadJpegFile(image(file), NumberedPath(file.pattern, frame).data()))
-            return false;
-    CImage mask;
-    if (!LoadMaskFile(mask, NumberedPath("Dat\\Image/mask%d.bmp", frame).data()))
-        return false;
-    return std::ranges::all_of(growthFiles,
-                               [&](const GrowthFile& file) { return ApplyMask(image(file), mask, BlitAlphaOpacity); });
-}
-
-bool CPond::LoadMoonImages()
-{
-    CImage masks[2];
-    return LoadJpegFile(moonImages[0], "Dat\\Image/Moon1.jpg") && LoadJpegFile(moonImages[1], "Dat\\Image/Moon2.jpg") &&
-           LoadMaskFile(masks[0], "Dat\\Image/Moon1_.bmp") && LoadMaskFile(masks[1], "Dat\\Image/Moon2_.bmp") &&
-           ApplyMask(moonImages[0], masks[0], BlitAlphaOpacity) && ApplyMask(moonImages[1], masks[1], BlitAlphaOpacity);
+    std::array<std::span<CImage>, POND_IMAGE_SETS> sets;
+    sets[POND_DAY] = { &dayBackground, 1 };
+    sets[POND_OBJECTS] = { objectImages.get(), OBJECT_IMAGES };
+    sets[POND_SHADOW] = { &shadowImage, 1 };
+    sets[POND_LIGHT] = { &lightImage, 1 };
+    sets[POND_LASERS] = { laserImages.get(), LASER_IMAGES };
+    sets[POND_POPUPS] = { popupImages.get(), POPUP_IMAGES };
+    sets[POND_GROWTH] = { growthImages.get(), GROWTH_IMAGES };
+    sets[POND_MOONS] = moonImages;
+    return sets;
 }
 
 void CPond::UnDataLoad()

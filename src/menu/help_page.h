@@ -1,10 +1,12 @@
 #pragma once
 
 #include "menu/menu.h"
+#include "res/picture_table.h"
 
 /// The help pages, the same over the main menu and over the game. Pages count from 0. Their buttons' ids follow each
 /// other page by page from `firstId` on: the close button, then a tab for each other page.
 constexpr int HELP_PAGES = 4;
+constexpr PictureSize HELP_PICTURE = { 500, 390 };
 
 constexpr int HelpCloseId(int firstId, int page)
 {

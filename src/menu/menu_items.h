@@ -2,19 +2,7 @@
 
 #include <cstdint>
 
-/// What the menu scene's pages are made of: numbers of pictures and ids of items.
-
-enum MenuPicture : int {
-    PICTURE_MAIN_MENU = 0,
-    PICTURE_HOME_PAGE = 1,
-    PICTURE_MAIN_ITEMS = 2, ///< a strip of hover pictures
-    PICTURE_OPTIONS = 3,
-    PICTURE_OPTIONS_ITEMS = 4, ///< a strip of checked pictures
-    PICTURE_RANKING = 5,
-    PICTURE_HELP_FIRST = 6,
-    PICTURE_HOVER_FIRST = 10, ///< views of the strips from here on
-    PICTURE_CHECKED_FIRST = 16,
-};
+/// What the menu scene's pages are made of: ids of items.
 
 enum MenuItem : int {
     BUTTON_HOME_PAGE = 0,

@@ -1,8 +1,9 @@
 #include "app/frame_images.h"
+#include "app/loading_steps.h"
 #include "app/log.h"
 #include "menu/menu_items.h"
+#include "menu/menu_pictures.h"
 #include "menu/section_menu.h"
-#include "res/image_loader.h"
 #include "sound/sound.h"
 
 namespace
@@ -29,19 +30,6 @@ struct MenuFont {
 constexpr MenuFont menuFonts[] = {
     { &CSectionMenu::smallFont, 13, 5 },
     { &CSectionMenu::largeFont, 18, 6 },
-};
-
-struct PictureFile {
-    int picture;
-    const char* path;
-};
-
-constexpr PictureFile pictureFiles[] = {
-    { PICTURE_MAIN_MENU, "Dat\\Image/MainMenu.jpg" },         { PICTURE_HOME_PAGE, "Dat\\Image/MainMenuHomepage.jpg" },
-    { PICTURE_MAIN_ITEMS, "Dat\\Image/MainMenuItems.jpg" },   { PICTURE_OPTIONS, "Dat\\Image/Options.jpg" },
-    { PICTURE_OPTIONS_ITEMS, "Dat\\Image/OptionsItems.jpg" }, { PICTURE_RANKING, "Dat\\Image/Ranking.jpg" },
-    { PICTURE_HELP_FIRST, "Dat\\Image/Help1.jpg" },           { PICTURE_HELP_FIRST + 1, "Dat\\Image/Help2.jpg" },
-    { PICTURE_HELP_FIRST + 2, "Dat\\Image/Help3.jpg" },       { PICTURE_HELP_FIRST + 3, "Dat\\Image/Help4.jpg" },
 };
 
 /// A part of a strip of pictures, from its top.
@@ -134,6 +122,13 @@ void CreateCentred(CMenu& page, CImage& picture)
 
 }
 
+bool CSectionMenu::LoadSounds()
+{
+    for (const SoundFile& sound : menuSounds)
+        SoundLoad(sound.id, sound.path);
+    return true; // a missing sound is silence, not a failed start
+}
+
 bool CSectionMenu::LoadFonts()
 {
     for (const MenuFont& row : menuFonts) {
@@ -145,14 +140,13 @@ bool CSectionMenu::LoadFonts()
     return true;
 }
 
-bool CSectionMenu::LoadPictures()
+bool CSectionMenu::LoadImages()
 {
     if (!AllocateImages(images, MENU_IMAGES))
         return false;
-    for (const PictureFile& file : pictureFiles) {
-        if (!LoadJpegFile(images[file.picture], file.path))
-            return false;
-    }
+    const std::span<CImage> sets[] = { { images.get(), MENU_IMAGES } };
+    if (!LoadPictures(sets, menuPictures))
+        return false;
     for (const PictureView& view : pictureViews)
         images[view.picture].CreateView(images[view.strip], view.x, 0, view.width, view.height);
     return true;
@@ -204,39 +198,25 @@ void CSectionMenu::BuildFootButtons()
         (this->*page).AddHotArea(id, box);
 }
 
+bool CSectionMenu::BuildPages()
+{
+    BuildMainMenu();
+    BuildOptionsPage();
+    BuildRankingPage();
+    BuildHelpPages();
+    BuildFootButtons();
+    return true;
+}
+
 bool CSectionMenu::DataLoad(bool& done)
 {
-    switch (loadStep) {
-    case 0:
-        for (const SoundFile& sound : menuSounds)
-            SoundLoad(sound.id, sound.path); // a missing sound is silence, not a failed start
-        WriteLog("CSectionMenu::DataLoad 0");
-        break;
-    case 1:
-        if (!LoadFonts())
-            return false;
-        WriteLog("CSectionMenu::DataLoad 1");
-        break;
-    case 2:
-        if (!LoadPictures())
-            return false;
-        WriteLog("CSectionMenu::DataLoad 2");
-        break;
-    case 3:
-        BuildMainMenu();
-        BuildOptionsPage();
-        BuildRankingPage();
-        BuildHelpPages();
-        BuildFootButtons();
-        done = true;
-        WriteLog("CSectionMenu::DataLoad 3");
-        break;
-    default:
-        done = true;
-        return true;
-    }
-    ++loadStep;
-    return true;
+    static constexpr LoadingStep<CSectionMenu> steps[] = {
+        { &CSectionMenu::LoadSounds, "CSectionMenu::DataLoad 0" },
+        { &CSectionMenu::LoadFonts, "CSectionMenu::DataLoad 1" },
+        { &CSectionMenu::LoadImages, "CSectionMenu::DataLoad 2" },
+        { &CSectionMenu::BuildPages, "CSectionMenu::DataLoad 3" },
+    };
+    return DoLoadingStep(*this, steps, loadStep, done);
 }
 
 void CSectionMenu::UnDataLoad()

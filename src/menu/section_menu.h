@@ -11,8 +11,6 @@
 #include <cstdint>
 #include <memory>
 
-constexpr int MENU_IMAGES = 20;
-
 /// The product's page, relative to the program's folder, which is the current one.
 constexpr char HOME_PAGE[] = "docs\\index.html";
 
@@ -63,8 +61,10 @@ public:
     bool modeSeen = true;      ///< `isWindowed` when the options page last showed a display mode
 
 private:
+    bool LoadSounds();
     bool LoadFonts();
-    bool LoadPictures();
+    bool LoadImages();
+    bool BuildPages();
     void BuildMainMenu();
     void BuildOptionsPage();
     void BuildRankingPage();
@@ -94,7 +94,7 @@ private:
     void MarkKeyConflicts();
     void AdvanceKeyFocus();
 
-    int loadStep = 0; ///< the next step of DataLoad
+    int32_t loadStep = 0; ///< the next step of DataLoad
 };
 
 extern CSectionMenu sectionMenu;

@@ -2,9 +2,7 @@
 
 #include "gfx/image.h"
 
-#include <array>
 #include <cstdint>
-#include <span>
 
 // The decoders. On success the image is fresh: anchors and opacity 0, BlitCopy, no alpha plane unless a mask was
 // given. On failure `lastError` is ENGINE_LOAD_IMAGE, ENGINE_CREATE_IMAGE or ENGINE_ALLOCATE_MEMORY.
@@ -22,17 +20,3 @@ bool LoadJpegFile(CImage& image, const char* path);
 bool LoadBmpFile(CImage& image, const char* path);
 /// A mask file as both the pixels and the alpha plane of `image`.
 bool LoadMaskFile(CImage& image, const char* path);
-
-/// Gives the image the mask's alpha plane and that way of drawing. False: ENGINE_ALLOCATE_MEMORY.
-bool ApplyMask(CImage& image, const CImage& mask, BlitRoutine blit);
-
-/// JPEG pictures numbered from 1 on, each with a mask file of its own; the patterns take the number as printf does.
-struct NumberedFiles {
-    const char* picture;
-    const char* mask;
-};
-/// Loads the first of them, one into each image, drawn that way.
-bool LoadMaskedFiles(std::span<CImage> images, const NumberedFiles& files, BlitRoutine blit);
-
-using FilePath = std::array<char, 64>; ///< zero-terminated
-FilePath NumberedPath(const char* pattern, int number);

@@ -1,93 +1,23 @@
 #include "support/test_pictures.h"
 
+#include "actors/snake_pictures.h"
+#include "actors/status_bar_pictures.h"
+#include "game/pond_pictures.h"
+#include "menu/menu_pictures.h"
+
 #include <turbojpeg.h>
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstdio>
+#include <ranges>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace
 {
-constexpr int ONE_FILE = 0;
-
-/// A file, or `count` files whose pattern takes the numbers 1 to `count`.
-struct PictureRow {
-    const char* pattern;
-    int count;
-    int width;
-    int height;
-};
-constexpr PictureRow pictures[] = {
-    // Pond
-    { "bg0.jpg", ONE_FILE, 480, 480 },
-    { "bean_red.jpg", ONE_FILE, 16, 16 },
-    { "bean_green.jpg", ONE_FILE, 16, 16 },
-    { "bean_blue.jpg", ONE_FILE, 16, 16 },
-    { "bean_orange.jpg", ONE_FILE, 16, 16 },
-    { "bean_purple.jpg", ONE_FILE, 16, 16 },
-    { "bean_golden.jpg", ONE_FILE, 16, 16 },
-    { "stone.jpg", ONE_FILE, 16, 16 },
-    { "mask.bmp", ONE_FILE, 16, 16 },
-    { "shadow.jpg", ONE_FILE, 16, 16 },
-    { "light.jpg", ONE_FILE, 160, 160 },
-    { "light%d.jpg", 8, 30, 30 },
-    { "light%d_.bmp", 8, 30, 30 },
-    { "add5.jpg", ONE_FILE, 32, 16 },
-    { "add10.jpg", ONE_FILE, 32, 16 },
-    { "add15.jpg", ONE_FILE, 32, 16 },
-    { "add30.jpg", ONE_FILE, 32, 16 },
-    { "add35.jpg", ONE_FILE, 32, 16 },
-    { "add40.jpg", ONE_FILE, 32, 16 },
-    { "add45.jpg", ONE_FILE, 32, 16 },
-    { "lifeup.jpg", ONE_FILE, 32, 16 },
-    { "add_.bmp", ONE_FILE, 32, 16 },
-    { "bean_red%d.jpg", 14, 32, 32 },
-    { "bean_green%d.jpg", 14, 32, 32 },
-    { "bean_blue%d.jpg", 14, 32, 32 },
-    { "bean_orange%d.jpg", 14, 32, 32 },
-    { "bean_purple%d.jpg", 14, 32, 32 },
-    { "mask%d.bmp", 14, 32, 32 },
-    { "Moon%d.jpg", 2, 130, 130 },
-    { "Moon%d_.bmp", 2, 130, 130 },
-    // Snakes
-    { "snakebody.jpg", ONE_FILE, 16, 16 },
-    { "snakebody2nd.jpg", ONE_FILE, 16, 16 },
-    { "snakeeye%02d.jpg", 24, 16, 16 },
-    { "snakeeye%02d_.bmp", 24, 16, 16 },
-    { "bumpeye%d.jpg", 4, 24, 24 },
-    { "bumpeye%d_.bmp", 4, 24, 24 },
-    { "ArrowUp.bmp", ONE_FILE, 16, 16 },
-    { "ArrowDown.bmp", ONE_FILE, 16, 16 },
-    { "ArrowLeft.bmp", ONE_FILE, 16, 16 },
-    { "ArrowRight.bmp", ONE_FILE, 16, 16 },
-    // Status bar
-    { "LeftPanel.bmp", ONE_FILE, 160, 480 },
-    { "beanred.bmp", ONE_FILE, 11, 11 },
-    { "beangreen.bmp", ONE_FILE, 11, 11 },
-    { "beanblue.bmp", ONE_FILE, 11, 11 },
-    { "beanorange.bmp", ONE_FILE, 11, 11 },
-    { "beanpurple.bmp", ONE_FILE, 11, 11 },
-    { "heart.bmp", ONE_FILE, 14, 12 },
-    { "Progress.jpg", ONE_FILE, 19, 313 },
-    { "MessagePaused.jpg", ONE_FILE, 160, 90 },
-    { "MessageConfirm.jpg", ONE_FILE, 160, 90 },
-    { "MessageLevelCleared.jpg", ONE_FILE, 160, 90 },
-    { "MessageNextLevel.jpg", ONE_FILE, 160, 110 },
-    { "Help%d.jpg", 4, 500, 390 },
-    { "MessageGameOver.jpg", ONE_FILE, 160, 90 },
-    // Menu
-    { "MainMenu.jpg", ONE_FILE, 640, 480 },
-    { "MainMenuHomepage.jpg", ONE_FILE, 245, 22 },
-    { "MainMenuItems.jpg", ONE_FILE, 651, 36 },
-    { "Options.jpg", ONE_FILE, 320, 230 },
-    { "OptionsItems.jpg", ONE_FILE, 216, 23 },
-    { "Ranking.jpg", ONE_FILE, 320, 310 },
-};
-
 constexpr uint8_t GREY = 128;
 
 /// Blue, green and red of a JPEG picture: differ from one to the next, also as RGB565 and after JPEG's rounding.
@@ -142,24 +72,26 @@ std::string GreyBmp(int width, int height)
     file.append(pixelBytes, static_cast<char>(GREY));
     return file;
 }
-
-std::string Numbered(const char* pattern, int number)
-{
-    char name[64];
-    std::snprintf(name, sizeof name, pattern, number);
-    return name;
-}
 }
 
 TestPictures::TestPictures()
 {
-    int made = 0;
-    for (const PictureRow& row : pictures) {
-        const std::string pattern = std::string("Dat/Image/") + row.pattern;
-        for (int number = 1; number <= std::max(row.count, 1); ++number) {
-            const std::string path = row.count == ONE_FILE ? pattern : Numbered(pattern.c_str(), number);
-            folder.Write(path, path.ends_with(".jpg") ? PlainJpeg(ColourOf(made++), row.width, row.height)
-                                                      : GreyBmp(row.width, row.height));
+    const std::span<const PictureRow> tables[] = { pondPictures, snakePictures, statusPictures, menuPictures };
+    std::set<std::string> made; // owners share pictures
+    for (const PictureRow& row : std::views::join(tables)) {
+        for (int i = 0; i < row.count; ++i) {
+            const auto [width, height] = SizeOf(row, i);
+            const auto write = [&](const char* file) {
+                std::string path = PicturePath(file, i).data();
+                std::ranges::replace(path, '\\', '/');
+                if (made.insert(path).second)
+                    folder.Write(path, path.ends_with(".jpg")
+                                           ? PlainJpeg(ColourOf(static_cast<int>(made.size())), width, height)
+                                           : GreyBmp(width, height));
+            };
+            write(row.file);
+            if (row.mask)
+                write(row.mask);
         }
     }
 }
