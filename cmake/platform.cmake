@@ -25,5 +25,12 @@ list(FILTER SDL_SOURCES EXCLUDE REGEX "/main\\.cpp$")
 add_library(tervalis_platform STATIC ${SDL_SOURCES})
 target_link_libraries(tervalis_platform PUBLIC tervalis_platform_base PkgConfig::SDL2)
 
+# The icon, which Windows programs carry as a resource, as an array's elements.
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS packaging/tervalis.ico)
+file(READ packaging/tervalis.ico ICON HEX)
+string(REGEX REPLACE "(..)" "0x\\1," ICON "${ICON}")
+file(CONFIGURE OUTPUT icon/icon_bytes.inc CONTENT "${ICON}")
+target_include_directories(tervalis_platform PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/icon)
+
 add_executable(tervalis src/platform/sdl/main.cpp)
 target_link_libraries(tervalis PRIVATE tervalis_game tervalis_platform)

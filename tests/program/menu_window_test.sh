@@ -45,6 +45,7 @@ expect_windowed
 # The window manager's own title may be a few pixels higher or lower than reckoned with.
 IFS=x+ read -r width height x y <<<"$homePlace"
 [ "$width $height $x" = "640 480 320" ] && [ "$y" -gt 272 ] && [ "$y" -lt 292 ] || fail "the window is at $homePlace"
+xprop -id "$window" _NET_WM_ICON | grep -qF "Icon (48 x 48)" || fail "the window has no icon"
 point_at 10 10
 await "the main menu" shows_menu
 cmp -s "$log" - <<'END' || fail "the log of the start is wrong"

@@ -1,4 +1,5 @@
 #include "platform/sdl/events.h"
+#include "platform/sdl/icon.h"
 #include "platform/sdl/native_window.h"
 #include "platform/sdl/screen.h"
 #include "platform/sdl/signals.h"
@@ -13,6 +14,7 @@ namespace
 constexpr RECT FRAME = { 4, 26, 4, 4 };
 
 WNDPROC registeredProcedure = nullptr;
+HICON registeredIcon = nullptr;
 
 RECT FrameOf(DWORD style)
 {
@@ -42,7 +44,10 @@ bool OpenWindow(LPCSTR title)
     const SDL_Point size = nativeWindow.clientSize;
     nativeWindow.handle = SDL_CreateWindow(title, SDL_WINDOWPOS_UNDEFINED, SDL_WINDOWPOS_UNDEFINED, size.x, size.y,
                                            SDL_WINDOW_HIDDEN | SDL_WINDOW_RESIZABLE);
-    return nativeWindow.handle && nativeWindow.view.Open(nativeWindow.handle) && nativeWindow.view.SetFrameSize(size);
+    if (!nativeWindow.handle)
+        return false;
+    SetIcon(nativeWindow.handle, registeredIcon);
+    return nativeWindow.view.Open(nativeWindow.handle) && nativeWindow.view.SetFrameSize(size);
 }
 
 void CloseWindow()
@@ -93,6 +98,7 @@ void AwaitReleasedMouse()
 ATOM RegisterClassA(const WNDCLASSA* windowClass)
 {
     registeredProcedure = windowClass->lpfnWndProc;
+    registeredIcon = windowClass->hIcon;
     return 1;
 }
 
@@ -204,10 +210,4 @@ BOOL RedrawWindow(HWND, const RECT*, HRGN, UINT)
 {
     nativeWindow.view.Show();
     return TRUE;
-}
-
-/// The desktop entry gives the icon.
-HICON LoadIconA(HINSTANCE, LPCSTR)
-{
-    return nullptr;
 }
