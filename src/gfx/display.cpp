@@ -2,6 +2,7 @@
 
 #include "gfx/error.h"
 #include "platform/gdi.h"
+#include "platform/release.h"
 
 HWND displayWindow = nullptr;
 bool isWindowed = true;
@@ -29,14 +30,6 @@ struct WindowMode {
 const WindowMode windowedMode{ WS_POPUP | FRAME_STYLES, WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_MAXIMIZEBOX,
                                HWND_NOTOPMOST };
 const WindowMode fullScreenMode{ FRAME_STYLES, WS_POPUP, HWND_TOPMOST };
-
-template <typename Object>
-void ReleaseObject(Object*& object)
-{
-    if (object)
-        object->Release();
-    object = nullptr;
-}
 
 /// Gives up what full screen has so far.
 bool FailFullScreen(EngineError code)
@@ -193,13 +186,13 @@ bool DisplaySetMode(HWND window, int width, int height, bool windowed)
 
 void DisplayRelease()
 {
-    ReleaseObject(backSurface);
-    ReleaseObject(primarySurface);
+    ReleaseAndForget(backSurface);
+    ReleaseAndForget(primarySurface);
     if (!directDraw)
         return;
     directDraw->RestoreDisplayMode();
     directDraw->SetCooperativeLevel(displayWindow, DDSCL_NORMAL);
-    ReleaseObject(directDraw);
+    ReleaseAndForget(directDraw);
 }
 
 void DisplayPresent(CImage& image)

@@ -1,5 +1,6 @@
 #include "sound/sound.h"
 
+#include "platform/release.h"
 #include "sound/wave.h"
 
 #include <map>
@@ -42,14 +43,6 @@ DSBUFFERDESC BufferDescription(DWORD flags, DWORD bytes, WAVEFORMATEX* format)
     description.dwBufferBytes = bytes;
     description.lpwfxFormat = format;
     return description;
-}
-
-template <typename Interface>
-void ReleaseAndClear(Interface*& object)
-{
-    if (object)
-        object->Release();
-    object = nullptr;
 }
 
 /// A device of our own format, which spares the mixer from converting.
@@ -117,10 +110,10 @@ void SoundInit(HWND soundWindow)
 void SoundRelease()
 {
     for (auto& [id, entry] : table)
-        ReleaseAndClear(entry.buffer);
+        ReleaseAndForget(entry.buffer);
     table.clear();
-    ReleaseAndClear(primary);
-    ReleaseAndClear(device);
+    ReleaseAndForget(primary);
+    ReleaseAndForget(device);
     ready = false;
 }
 
@@ -129,7 +122,7 @@ bool SoundCreate(int id, const WAVEFORMATEX* format, uint32_t byteCount)
     if (!ready)
         return false;
     SoundEntry& entry = table[id];
-    ReleaseAndClear(entry.buffer);
+    ReleaseAndForget(entry.buffer);
     entry.format = *format;
     entry.byteCount = byteCount;
     const DSBUFFERDESC description = BufferDescription(SOUND_BUFFER_FLAGS, byteCount, &entry.format);

@@ -1,4 +1,5 @@
 #include "platform/directdraw.h"
+#include "platform/release.h"
 #include "platform/sdl/native_window.h"
 #include "platform/sdl/present.h"
 
@@ -29,14 +30,6 @@ public:
 private:
     ULONG references = 1;
 };
-
-template <class Object>
-void ReleaseAndForget(Object*& object)
-{
-    if (object)
-        object->Release();
-    object = nullptr;
-}
 
 /// Frames always fill the window's screen, so there is nothing to clip.
 class CClipper final : public CCounted<IDirectDrawClipper>
