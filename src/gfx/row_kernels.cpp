@@ -11,39 +11,34 @@
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
+#include "gfx/vector_rows.h"
+
 HWY_BEFORE_NAMESPACE();
 namespace
 {
 namespace HWY_NAMESPACE
 {
-namespace hn = hwy::HWY_NAMESPACE;
-
-constexpr size_t GROUP = 4; ///< pixels whose alpha values are looked at together
 constexpr uint8_t OPAQUE_ALPHA = 31;
 
-/// Applies the rule from pixel `first` on while there are enough pixels for a vector; returns the next pixel.
-template <class Lanes, class Rule>
-size_t MapVectors(Lanes lanes, const Rule& rule, uint16_t* target, size_t first, size_t count)
-{
-    // With less than a group in a vector, which can mean one lane, the pixels' own rule does the whole row.
-    if constexpr (hn::MaxLanes(lanes) >= GROUP) {
-        const size_t step = hn::Lanes(lanes);
-        for (; first + step <= count; first += step)
-            hn::StoreU(rule.Vector(lanes, first, hn::LoadU(lanes, target + first)), lanes, target + first);
-    }
-    return first;
-}
+/// A rule for pixels together with the row that they replace.
+template <class PixelRule>
+struct TargetRule {
+    PixelRule rule;
+    uint16_t* target;
 
-/// Applies the rule to a row, from the widest vectors down to single pixels: sprites are narrower than a vector.
-template <class Rule>
-void MapRow(const Rule& rule, uint16_t* target, size_t count)
+    void Sample(size_t i) const { target[i] = rule.Pixel(i, target[i]); }
+
+    template <class Lanes>
+    void Vector(Lanes lanes, size_t i) const
+    {
+        hn::StoreU(rule.Vector(lanes, i, hn::LoadU(lanes, target + i)), lanes, target + i);
+    }
+};
+
+template <class PixelRule>
+void MapRow(const PixelRule& rule, uint16_t* target, size_t count)
 {
-    size_t i = MapVectors(hn::ScalableTag<uint16_t>(), rule, target, 0, count);
-    i = MapVectors(hn::CappedTag<uint16_t, 16>(), rule, target, i, count);
-    i = MapVectors(hn::CappedTag<uint16_t, 8>(), rule, target, i, count);
-    i = MapVectors(hn::CappedTag<uint16_t, 4>(), rule, target, i, count);
-    for (; i < count; ++i)
-        target[i] = rule.Pixel(i, target[i]);
+    ApplyToRow<uint16_t>(TargetRule<PixelRule>{ rule, target }, 0, count);
 }
 
 /// Pixels from vectors that each have one channel in its place; blue has nothing beside it.
@@ -147,13 +142,13 @@ struct AlphaRule {
     {
         // Not the same as blending by 31, which keeps 1/32 of the target. An empty group needs no such care: blending
         // by 0 leaves the target exactly.
-        return IsOpaqueGroup(i / GROUP * GROUP) ? source[i] : AlphaPixel(source[i], target, alpha[i]);
+        return IsOpaqueGroup(i / ROW_GROUP * ROW_GROUP) ? source[i] : AlphaPixel(source[i], target, alpha[i]);
     }
 
     bool IsOpaqueGroup(size_t first) const
     {
-        constexpr uint8_t opaque[GROUP] = { OPAQUE_ALPHA, OPAQUE_ALPHA, OPAQUE_ALPHA, OPAQUE_ALPHA };
-        return std::memcmp(alpha + first, opaque, GROUP) == 0;
+        constexpr uint8_t opaque[ROW_GROUP] = { OPAQUE_ALPHA, OPAQUE_ALPHA, OPAQUE_ALPHA, OPAQUE_ALPHA };
+        return std::memcmp(alpha + first, opaque, ROW_GROUP) == 0;
     }
 
     template <class Lanes, class V>
@@ -162,7 +157,7 @@ struct AlphaRule {
         const V values = LoadBytes(lanes, alpha + i);
         if (hn::AllTrue(lanes, hn::Eq(values, hn::Zero(lanes))))
             return target;
-        const hn::Repartition<uint64_t, Lanes> groups; // GROUP lanes in each
+        const hn::Repartition<uint64_t, Lanes> groups; // ROW_GROUP lanes in each
         const auto opaque = hn::Eq(hn::BitCast(groups, hn::Set(lanes, OPAQUE_ALPHA)), hn::BitCast(groups, values));
         const V pixels = hn::LoadU(lanes, source + i);
         if (hn::AllTrue(groups, opaque))
