@@ -58,7 +58,7 @@ void CPond::DrawRipeBerry(Cell& cell, CImage& pondPicture)
         return;
     cell.splashed = true;
     SplashCell(cell.x, cell.y, BERRY_SPLASH);
-    SoundStop(SOUND_DROP); // one that still plays would go on instead of starting anew
+    SoundStop(SOUND_DROP); // its place is kept: a drop that still sounds goes on, an ended one starts from the front
     SoundPlay(SOUND_DROP, false);
 }
 

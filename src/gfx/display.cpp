@@ -142,7 +142,7 @@ bool EnterFullScreen()
     return true;
 }
 
-void PresentInWindow(CImage& image)
+void PresentInWindow(const CImage& image)
 {
     HDC context = GetDC(displayWindow);
     if (!context)
@@ -195,7 +195,7 @@ void DisplayRelease()
     ReleaseAndForget(directDraw);
 }
 
-void DisplayPresent(CImage& image)
+void DisplayPresent(const CImage& image)
 {
     if (isWindowed)
         PresentInWindow(image);

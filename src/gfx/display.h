@@ -20,7 +20,7 @@ bool DisplaySetMode(HWND window, int width, int height, bool windowed);
 void DisplayRelease();
 
 /// Shows a finished frame; its width must be a multiple of 4. A failed step only means that it is not shown.
-void DisplayPresent(CImage& image);
+void DisplayPresent(const CImage& image);
 
 /// Row converters for the two 16-bit layouts of a screen.
 void ConvertRowsCopy(const CImage& image, void* surface, int rowSkip);

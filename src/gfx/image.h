@@ -48,7 +48,7 @@ public:
     /// Copies this image to a device context. x and y KEEP mean 0, the rest the image's own values. False:
     /// ENGINE_BLIT_GDI.
     bool DrawToDC(HDC context, int targetX = KEEP, int targetY = KEEP, int sourceX = KEEP, int sourceY = KEEP,
-                  int drawWidth = KEEP, int drawHeight = KEEP);
+                  int drawWidth = KEEP, int drawHeight = KEEP) const;
     /// Releases the planes this image owns and returns it to the empty state.
     void Free();
 

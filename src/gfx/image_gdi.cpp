@@ -25,7 +25,8 @@ BitFieldInfo DescribeRows(const CImage& image, int rows)
 }
 }
 
-bool CImage::DrawToDC(HDC context, int targetX, int targetY, int sourceX, int sourceY, int drawWidth, int drawHeight)
+bool CImage::DrawToDC(HDC context, int targetX, int targetY, int sourceX, int sourceY, int drawWidth,
+                      int drawHeight) const
 {
     const auto orDefault = [](int value, int stored) { return value == KEEP ? stored : value; };
     const int firstColumn = orDefault(sourceX, x);

@@ -25,10 +25,18 @@ void LoadPalette(const BmpFile& bmp)
 
 void DecodePixelRow(const BmpFile& bmp, const uint8_t* bytes, uint16_t* pixels)
 {
-    if (bmp.bitCount == 24)
-        return ConvertBgrRow(bytes, pixels, bmp.width);
-    for (int i = 0; i < bmp.width; ++i)
-        pixels[i] = bmp.bitCount == 8 ? palette[bytes[i]] : ReadLe16(bytes + 2 * i);
+    switch (bmp.bitCount) {
+    case 8:
+        for (int i = 0; i < bmp.width; ++i)
+            pixels[i] = palette[bytes[i]];
+        break;
+    case 16:
+        for (int i = 0; i < bmp.width; ++i)
+            pixels[i] = ReadLe16(bytes + 2 * i);
+        break;
+    default:
+        ConvertBgrRow(bytes, pixels, bmp.width);
+    }
 }
 
 /// The mask's palette as alpha values; colours that it lacks are transparent.
@@ -43,15 +51,20 @@ struct MaskPalette {
     uint8_t alpha[BMP_PALETTE_SIZE] = {};
 };
 
-uint8_t MaskAlpha(const BmpFile& mask, const MaskPalette& maskPalette, const uint8_t* bytes, int column)
+void DecodeMaskRow(const BmpFile& mask, const MaskPalette& colours, const uint8_t* bytes, uint8_t* alpha)
 {
     switch (mask.bitCount) {
     case 8:
-        return maskPalette.alpha[bytes[column]];
+        for (int i = 0; i < mask.width; ++i)
+            alpha[i] = colours.alpha[bytes[i]];
+        break;
     case 16:
-        return static_cast<uint8_t>(bytes[2 * column] & BLUE_MASK);
+        for (int i = 0; i < mask.width; ++i)
+            alpha[i] = static_cast<uint8_t>(bytes[2 * i] & BLUE_MASK);
+        break;
     default:
-        return AlphaOfGreen(bytes[3 * column + 1]);
+        for (int i = 0; i < mask.width; ++i)
+            alpha[i] = AlphaOfGreen(bytes[3 * i + 1]);
     }
 }
 
@@ -74,10 +87,9 @@ bool LoadAlpha(CImage& image, const BmpFile& mask)
         return FailWith(ENGINE_CREATE_IMAGE);
     if (!mask.IsReadable())
         return FailWith(ENGINE_LOAD_IMAGE);
-    const MaskPalette maskPalette(mask);
+    const MaskPalette colours(mask);
     for (int row = 0; row < mask.height; ++row)
-        for (int column = 0; column < mask.width; ++column)
-            image.AlphaRow(row)[column] = MaskAlpha(mask, maskPalette, mask.Row(row), column);
+        DecodeMaskRow(mask, colours, mask.Row(row), image.AlphaRow(row));
     return true;
 }
 }
