@@ -1,4 +1,4 @@
-# Sourced by play.sh, test.sh, windows.sh and .ci/run: installs Debian packages that are missing.
+# Sourced by play.sh, test.sh, windows.sh, arm64.sh and .ci/run: installs Debian packages that are missing.
 
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config libsdl2-dev libfreetype-dev libfontconfig-dev libturbojpeg0-dev
     libtomlplusplus-dev libpng-dev libhwy-dev fonts-dejavu-core"
@@ -7,6 +7,7 @@ TEST_PACKAGES="libgtest-dev xvfb xdotool imagemagick openbox x11-utils x11-xserv
 BENCH_PACKAGES="libbenchmark-dev libpixman-1-dev python3"
 WINDOWS_PACKAGES="g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build nasm dpkg-dev googletest"
 WINE_PACKAGES="wine wine64 xvfb xdotool imagemagick openbox x11-utils wmctrl"
+ARM64_PACKAGES="g++-aarch64-linux-gnu cmake ninja-build pkg-config qemu-user mmdebstrap"
 CHECK_PACKAGES="clang-format clang-tidy"
 
 say() { printf '%s\n' "$*" >&2; }
