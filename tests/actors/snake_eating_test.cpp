@@ -37,17 +37,6 @@ TEST_F(SnakeEating, ScoresBerries)
     }
 }
 
-TEST_F(SnakeEating, GoldenBerryEndsTheStreakButNotItsColour)
-{
-    Snake().lastColour = GREEN;
-    Snake().streak = 3;
-    PutSnakeBeforeGrid();
-    PutBerry(GRID_CELL, GOLDEN);
-    Frame();
-    EXPECT_EQ(Snake().streak, 0);
-    EXPECT_EQ(Snake().lastColour, GREEN);
-}
-
 TEST_F(SnakeEating, StonesKillOnlyAfterFiftyMovedFrames)
 {
     for (const int moved : { 50, 51 }) {

@@ -43,39 +43,6 @@ TEST_F(SnakeSteering, QueuesOrRefusesKeys)
     }
 }
 
-TEST_F(SnakeSteering, TurnsOncePerGridPoint)
-{
-    PutSnake(240, 256);
-    Frame();
-    for (const int key : { LEFT, DOWN, LEFT })
-        Frame(key);
-    const int expected[][2] = { { 240, 240 }, { 224, 240 }, { 224, 256 }, { 208, 256 } };
-    Frames(4);
-    for (const auto& [x, y] : expected) {
-        EXPECT_EQ(Head().x, x);
-        EXPECT_EQ(Head().y, y);
-        Frames(8);
-    }
-}
-
-TEST_F(SnakeSteering, WaitingSnakeLooksRoundUntilItsStartKey)
-{
-    PutSnake(240, 240);
-    PutBerry(CellAt(240, 240), RED);
-    Snake().isWaiting = true;
-    Frame(DOWN); // even the reverse
-    EXPECT_EQ(Head().dir, DOWN);
-    Frame(RIGHT);
-    EXPECT_TRUE(Snake().isWaiting);
-    EXPECT_EQ(Snake().score, 0) << "it does not eat";
-    Frame(RIGHT);
-    EXPECT_FALSE(Snake().isWaiting);
-    EXPECT_EQ(Head().x, 240) << "it moves from the next frame on";
-    EXPECT_EQ(Snake().segments[4].dir, RIGHT);
-    Frame();
-    EXPECT_EQ(Head().x, 242);
-}
-
 struct WakeCase {
     int speed;
     int y; ///< of the head

@@ -2,7 +2,6 @@
 
 #include "app/frame_images.h"
 #include "app/random.h"
-#include "doubles/directx.h"
 #include "game/water.h"
 #include "gfx/blit.h"
 #include "support/test_game.h"
@@ -13,11 +12,7 @@
 class PondTest : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        directX = {};
-        StartGame(0);
-    }
+    void SetUp() override { StartGame(0); }
 
     void StartGame(int players)
     {

@@ -4,47 +4,6 @@ namespace
 {
 using PondLasers = PondTest;
 
-struct FlightCase {
-    int heading;
-    int dx, dy; ///< of a step, in cells
-};
-
-TEST_F(PondLasers, FlyToAStoneThatTurnsGoldenAndBurstUntilFrameTwenty)
-{
-    constexpr int START = 15; // column and row
-    for (int i = LASER_FLIGHT_IMAGES; i < LASER_IMAGES; ++i)
-        ASSERT_TRUE(pond.laserImages[i].Create(40, 24)); // 12 and 4 pixels beyond the cell
-    for (int i = 0; i < LASER_IMAGES; ++i)
-        Paint(pond.laserImages[i], i + 1);
-    for (const FlightCase& flight : { FlightCase{ HEADING_LEFT, -1, 0 }, FlightCase{ HEADING_UP, 0, -1 },
-                                      FlightCase{ HEADING_RIGHT, 1, 0 }, FlightCase{ HEADING_DOWN, 0, 1 } }) {
-        StartGame(0);
-        Cell& growing = CellIn(START + 2 * flight.dx, START + 2 * flight.dy);
-        pond.PlaceBerry(BLUE, CellAt(growing.x, growing.y));
-        Cell& stone = CellIn(START + 5 * flight.dx, START + 5 * flight.dy);
-        MakeStone(stone);
-        stone.splashed = true; // by the berry it was
-        pond.FireLaser(START * CELL_SIZE, START * CELL_SIZE, flight.heading);
-        for (int step = 0; step < 5; ++step) {
-            EXPECT_TRUE(stone.IsStone()) << flight.heading;
-            Play(1);
-            const Cell& cell = CellIn(START + step * flight.dx, START + step * flight.dy);
-            EXPECT_EQ(Pixel(pondImage, cell.x - 7, cell.y - 7), step % 4 + 1) << flight.heading;
-            EXPECT_EQ(Pixel(pondImage, cell.x + 22, cell.y + 22), step % 4 + 1) << flight.heading;
-        }
-        EXPECT_TRUE(stone.IsRipeBerry()) << flight.heading;
-        EXPECT_EQ(stone.colour, GOLDEN);
-        EXPECT_FALSE(stone.splashed) << "it splashes anew";
-        EXPECT_EQ(growing.colour, BLUE) << "flown over";
-        for (int frame = 5 % 4; frame < 20; ++frame) {
-            EXPECT_TRUE(pond.lasers[0].active);
-            Play(1);
-            EXPECT_EQ(Pixel(pondImage, stone.x - 12, stone.y - 4), 4 + frame % 4 + 1) << frame;
-        }
-        EXPECT_FALSE(pond.lasers[0].active);
-    }
-}
-
 TEST_F(PondLasers, EndAtThePondsEdgesAndFillTwoSlots)
 {
     pond.FireLaser(32, 160, HEADING_LEFT);

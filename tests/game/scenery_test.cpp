@@ -4,28 +4,6 @@ namespace
 {
 using Scenery = PondTest;
 
-TEST_F(Scenery, TurnsDayIntoNightAndBack)
-{
-    pond.dayTimer = 2498;
-    Play(1);
-    EXPECT_EQ(pond.transition, 0);
-    for (int frame = 0; frame < 50; ++frame) {
-        EXPECT_TRUE(pond.isDay);
-        Play(1);
-        EXPECT_EQ(pond.dayBackground.opacity, 250U - 4U * static_cast<unsigned>(frame));
-    }
-    EXPECT_FALSE(pond.isDay);
-    EXPECT_EQ(pond.transition, 0);
-
-    pond.dayTimer = 2499; // 2500 frames after the dusk began
-    for (int frame = 0; frame < 50; ++frame) {
-        EXPECT_FALSE(pond.isDay);
-        Play(1);
-        EXPECT_EQ(pond.dayBackground.opacity, 50U + 4U * static_cast<unsigned>(frame));
-    }
-    EXPECT_TRUE(pond.isDay);
-}
-
 struct LightCase {
     int transition;
     bool isDay;
@@ -88,48 +66,4 @@ TEST_F(Scenery, MoonFadesInBelowTheMiddleAndOutNearTheTop)
     }
 }
 
-TEST_F(Scenery, MoonsTakeTurns)
-{
-    Paint(pond.moonImages[0], 0x1234);
-    Paint(pond.moonImages[1], 0x4321);
-    pond.isDay = false;
-    scenery.moonY = 300;
-    pond.moonImages[1].opacity = 40;
-    Play(1);
-    EXPECT_EQ(Pixel(pondImage, 175, 300), 0x4321);
-    pond.transition = 2; // the moon is readied in the last but one frame of dawn
-    Play(1);
-    EXPECT_TRUE(scenery.moonToggle);
-    EXPECT_EQ(scenery.moonY, 608);
-    EXPECT_EQ(pond.moonImages[1].opacity, 0U);
-    pond.isDay = false;
-    pond.transition = 0;
-    scenery.moonY = 300;
-    Play(1);
-    EXPECT_EQ(Pixel(pondImage, 304, 429), 0x1234);
-}
-
-struct EndCase {
-    bool isDay;
-    int32_t fadeOut;
-    uint32_t opacity; ///< of the background
-    int32_t next;
-};
-
-TEST_F(Scenery, GameEndsWhenTheBackgroundHasFaded)
-{
-    constexpr EndCase cases[] = {
-        { true, 125, 250, 123 }, { true, 123, 246, 121 }, { true, 1, 2, 0 },
-        { false, 125, 50, 123 }, { false, 123, 49, 121 }, { false, 1, 0, 0 },
-    };
-    for (const EndCase& end : cases) {
-        StartGame(0);
-        pond.isDay = end.isDay;
-        pond.fadeOut = end.fadeOut;
-        Play(1);
-        EXPECT_EQ(pond.dayBackground.opacity, end.opacity);
-        EXPECT_EQ(pond.fadeOut, end.next);
-        EXPECT_EQ(pond.gameOver, end.next == 0);
-    }
-}
 }
