@@ -23,7 +23,7 @@ struct BotStyle {
 class Bot
 {
 public:
-    Bot(const CPond& game, const BotStyle& playStyle) : pond(game), style(playStyle) {}
+    Bot(const CPond& playedPond, const BotStyle& playStyle) : pond(playedPond), style(playStyle) {}
 
     /// The key for the coming frame, 0 for none.
     int NextKey(int frame);

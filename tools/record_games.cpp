@@ -1,74 +1,88 @@
-// Lets the bot play the recorded games anew and writes them, seed, keys and checksums, into a folder:
-//   record_games tests/data
-// To be run after a wanted change of play. It reports what happens in each game; another seed may be needed for one to
-// show again all that the test asks of it.
+// Records anew what the tests replay. A recording is a text file: how it begins, what is done in which frame, what it
+// is there to show, and then what it left behind, which this program writes.
+//   record_games tests/data/NAME.txt ...    plays those again
+//   record_games --bot tests/data           lets the bot play its games anew, then records them
+// To be run after a wanted change of play or picture. A recording that does not show what it was made for is refused
+// and left as it was.
 
 #include "bot.h"
-#include "support/game_watcher.h"
-#include "support/recorded_game.h"
-#include "support/state_checksum.h"
-#include "support/test_game.h"
+#include "game/section_main.h"
+#include "support/session.h"
 
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
-#include <memory>
 #include <string>
+#include <vector>
 
 namespace
 {
 struct GamePlan {
     const char* name;
-    int players;
-    uint32_t seed;
     BotStyle style;
 };
+/// Their seeds, lengths and what they show are in the files.
 constexpr GamePlan plans[] = {
-    { "one_player", 0, 5, { .recklessLevel = 5 } },
-    { "two_players", 1, 4, { .recklessFrom = 8000 } },
-    { "laser_on_gold", 0, 40, { .firesAtGold = true, .recklessFrom = 6000, .pauseAt = 1000 } },
+    { "one_player", { .recklessLevel = 5 } },
+    { "two_players", { .recklessFrom = 8000 } },
+    { "laser_on_gold", { .firesAtGold = true, .recklessFrom = 6000, .pauseAt = 1000 } },
 };
-constexpr int MAX_FRAMES = 40000; ///< in case that a bot does not come to an end
 
-void Report(const GamePlan& plan, const RecordedGame& recording, const GameWatcher& watcher, const CPond& pond)
+/// The keys of a game as the bot plays it.
+void PlayWithBot(Recording& recording, const BotStyle& style)
 {
-    std::printf("%s: seed %u, %d frames, %zu keys, %zu levels, score %d + %d\n", plan.name, plan.seed, recording.frames,
-                recording.keys.size(), watcher.Targets().size(), pond.snake[0].score, pond.snake[1].score);
-    for (int i = 0; i < GAME_EVENTS; ++i)
-        std::printf("  %s %d", EventName(static_cast<GameEvent>(i)), watcher.Count(static_cast<GameEvent>(i)));
-    std::printf("\n");
+    recording.actions.clear();
+    Session session(recording.players, recording.seed);
+    Bot bot(sectionMain.pond, style);
+    for (int frame = 0; frame < recording.frames && !sectionMain.pond.gameOver; ++frame) {
+        if (const int key = bot.NextKey(frame); key != 0)
+            recording.actions.push_back({ frame, "key", std::to_string(key) });
+        if (!recording.actions.empty() && recording.actions.back().frame == frame)
+            session.Do(recording.actions.back());
+        session.Frame();
+    }
 }
 
-RecordedGame Record(const GamePlan& plan)
+/// False when it is refused.
+bool Record(const Recording& script, const std::string& path)
 {
-    const auto game = std::make_unique<TestGame>(plan.players, plan.seed);
-    Bot bot(game->pond, plan.style);
-    GameWatcher watcher;
-    RecordedGame recording;
-    recording.players = plan.players;
-    recording.seed = plan.seed;
-    while (!game->pond.gameOver && recording.frames < MAX_FRAMES) {
-        const int key = bot.NextKey(recording.frames);
-        if (key != 0)
-            recording.keys.push_back({ recording.frames, key });
-        game->Frame(key);
-        watcher.Look(game->pond);
-        ++recording.frames;
-        if (recording.frames % RecordedGame::STRETCH == 0 || game->pond.gameOver)
-            recording.checksums.push_back(StateChecksum(game->pond));
+    std::vector<std::string> unseen;
+    const Recording recording = Play(script, unseen);
+    for (const std::string& condition : unseen)
+        std::printf("%s does not show %s\n", path.c_str(), condition.c_str());
+    if (!unseen.empty())
+        return false;
+    std::printf("%s: %s\n", path.c_str(), FirstDifference(script, recording).c_str());
+    WriteRecording(recording, path);
+    return true;
+}
+
+bool RecordBotGames(const std::filesystem::path& folder)
+{
+    bool all = true;
+    for (const GamePlan& plan : plans) {
+        const std::string path = (folder / (std::string(plan.name) + ".txt")).string();
+        Recording recording = ReadRecording(path);
+        PlayWithBot(recording, plan.style);
+        all = Record(recording, path) && all;
     }
-    Report(plan, recording, watcher, game->pond);
-    return recording;
+    return all;
 }
 }
 
 int main(int argc, char** argv)
 {
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: record_games FOLDER\n");
+    if (argc < 2) {
+        std::fprintf(stderr, "usage: record_games FILE... | --bot FOLDER\n");
         return 2;
     }
-    const std::filesystem::path folder = std::filesystem::absolute(argv[1]);
-    for (const GamePlan& plan : plans)
-        WriteRecordedGame(Record(plan), (folder / (std::string(plan.name) + ".txt")).string());
-    return 0;
+    if (argc == 3 && std::strcmp(argv[1], "--bot") == 0)
+        return RecordBotGames(std::filesystem::absolute(argv[2])) ? 0 : 1;
+    std::vector<std::string> paths;
+    for (int i = 1; i < argc; ++i)
+        paths.push_back(std::filesystem::absolute(argv[i]).string());
+    bool all = true;
+    for (const std::string& path : paths)
+        all = Record(ReadRecording(path), path) && all;
+    return all ? 0 : 1;
 }

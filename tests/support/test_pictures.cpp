@@ -8,30 +8,50 @@
 #include <turbojpeg.h>
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
+#include <map>
 #include <ranges>
-#include <set>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace
 {
-constexpr uint8_t GREY = 128;
+constexpr int BLOCK = 8; ///< pixels that a JPEG file codes together
 
-/// Blue, green and red of a JPEG picture: differ from one to the next, also as RGB565 and after JPEG's rounding.
-std::array<uint8_t, 3> ColourOf(int picture)
+/// Numbers that are the same on every system, others for each picture.
+class Noise
 {
-    const auto level = [](int step) { return static_cast<uint8_t>(16 * (step % 16) + 12); };
-    return { GREY, level(picture / 16), level(picture) };
-}
+public:
+    explicit Noise(const std::string& picture)
+    {
+        for (const char c : picture)
+            state = state * 31 + static_cast<uint8_t>(c);
+    }
+    uint32_t Below(uint32_t limit)
+    {
+        state = state * 1664525 + 1013904223;
+        return (state >> 16) % limit;
+    }
 
-std::string PlainJpeg(const std::array<uint8_t, 3>& colour, int width, int height)
+private:
+    uint32_t state = 1;
+};
+
+/// Plain blocks, each of a colour of its own, in the middle of what RGB565 takes for one colour: however a decoder
+/// rounds, the picture is the same.
+std::string BlockJpeg(Noise& noise, int width, int height)
 {
+    const int columns = (width + BLOCK - 1) / BLOCK;
+    std::vector<uint8_t> colours(static_cast<size_t>(columns * (height + BLOCK - 1) / BLOCK + columns) * 3);
+    for (size_t i = 0; i < colours.size(); ++i)
+        colours[i] = static_cast<uint8_t>(i % 3 == 1 ? noise.Below(64) * 4 + 2 : noise.Below(32) * 8 + 4);
     std::vector<uint8_t> pixels;
-    for (int i = 0; i < width * height; ++i)
-        pixels.insert(pixels.end(), colour.begin(), colour.end());
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) {
+            const auto* colour = &colours[static_cast<size_t>(y / BLOCK * columns + x / BLOCK) * 3];
+            pixels.insert(pixels.end(), colour, colour + 3);
+        }
     tjhandle codec = tjInitCompress();
     unsigned char* bytes = nullptr;
     unsigned long size = 0;
@@ -51,8 +71,17 @@ void AppendNumber(std::string& file, uint32_t value, int bytes)
         file += static_cast<char>(value >> 8 * i & 0xFF);
 }
 
+/// Blue, green and red of a pixel: a third black, a third white, which is the colour key and a mask's full opacity,
+/// and the rest any grey for a mask, any colour else.
+void AppendPixel(std::string& file, Noise& noise, bool isMask, bool isWhite)
+{
+    const uint32_t kind = isWhite ? 1 : noise.Below(3);
+    const uint32_t colour = kind == 0 ? 0 : kind == 1 ? 0xFFFFFF : noise.Below(1 << 16) * 0x101;
+    AppendNumber(file, isMask ? (colour & 0xFF) * 0x010101 : colour, 3);
+}
+
 /// 24 bits a pixel, bottom row first.
-std::string GreyBmp(int width, int height)
+std::string NoiseBmp(Noise& noise, int width, int height, bool isMask)
 {
     constexpr uint32_t HEADER_BYTES = 54;
     const uint32_t rowBytes = (static_cast<uint32_t>(width) * 3 + 3) & ~3U;
@@ -69,29 +98,43 @@ std::string GreyBmp(int width, int height)
     AppendNumber(file, 0, 4);
     AppendNumber(file, pixelBytes, 4);
     file.append(16, '\0');
-    file.append(pixelBytes, static_cast<char>(GREY));
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x)
+            AppendPixel(file, noise, isMask, y == 0 && x == width - 1); // a corner that tests can rely on
+        file.append(rowBytes - static_cast<uint32_t>(width) * 3, '\0');
+    }
     return file;
+}
+
+using Files = std::map<std::string, std::string>; ///< contents by path; owners share some
+
+void AddPicture(Files& files, const char* name, int number, const PictureSize& size, bool isMask)
+{
+    std::string path = PicturePath(name, number).data();
+    std::ranges::replace(path, '\\', '/');
+    Noise noise(path);
+    files[path] = path.ends_with(".jpg") ? BlockJpeg(noise, size.width, size.height)
+                                         : NoiseBmp(noise, size.width, size.height, isMask);
+}
+
+Files MakeFiles()
+{
+    Files files;
+    const std::span<const PictureRow> tables[] = { pondPictures, snakePictures, statusPictures, menuPictures };
+    for (const PictureRow& row : std::views::join(tables)) {
+        for (int i = 0; i < row.count; ++i) {
+            AddPicture(files, row.file, i, SizeOf(row, i), false);
+            if (row.mask)
+                AddPicture(files, row.mask, i, SizeOf(row, i), true);
+        }
+    }
+    return files;
 }
 }
 
 TestPictures::TestPictures()
 {
-    const std::span<const PictureRow> tables[] = { pondPictures, snakePictures, statusPictures, menuPictures };
-    std::set<std::string> made; // owners share pictures
-    for (const PictureRow& row : std::views::join(tables)) {
-        for (int i = 0; i < row.count; ++i) {
-            const auto [width, height] = SizeOf(row, i);
-            const auto write = [&](const char* file) {
-                std::string path = PicturePath(file, i).data();
-                std::ranges::replace(path, '\\', '/');
-                if (made.insert(path).second)
-                    folder.Write(path, path.ends_with(".jpg")
-                                           ? PlainJpeg(ColourOf(static_cast<int>(made.size())), width, height)
-                                           : GreyBmp(width, height));
-            };
-            write(row.file);
-            if (row.mask)
-                write(row.mask);
-        }
-    }
+    static const Files files = MakeFiles();
+    for (const auto& [path, content] : files)
+        folder.Write(path, content);
 }

@@ -2,9 +2,9 @@
 
 #include "support/temp_folder.h"
 
-/// A current folder of its own with a stand-in of the right size for every picture that the program loads: each JPEG
-/// picture plain in a colour of its own, BMP pictures and masks grey. So their tests need no artwork and do not change
-/// with it.
+/// A current folder of its own with a stand-in of the right size for every picture that the program loads: JPEG
+/// pictures of coloured blocks, BMP pictures and masks of noise, so that nothing is drawn elsewhere unnoticed. The same
+/// on every system; tests that use them need no artwork and do not change with it.
 class TestPictures
 {
 public:

@@ -1,0 +1,186 @@
+#include "support/recording.h"
+
+#include <fstream>
+#include <set>
+#include <sstream>
+#include <stdexcept>
+
+// The text form, a line each:
+//   about Two snakes die in one frame
+//   seed 17
+//   players 1                     not when it begins with the program's start
+//   frames 250
+//   key 61:37 83:38 ...           frame and virtual-key code
+//   at 90 set snake[0].score 495
+//   shows snake[0].isDying = 1, snake[1].isDying = 1
+//   stretch 100 1c0f.. 87aa.. 00f1..
+//    snake[0].length 6            what has changed since the stretch before
+
+namespace
+{
+constexpr int KEYS_PER_LINE = 12;
+constexpr char ABSENT[] = "0"; ///< the value of a field that is not mentioned
+
+std::string Rest(std::istream& line)
+{
+    std::string rest;
+    std::getline(line >> std::ws, rest);
+    return rest;
+}
+
+void ReadKeys(std::istream& line, Recording& recording)
+{
+    std::string press;
+    while (line >> press)
+        recording.actions.push_back({ std::stoi(press), "key", press.substr(press.find(':') + 1) });
+}
+
+void ReadAction(std::istream& line, Recording& recording)
+{
+    Action action{};
+    line >> action.frame >> action.verb;
+    action.arguments = Rest(line);
+    recording.actions.push_back(action);
+}
+
+void ReadChange(const std::string& line, Recording& recording)
+{
+    const size_t nameEnd = line.find(' ', 1);
+    recording.stretches.back().changes[line.substr(1, nameEnd - 1)] = line.substr(nameEnd + 1);
+}
+
+void ReadLine(const std::string& text, Recording& recording)
+{
+    if (text.starts_with(' '))
+        return ReadChange(text, recording);
+    std::istringstream line(text);
+    std::string word;
+    line >> word;
+    if (word == "about")
+        recording.about = Rest(line);
+    else if (word == "seed")
+        line >> recording.seed;
+    else if (word == "players")
+        line >> recording.players;
+    else if (word == "frames")
+        line >> recording.frames;
+    else if (word == "key")
+        ReadKeys(line, recording);
+    else if (word == "at")
+        ReadAction(line, recording);
+    else if (word == "shows")
+        recording.shows.push_back(Rest(line));
+    else if (word == "stretch") {
+        Stretch& stretch = recording.stretches.emplace_back();
+        line >> stretch.frame >> std::hex >> stretch.state >> stretch.picture >> stretch.sounds;
+    } else
+        throw std::runtime_error("not a line of a recording: " + text);
+}
+
+void WriteActions(const Recording& recording, std::ostream& file)
+{
+    int keysInLine = 0;
+    for (const Action& action : recording.actions) {
+        if (action.verb != "key") {
+            file << "\nat " << action.frame << ' ' << action.verb << ' ' << action.arguments;
+            keysInLine = 0;
+            continue;
+        }
+        file << (keysInLine % KEYS_PER_LINE == 0 ? "\nkey " : " ") << action.frame << ':' << action.arguments;
+        ++keysInLine;
+    }
+}
+
+std::string StretchName(const Stretch& stretch, int before)
+{
+    if (stretch.frame == before)
+        return "at the program's end";
+    return "in the frames " + std::to_string(before) + " to " + std::to_string(stretch.frame - 1);
+}
+
+/// The state at the end of each stretch, made of the changes so far.
+class RunningState
+{
+public:
+    void Apply(const Stretch& stretch)
+    {
+        for (const auto& [name, value] : stretch.changes)
+            values[name] = value;
+    }
+    std::string Of(const std::string& name) const
+    {
+        const auto found = values.find(name);
+        return found == values.end() ? ABSENT : found->second;
+    }
+    /// The first field, by name, in which the other differs.
+    std::string DifferenceFrom(const RunningState& was) const
+    {
+        std::set<std::string> names;
+        for (const auto& state : { this, &was })
+            for (const auto& [name, value] : state->values)
+                names.insert(name);
+        for (const std::string& name : names)
+            if (Of(name) != was.Of(name))
+                return name + " " + Of(name) + ", was " + was.Of(name);
+        return "no field that is written down";
+    }
+
+private:
+    std::map<std::string, std::string> values;
+};
+}
+
+Recording ReadRecording(const std::string& path)
+{
+    std::ifstream file(path);
+    Recording recording;
+    for (std::string line; std::getline(file, line);)
+        ReadLine(line, recording);
+    if (recording.frames == 0)
+        throw std::runtime_error(path + ": no recording");
+    return recording;
+}
+
+void WriteRecording(const Recording& recording, const std::string& path)
+{
+    std::ofstream file(path, std::ios::binary);
+    file << "about " << recording.about << "\nseed " << recording.seed;
+    if (recording.players != Recording::FROM_START)
+        file << "\nplayers " << recording.players;
+    file << "\nframes " << recording.frames;
+    WriteActions(recording, file);
+    for (const std::string& condition : recording.shows)
+        file << "\nshows " << condition;
+    for (const Stretch& stretch : recording.stretches) {
+        file << "\nstretch " << std::dec << stretch.frame << std::hex << ' ' << stretch.state << ' ' << stretch.picture
+             << ' ' << stretch.sounds;
+        for (const auto& [name, value] : stretch.changes)
+            file << "\n " << name << ' ' << value;
+    }
+    if (!(file << '\n').flush())
+        throw std::runtime_error(path + ": cannot be written");
+}
+
+std::string FirstDifference(const Recording& recorded, const Recording& played)
+{
+    RunningState was;
+    RunningState is;
+    int before = 0;
+    for (size_t i = 0; i < std::min(recorded.stretches.size(), played.stretches.size()); ++i) {
+        const Stretch& old = recorded.stretches[i];
+        const Stretch& now = played.stretches[i];
+        was.Apply(old);
+        is.Apply(now);
+        std::string parts;
+        if (now.state != old.state)
+            parts += " state (" + is.DifferenceFrom(was) + ")";
+        if (now.picture != old.picture)
+            parts += " picture";
+        if (now.sounds != old.sounds)
+            parts += " sounds";
+        if (!parts.empty() || now.frame != old.frame)
+            return StretchName(now, before) + " differ:" + parts;
+        before = now.frame;
+    }
+    return recorded.stretches.size() == played.stretches.size() ? "" : "the recording is of another length";
+}

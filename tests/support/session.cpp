@@ -1,0 +1,232 @@
+#include "support/session.h"
+
+#include "app/frame_images.h"
+#include "app/game.h"
+#include "app/game_window.h"
+#include "app/input.h"
+#include "app/log.h"
+#include "app/random.h"
+#include "app/scenes.h"
+#include "app/section_load.h"
+#include "game/geometry.h"
+#include "game/scenery.h"
+#include "game/section_main.h"
+#include "game/water.h"
+#include "gfx/display.h"
+#include "gfx/error.h"
+#include "menu/section_menu.h"
+#include "res/pack_file.h"
+#include "sound/sound.h"
+#include "support/sound_calls.h"
+#include "support/test_pictures.h"
+#include "support/test_system.h"
+
+#include <cctype>
+#include <filesystem>
+#include <memory>
+#include <sstream>
+#include <stdexcept>
+#include <utility>
+
+namespace
+{
+struct MessageRow {
+    const char* verb;
+    UINT message;
+    WPARAM wParam;
+};
+constexpr MessageRow messages[] = {
+    { "focus", WM_SETFOCUS, 0 },
+    { "blur", WM_KILLFOCUS, 0 },
+    { "altEnter", WM_SYSKEYUP, VK_RETURN },
+    { "altF", WM_SYSKEYUP, 'F' },
+    { "maximise", WM_SYSCOMMAND, SC_MAXIMIZE },
+    { "titleDoubleClick", WM_NCLBUTTONDBLCLK, 0 },
+    { "close", WM_CLOSE, 0 },
+};
+constexpr MessageRow mouseMessages[] = {
+    { "move", WM_MOUSEMOVE, 0 },         { "press", WM_LBUTTONDOWN, 0 },      { "release", WM_LBUTTONUP, 0 },
+    { "pressRight", WM_RBUTTONDOWN, 0 }, { "releaseRight", WM_RBUTTONUP, 0 }, { "click", WM_LBUTTONDOWN, 0 },
+};
+
+/// Made once for all sessions: pictures are many files.
+const TempFolder& ProgramFolder()
+{
+    static const TestPictures pictures;
+    return pictures.folder;
+}
+
+void Rebuild(CGame& object)
+{
+    std::destroy_at(&object); // saves the settings
+    std::construct_at(&object, "Tervalis", SCREEN_WIDTH, SCREEN_HEIGHT, true);
+}
+
+template <typename Scene>
+void Rebuild(Scene& scene)
+{
+    std::destroy_at(&scene);
+    std::construct_at(&scene);
+}
+}
+
+Session::Session(int players, uint32_t seed) : folderBefore(std::filesystem::current_path().string())
+{
+    const TempFolder& folder = ProgramFolder();
+    ResetProgram();
+    UseTestSystem(folder);
+    folder.Write("Dat/Image.xpf", std::string("FPX_\0\0\0\0", 8)); // every picture is a loose file
+    if (!CreateGameWindow(nullptr))
+        throw std::runtime_error("the program cannot start");
+    std::filesystem::current_path(folder.Path()); // for the program has gone to its own
+    ClearLog();
+    SoundSetMute(0);
+    TakeSoundCalls();
+    input = InputState{};
+    SeedRandom(seed);
+    if (players == Recording::FROM_START)
+        return;
+    BeginGame(players);
+    SeedRandom(seed);
+}
+
+Session::~Session()
+{
+    Close();
+    LeaveTestSystem();
+    std::filesystem::current_path(folderBefore);
+}
+
+/// As at the program's start, whatever ran in this process before.
+void Session::ResetProgram()
+{
+    for (CPackFile& pack : packTable)
+        pack.Close();
+    Rebuild(sectionMenu);
+    Rebuild(sectionMain);
+    Rebuild(sectionLoad);
+    requestedSection = &sectionLoad;
+    currentSection = nullptr;
+    menuLoaded = pondLoaded = statusBarLoaded = false;
+    captureScreen = false;
+    isWindowed = true;
+    lastError = 0;
+    scenery = SceneryState{};
+    water = WaterState{};
+    blinkCounter = 0;
+}
+
+void Session::BeginGame(int players)
+{
+    while (requestedSection != &sectionMenu)
+        Frame();
+    blinkCounter = 0;
+    sectionMenu.twoPlayers = static_cast<uint32_t>(players);
+    requestedSection = &sectionMain;
+}
+
+bool Session::IsRunning() const
+{
+    return isOpen && requestedSection != nullptr;
+}
+
+void Session::Send(unsigned message, uintptr_t wParam, intptr_t lParam)
+{
+    if (IsRunning())
+        game.WndProc(gameWindow, message, wParam, lParam);
+}
+
+void Session::SendMouse(const std::string& verb, int x, int y)
+{
+    for (const MessageRow& row : mouseMessages)
+        if (verb == row.verb)
+            Send(row.message, row.wParam, MAKELPARAM(x, y));
+}
+
+/// key CODE, type TEXT (one character), move|press|release|click X Y, set FIELD NUMBER, or a row of `messages`.
+void Session::Do(const Action& action)
+{
+    std::istringstream arguments(action.arguments);
+    int first = 0;
+    int second = 0;
+    if (action.verb == "set") {
+        std::string name;
+        arguments >> name >> first;
+        for (const StateField& field : StateFields())
+            if (field.name == name)
+                return field.Set(first);
+        throw std::runtime_error("there is no field " + name);
+    }
+    if (action.verb == "key") {
+        arguments >> first;
+        Send(WM_KEYDOWN, static_cast<WPARAM>(first));
+        releases.push_back(action);
+    } else if (action.verb == "type") {
+        const int character = action.arguments[0];
+        Send(WM_KEYDOWN, static_cast<WPARAM>(std::toupper(character)));
+        Send(WM_CHAR, static_cast<WPARAM>(character));
+    } else if (arguments >> first >> second) {
+        SendMouse(action.verb, first, second);
+        if (action.verb == "click")
+            releases.push_back({ 0, "release", action.arguments });
+    }
+    for (const MessageRow& row : messages)
+        if (action.verb == row.verb)
+            Send(row.message, row.wParam);
+}
+
+void Session::Frame()
+{
+    nextFrameTime = 0; // due
+    game.FrameTick();
+    HearSounds();
+    for (const Action& release : std::exchange(releases, {})) {
+        if (release.verb == "key")
+            Send(WM_KEYUP, static_cast<WPARAM>(std::stoi(release.arguments)));
+        else
+            Do(release);
+    }
+}
+
+void Session::HearSounds()
+{
+    for (const SoundCall& call : TakeSoundCalls()) {
+        plays[static_cast<size_t>(call.id)] += call.plays;
+        sounds.Add(static_cast<uint64_t>(call.id * 4 + call.plays * 2 + call.loops));
+    }
+}
+
+uint64_t Session::TakeSoundSum()
+{
+    return std::exchange(sounds, {}).Value();
+}
+
+void Session::Close()
+{
+    if (!isOpen)
+        return;
+    if (requestedSection != nullptr)
+        DestroyWindow(gameWindow);
+    HearSounds();
+    MSG message = {};
+    while (GetMessageA(&message, nullptr, 0, 0))
+        ; // up to the one that ends the program
+    isOpen = false;
+    Rebuild(game);
+    instanceMutex = nullptr;
+    packTable[0].Close(); // or its file could not be removed on every system
+}
+
+std::vector<StateField> Session::Fields()
+{
+    std::vector<StateField> fields = StateFields();
+    for (int id = 0; id < SOUND_IDS; ++id)
+        fields.push_back({ At("plays", id), nullptr, &plays[static_cast<size_t>(id)], {} });
+    for (const auto& [name, value] : StoredSettings())
+        fields.push_back({ "stored." + name, nullptr, nullptr, value });
+    std::istringstream log(ProgramFolder().ReadText("Log.txt"));
+    std::string line;
+    for (int number = 0; std::getline(log, line); ++number)
+        fields.push_back({ At("log", number), nullptr, nullptr, line });
+    return fields;
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "support/recording.h"
+#include "support/state_fields.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+/// The whole program in a folder of its own, with stand-in pictures and empty settings: window messages in, frames out,
+/// no matter how fast the clock runs. It uses the program's global objects, so there is one at a time.
+class Session
+{
+public:
+    /// From the program's start, or from a game's first frame on; see Recording::players. Throws when it cannot start.
+    Session(int players, uint32_t seed);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    bool IsRunning() const;
+    void Do(const Action& action);
+    void Frame();
+    /// Closes the window if it is still there, and saves the settings as the end of the program does.
+    void Close();
+
+    /// Everything: the program's own state, the sounds started so far, log lines and stored settings.
+    std::vector<StateField> Fields();
+    /// Of the sounds started and stopped since the last call, in order.
+    uint64_t TakeSoundSum();
+
+private:
+    void ResetProgram();
+    void BeginGame(int players);
+    void HearSounds();
+    void Send(unsigned message, uintptr_t wParam = 0, intptr_t lParam = 0);
+    void SendMouse(const std::string& verb, int x, int y);
+
+    static constexpr int SOUND_IDS = 31;
+
+    std::string folderBefore;               ///< the current one
+    std::array<int32_t, SOUND_IDS> plays{}; ///< by sound id
+    Checksum sounds;
+    std::vector<Action> releases; ///< of what is held for one frame
+    bool isOpen = true;
+};
+
+/// Plays a recording's actions and returns it with what they left behind. Adds to `unseen` the conditions of
+/// `shows` that never held.
+Recording Play(const Recording& script, std::vector<std::string>& unseen);

@@ -1,0 +1,104 @@
+// A font that looks the same on every machine, in the place of the system's: the glyphs are blocks whose width and
+// pattern depend on the character, in the size that was asked for.
+
+#include "platform/gdi.h"
+
+#include <cstdint>
+#include <utility>
+
+namespace
+{
+/// An HFONT made here holds the cell's size in its bits, an HDC points at that of the font selected into it.
+struct CellSize {
+    int height;
+    int width;
+};
+
+HFONT FontOf(const CellSize& cell)
+{
+    return reinterpret_cast<HFONT>(static_cast<uintptr_t>(cell.height << 8 | cell.width));
+}
+
+CellSize& SizeIn(HDC context)
+{
+    return *reinterpret_cast<CellSize*>(context);
+}
+
+constexpr BYTE FULL_COVERAGE = 16;
+
+BYTE Coverage(UINT character, DWORD x, DWORD y)
+{
+    return static_cast<BYTE>(character * 7 + x * 5 + y * 3) % (FULL_COVERAGE + 1);
+}
+
+/// Digits are equally wide.
+DWORD GlyphWidth(const CellSize& cell, UINT character)
+{
+    const bool isDigit = character >= '0' && character <= '9';
+    return static_cast<DWORD>(cell.width) - 1 + (isDigit ? 2 : character % 4);
+}
+}
+
+HFONT WINAPI CreateFontA(int height, int width, int, int, int, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD,
+                         LPCSTR)
+{
+    return FontOf({ height, width });
+}
+
+HDC WINAPI CreateCompatibleDC(HDC)
+{
+    return reinterpret_cast<HDC>(new CellSize{ 13, 5 });
+}
+
+HGDIOBJ WINAPI SelectObject(HDC context, HGDIOBJ font)
+{
+    const auto bits = static_cast<int>(reinterpret_cast<uintptr_t>(font));
+    return FontOf(std::exchange(SizeIn(context), { bits >> 8, bits & 0xFF }));
+}
+
+BOOL WINAPI DeleteDC(HDC context)
+{
+    delete &SizeIn(context);
+    return TRUE;
+}
+
+BOOL WINAPI DeleteObject(HGDIOBJ)
+{
+    return TRUE;
+}
+
+HGDIOBJ WINAPI GetStockObject(int)
+{
+    return nullptr;
+}
+
+BOOL WINAPI GetTextMetricsA(HDC context, TEXTMETRICA* metrics)
+{
+    if (context == nullptr)
+        return FALSE;
+    const CellSize& cell = SizeIn(context);
+    *metrics = {};
+    metrics->tmHeight = cell.height;
+    metrics->tmAscent = cell.height - 3;
+    return TRUE;
+}
+
+/// A space is blank; every other character stands on the base line, capital letters higher than the others.
+DWORD WINAPI GetGlyphOutlineA(HDC context, UINT character, UINT, GLYPHMETRICS* metrics, DWORD, LPVOID buffer,
+                              const MAT2*)
+{
+    if (context == nullptr)
+        return GDI_ERROR;
+    const CellSize& cell = SizeIn(context);
+    const bool isBlank = character <= ' ';
+    const DWORD width = isBlank ? 1 : GlyphWidth(cell, character);
+    const DWORD height = isBlank ? 1 : static_cast<DWORD>(cell.height) - (character < 'a' ? 4 : 6);
+    const DWORD rowBytes = (width + 3) & ~3u;
+    *metrics = { width, height, { 1, static_cast<LONG>(height) }, static_cast<short>(width + 2), 0 };
+    if (isBlank)
+        return 0;
+    auto* target = static_cast<BYTE*>(buffer);
+    for (DWORD i = 0; target != nullptr && i < rowBytes * height; ++i)
+        target[i] = i % rowBytes < width ? Coverage(character, i % rowBytes, i / rowBytes) : BYTE{ 0 };
+    return rowBytes * height;
+}

@@ -1,0 +1,278 @@
+#include "support/state_fields.h"
+
+#include "app/frame_images.h"
+#include "app/input.h"
+#include "app/random.h"
+#include "app/scenes.h"
+#include "app/section_load.h"
+#include "game/scenery.h"
+#include "game/section_main.h"
+#include "game/water.h"
+#include "gfx/display.h"
+#include "gfx/error.h"
+#include "menu/section_menu.h"
+#include "sound/sound.h"
+
+#include <cstring>
+#include <initializer_list>
+#include <stdexcept>
+
+namespace
+{
+/// What a field may refer to.
+struct Target {
+    Target(bool& value) : flag(&value) {}
+    Target(int32_t& value) : number(&value) {}
+    Target(uint32_t& value) : number(reinterpret_cast<int32_t*>(&value)) {}
+
+    bool* flag = nullptr;
+    int32_t* number = nullptr;
+};
+
+class FieldList
+{
+public:
+    void Add(const std::string& name, Target target) { fields.push_back({ name, target.flag, target.number, {} }); }
+    void Add(const std::string& owner, std::initializer_list<std::pair<const char*, Target>> rows)
+    {
+        for (const auto& [name, target] : rows)
+            Add(owner + "." + name, target);
+    }
+    void AddText(const std::string& name, std::string text) { fields.push_back({ name, {}, {}, std::move(text) }); }
+
+    std::vector<StateField> fields;
+};
+
+void AddProgram(FieldList& list)
+{
+    const auto sceneName = currentSection == &sectionMain   ? "game"
+                           : currentSection == &sectionMenu ? "menu"
+                                                            : "loading";
+    list.AddText("scene", sceneName);
+    list.AddText("muted", std::to_string(SoundGetMute()));
+    list.AddText("random", std::to_string(RandomState()));
+    list.Add("windowed", isWindowed);
+    list.Add("lastError", lastError);
+    list.Add("captureScreen", captureScreen);
+    list.Add("input", { { "mouseX", input.mouseX },
+                        { "mouseY", input.mouseY },
+                        { "mouseLeftDown", input.mouseLeftDown },
+                        { "mouseRightDown", input.mouseRightDown },
+                        { "lastKeyDown", input.lastKeyDown },
+                        { "lastKeyUp", input.lastKeyUp },
+                        { "hasFocus", input.hasFocus } });
+}
+
+void AddSnake(FieldList& list, const std::string& name, CSnake& s)
+{
+    list.Add(name, { { "isOut", s.isOut },
+                     { "isPaused", s.isPaused },
+                     { "isWaiting", s.isWaiting },
+                     { "startPressed", s.startPressed },
+                     { "slowDownPending", s.slowDownPending },
+                     { "isActive", s.isActive },
+                     { "length", s.length },
+                     { "arrowBlink", s.arrowBlink },
+                     { "eyeFrame", s.eyeFrame },
+                     { "isDying", s.isDying },
+                     { "deathFrames", s.deathFrames },
+                     { "movedFrames", s.movedFrames },
+                     { "lives", s.lives },
+                     { "lastColour", s.lastColour },
+                     { "streak", s.streak },
+                     { "pendingEffect", s.pendingEffect },
+                     { "score", s.score },
+                     { "rainTimer", s.rainTimer },
+                     { "shrinkCount", s.shrinkCount },
+                     { "speedUpTimer", s.speedUpTimer },
+                     { "turnCount", s.turnCount },
+                     { "speed", s.speed },
+                     { "frameCount", s.frameCount },
+                     { "player", s.player } });
+    for (int i = 0; i < s.length; ++i) {
+        list.Add(At(name + ".x", i), s.segments[i].x);
+        list.Add(At(name + ".y", i), s.segments[i].y);
+        list.Add(At(name + ".dir", i), s.segments[i].dir);
+    }
+    for (int i = 0; i < s.turnCount; ++i)
+        list.Add(At(name + ".turn", i), s.turnQueue[i]);
+    list.AddText(name + ".pictures",
+                 std::to_string(s.bodyImage.width + s.shadowImage.width) + (s.arrowImages ? "+arrows" : ""));
+}
+
+void AddMenu(FieldList& list, const std::string& name, CMenu& menu)
+{
+    list.Add(name, { { "x", menu.x },
+                     { "y", menu.y },
+                     { "isVisible", menu.isVisible },
+                     { "isActive", menu.isActive },
+                     { "hoveredButton", menu.hoveredButton },
+                     { "hoveredToggle", menu.hoveredToggle },
+                     { "cursorBlink", menu.cursorBlink } });
+    for (int i = 0; i < menu.toggleCount; ++i)
+        list.Add(At(name + ".checked", menu.toggles[i].id), menu.toggles[i].checked);
+    for (int i = 0; i < menu.textCount; ++i) {
+        MenuText& item = menu.texts[i];
+        list.AddText(At(name + ".text", item.id), item.text.get());
+        list.AddText(At(name + ".colour", item.id), std::to_string(item.colour));
+        list.Add(At(name + ".focused", item.id), item.focused);
+        list.Add(At(name + ".key", item.id), item.key);
+    }
+}
+
+void AddStatusBar(FieldList& list, CStatusBar& bar)
+{
+    list.Add("bar", { { "level", bar.level },
+                      { "target", bar.target },
+                      { "prevTarget", bar.prevTarget },
+                      { "coilWait", bar.coilWait },
+                      { "countUp", bar.countUp },
+                      { "panelOpen", bar.panelOpen },
+                      { "berryCountdown", bar.berryCountdown },
+                      { "lifeMark[0]", bar.lifeMark[0] },
+                      { "lifeMark[1]", bar.lifeMark[1] } });
+    AddMenu(list, "leftPanel", bar.leftPanel);
+    AddMenu(list, "pausedPanel", bar.pausedPanel);
+    AddMenu(list, "confirmPanel", bar.confirmPanel);
+    AddMenu(list, "levelClearedPanel", bar.levelClearedPanel);
+    AddMenu(list, "nextLevelPanel", bar.nextLevelPanel);
+    for (int page = 0; page < HELP_PAGES; ++page)
+        AddMenu(list, At("helpPanel", page), bar.helpPanels[page]);
+    AddMenu(list, "gameOverPanel", bar.gameOverPanel);
+}
+
+void AddObjects(FieldList& list, CPond& pond)
+{
+    for (int i = 0; i < CELL_COUNT; ++i) {
+        Cell& cell = pond.cells[i];
+        list.Add(At("cell", i), { { "occupied", cell.occupied },
+                                  { "ripe", cell.ripe },
+                                  { "colour", cell.colour },
+                                  { "age", cell.age },
+                                  { "growth", cell.growth },
+                                  { "splashed", cell.splashed } });
+    }
+    for (int i = 0; i < static_cast<int>(std::size(pond.lasers)); ++i) {
+        Laser& laser = pond.lasers[i];
+        list.Add(At("laser", i), { { "active", laser.active },
+                                   { "x", laser.x },
+                                   { "y", laser.y },
+                                   { "heading", laser.heading },
+                                   { "frame", laser.frame },
+                                   { "hit", laser.hit } });
+    }
+    for (int i = 0; i < static_cast<int>(std::size(pond.popups)); ++i) {
+        Popup& popup = pond.popups[i];
+        list.Add(At("popup", i), { { "active", popup.active },
+                                   { "x", popup.x },
+                                   { "y", popup.y },
+                                   { "kind", popup.kind },
+                                   { "opacity", popup.opacity } });
+    }
+    for (int i = 0; i < HIGHLIGHTS; ++i)
+        list.Add(At("highlight", i), pond.highlight[i]);
+}
+
+void AddPond(FieldList& list, CPond& pond)
+{
+    list.Add("pond", { { "players", pond.players },
+                       { "gameOver", pond.gameOver },
+                       { "fadeOut", pond.fadeOut },
+                       { "isDay", pond.isDay },
+                       { "transition", pond.transition },
+                       { "dayTimer", pond.dayTimer },
+                       { "introFrames", pond.introFrames },
+                       { "highlightNext", pond.highlightNext },
+                       { "blinkCounter", blinkCounter },
+                       { "moonToggle", scenery.moonToggle },
+                       { "moonY", scenery.moonY } });
+    list.Add("shockwave", { { "x", pond.shockwave.x },
+                            { "y", pond.shockwave.y },
+                            { "radius", pond.shockwave.radius },
+                            { "maxRadius", pond.shockwave.maxRadius } });
+    for (int i = 0; i < 2; ++i)
+        list.AddText(At("moon", i), std::to_string(pond.moonImages[i].opacity));
+    AddSnake(list, "snake[0]", pond.snake[0]);
+    AddSnake(list, "snake[1]", pond.snake[1]);
+    AddStatusBar(list, pond.statusBar);
+    AddObjects(list, pond);
+}
+
+/// Its heights are the pixels of two global images, which are gone once the program has ended.
+void AddWater(FieldList& list)
+{
+    if (waterBufferA.pixels == nullptr || water.current == nullptr)
+        return;
+    Checksum sum;
+    sum.AddBytes(water.current, static_cast<size_t>(water.fieldBytes));
+    sum.AddBytes(water.previous, static_cast<size_t>(water.fieldBytes));
+    list.AddText("water", std::to_string(sum.Value()));
+}
+
+void AddMenuScene(FieldList& list)
+{
+    CSectionMenu& menu = sectionMenu;
+    AddMenu(list, "mainMenu", menu.mainMenu);
+    AddMenu(list, "optionsMenu", menu.optionsMenu);
+    AddMenu(list, "rankingMenu", menu.rankingMenu);
+    for (int page = 0; page < HELP_PAGES; ++page)
+        AddMenu(list, At("helpMenu", page), menu.helpMenus[page]);
+    list.Add("menu", { { "twoPlayers", menu.twoPlayers },
+                       { "rankEntryPending", menu.rankEntryPending },
+                       { "keyConflict", menu.keyConflict } });
+    for (int i = 0; i < KEY_BINDINGS; ++i)
+        list.Add(At("menu.key", i), menu.keys[static_cast<size_t>(i)]);
+    for (int i = 0; i < RANKING_PLACES; ++i) {
+        list.AddText(At("menu.rankName", i), menu.rankNames[i]);
+        list.Add(At("menu.rankScore", i), menu.rankScores[i]);
+    }
+}
+}
+
+std::string At(const std::string& name, int index)
+{
+    return name + '[' + std::to_string(index) + ']';
+}
+
+std::string StateField::Value() const
+{
+    return flag == nullptr && number == nullptr && !text.empty() ? text : std::to_string(Number());
+}
+
+void StateField::Set(int value) const
+{
+    if (flag != nullptr)
+        *flag = value != 0;
+    else if (number != nullptr)
+        *number = value;
+    else
+        throw std::runtime_error(name + " cannot be set");
+}
+
+std::vector<StateField> StateFields()
+{
+    FieldList list;
+    AddProgram(list);
+    AddPond(list, sectionMain.pond);
+    AddWater(list);
+    AddMenuScene(list);
+    return std::move(list.fields);
+}
+
+void Checksum::Add(const std::string& text)
+{
+    AddBytes(text.data(), text.size());
+    Add(text.size());
+}
+
+void Checksum::AddBytes(const void* bytes, size_t count)
+{
+    const auto* rest = static_cast<const uint8_t*>(bytes);
+    for (; count >= sizeof(uint64_t); count -= sizeof(uint64_t), rest += sizeof(uint64_t)) {
+        uint64_t word = 0;
+        std::memcpy(&word, rest, sizeof word);
+        Add(word);
+    }
+    for (; count > 0; --count)
+        Add(uint64_t{ *rest++ });
+}
