@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds and runs all tests: as played, then with the sanitisers.
+# Installs what is missing, builds and runs all tests: as played, then with the sanitisers, the mixer's also with that
+# for threads.
 # A preset's name as argument (release, debug, asan) runs only that one.
 set -euo pipefail
 cd "$(dirname "$0")"
@@ -12,3 +13,8 @@ for preset in ${1:-release asan}; do
     cmake --build --preset "$preset"
     ctest --preset "$preset" -j "$(nproc)"
 done
+if [ $# -eq 0 ]; then
+    cmake --preset tsan >/dev/null
+    cmake --build --preset tsan
+    build/tsan/tests/mixer_tests --gtest_brief=1
+fi

@@ -167,19 +167,4 @@ TEST_F(DirectSoundTest, GoesOnWithoutADeviceThatVanishesAndIsHeardAgainFromTheNe
     EXPECT_EQ(played[0], 16000);
 }
 
-TEST_F(DirectSoundTest, BuffersMayComeAndGoWhileTheDeviceMixes)
-{
-    IDirectSoundBuffer* const lasting = Add({ 1, 2, 3 });
-    EXPECT_EQ(lasting->Play(0, 0, DSBPLAY_LOOPING), DS_OK);
-    for (int i = 0; i < 300; ++i) {
-        IDirectSoundBuffer* const buffer = Add(std::vector<int16_t>(1000, 5));
-        EXPECT_EQ(buffer->Play(0, 0, i % 2 ? DSBPLAY_LOOPING : 0), DS_OK);
-        if (i % 10 == 0)
-            SDL_Delay(1);
-        buffer->Release();
-    }
-    std::exchange(device, nullptr)->Release();
-    EXPECT_EQ(lasting->Stop(), DS_OK) << "a buffer outlives its device";
-    lasting->Release();
-}
 }

@@ -3,10 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
 #include <numbers>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -18,6 +20,7 @@ constexpr uint32_t RATE = 22050;
 constexpr size_t FADE = Mixer::FULL_GAIN;
 
 struct MixerTest : testing::Test {
+    void TestBody() override {}
     /// A voice of 16-bit mono samples.
     Voice& Add(const Samples& samples, uint32_t rate = RATE)
     {
@@ -95,40 +98,29 @@ TEST_F(MixerTest, AddsVoicesAndSaturates)
     EXPECT_EQ(MixMono(4), (Samples{ 32767, -32768, 0, 123 }));
 }
 
-TEST_F(MixerTest, LoopsAcrossTheSeam)
+TEST(Mixer, InterpolatesAcrossALoopsSeamAndTowardSilenceAtAnEnd)
 {
-    Play({ 1, 2, 3 }, true);
-    EXPECT_EQ(MixMono(7), (Samples{ 1, 2, 3, 1, 2, 3, 1 }));
-}
-
-TEST_F(MixerTest, InterpolatesTowardTheStartOfALoopAndTowardSilenceAtAnEnd)
-{
-    Voice& loop = Play({ 1000, 3000 }, true, RATE / 2);
-    EXPECT_EQ(MixMono(6), (Samples{ 1000, 2000, 3000, 2000, 1000, 2000 }));
-    mixer.RemoveVoice(&loop);
-    MixMono(FADE);
-    Play({ 1000, 3000 }, false, RATE / 2);
-    EXPECT_EQ(MixMono(5), (Samples{ 1000, 2000, 3000, 1500, 0 }));
-}
-
-TEST_F(MixerTest, KeepsTheFractionAcrossTheSeamAndStartsAgainWithoutIt)
-{
-    Voice& loop = Play({ 1000, 3000 }, true, RATE * 3 / 2);
-    EXPECT_EQ(MixMono(5), (Samples{ 1000, 2000, 3000, 2000, 1000 }));
-    mixer.RemoveVoice(&loop);
-    MixMono(FADE);
-    Voice& once = Play({ 1000, 3000 }, false, RATE * 3 / 2);
-    EXPECT_EQ(MixMono(3), (Samples{ 1000, 1500, 0 }));
-    mixer.Play(once, false);
-    EXPECT_EQ(MixMono(3), (Samples{ 1000, 1500, 0 }));
-}
-
-TEST_F(MixerTest, PlaysOneFrameAtAHigherRateThanTheMix)
-{
-    Play({ 77 }, true, 192000);
-    EXPECT_EQ(MixMono(3), Samples(3, 77));
-    Play({ 500 }, false, 192000);
-    EXPECT_EQ(MixMono(2), (Samples{ 577, 77 }));
+    const struct {
+        Samples samples;
+        bool loop;
+        uint32_t rate;
+        Samples expected;
+    } cases[] = {
+        { { 1, 2, 3 }, true, RATE, { 1, 2, 3, 1, 2, 3, 1 } },
+        { { 1000, 3000 }, true, RATE / 2, { 1000, 2000, 3000, 2000, 1000, 2000 } },
+        { { 1000, 3000 }, false, RATE / 2, { 1000, 2000, 3000, 1500, 0 } },
+        { { 1000, 3000 }, true, RATE * 3 / 2, { 1000, 2000, 3000, 2000, 1000 } }, // the fraction goes on
+        { { 1000, 3000 }, false, RATE * 3 / 2, { 1000, 1500, 0 } },               // and starts anew
+        { { 77 }, true, 192000, { 77, 77, 77 } },
+    };
+    for (const auto& row : cases) {
+        MixerTest test;
+        Voice& voice = test.Add(row.samples, row.rate);
+        for (int times = 0; times < (row.loop ? 1 : 2); ++times) {
+            test.mixer.Play(voice, row.loop);
+            EXPECT_EQ(test.MixMono(row.expected.size()), row.expected) << row.rate << ", " << times;
+        }
+    }
 }
 
 TEST_F(MixerTest, KeepsPitchAndLengthAtEveryRate)
@@ -207,5 +199,25 @@ TEST_F(MixerTest, GoesOnSilentlyWhileNotAudible)
     EXPECT_EQ(fading.back(), 0);
     MixMono(FADE);
     EXPECT_EQ(MixMono(100), Ramp(100, 200 + 2 * static_cast<int>(FADE)));
+}
+
+TEST_F(MixerTest, MixesWhileVoicesComeAndGo)
+{
+    std::atomic<bool> isMixing = true;
+    std::thread device([&] {
+        while (isMixing)
+            MixMono(64, false);
+    });
+    Voice& lasting = Play(Ramp(50), true);
+    for (int i = 0; i < 300; ++i) {
+        Voice& voice = Play(Ramp(1000), i % 2 == 0);
+        mixer.Stop(lasting);
+        mixer.SetPosition(lasting, 2);
+        mixer.Play(lasting, true);
+        mixer.RemoveVoice(&voice);
+    }
+    isMixing = false;
+    device.join();
+    EXPECT_FALSE(mixer.IsSilent());
 }
 }
