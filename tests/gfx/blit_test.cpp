@@ -1,13 +1,15 @@
 #include "gfx/blit.h"
 
+#include "gfx/display.h"
+#include "gfx/pixel_rules.h"
+#include "gfx/row_kernels.h"
 #include "support/instruction_sets.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <iterator>
 #include <limits>
 #include <random>
+#include <set>
 #include <vector>
 
 // Every routine against plain references, which work on separate channels where the routines work on whole words.
@@ -56,13 +58,22 @@ int OpacityColorKey(const Pixel& p)
     return Blend(p.source, p.target, (256 - p.opacity) / 8, 32);
 }
 
-struct Routine {
-    const char* name;
-    BlitRoutine blit;
-    int (*reference)(const Pixel&);
-};
+/// Draws half the alpha values as coverage, in a colour made of the opacity.
+void DrawGlyph(CImage& target, const CImage& source)
+{
+    std::vector<uint8_t> coverage;
+    for (int y = 0; y < source.height; ++y)
+        std::transform(source.AlphaRow(y), source.AlphaRow(y) + source.width, std::back_inserter(coverage),
+                       [](uint8_t alpha) { return static_cast<uint8_t>((alpha + 1) / 2); });
+    BlitGlyphSmooth(target, { source.x, source.y, source.width, source.height, 0, coverage.data(),
+                              static_cast<uint16_t>(source.opacity * 257) });
+}
 
-const Routine routines[] = {
+const struct Routine {
+    const char* name;
+    BlitRoutine draw;
+    int (*reference)(const Pixel&);
+} routines[] = {
     { "Copy", BlitCopy, [](const Pixel& p) { return p.source; } },
     { "ColorKey", BlitColorKey, [](const Pixel& p) { return p.source == 0xFFFF ? p.target : p.source; } },
     { "Add", BlitAdd, Add },
@@ -73,6 +84,7 @@ const Routine routines[] = {
       [](const Pixel& p) { return Blend(p.target, p.source, p.alpha * (p.opacity / 8 + 1) / 32, 32); } },
     { "OpacityColorKey", BlitOpacityColorKey, OpacityColorKey },
     { "FadeToBlack", BlitFadeToBlack, [](const Pixel& p) { return Blend(p.source, 0, (256 - p.opacity) / 8, 32); } },
+    { "Glyph", DrawGlyph, [](const Pixel& p) { return Blend(p.opacity * 257, p.target, 16 - (p.alpha + 1) / 2, 16); } },
 };
 
 /// The ends of the routines' steps among others.
@@ -81,7 +93,6 @@ constexpr uint32_t opacities[] = { 0, 7, 8, 60, 133, 248, 249, 255 };
 class Random
 {
 public:
-    explicit Random(unsigned seed) : engine(seed) {}
     int operator()(int low, int high) { return std::uniform_int_distribution<int>(low, high)(engine); }
 
     uint16_t Colour() { return static_cast<uint16_t>((*this)(0, 4) == 0 ? COLOR_KEY : (*this)(0, 0xFFFF)); }
@@ -89,143 +100,159 @@ public:
     uint8_t Alpha()
     {
         if (run-- <= 0) {
-            run = (*this)(0, 9);
+            run = (*this)(0, 40);
             runAlpha = (*this)(0, 2) == 0 ? (*this)(0, 31) : (*this)(0, 1) * 31;
         }
-        return static_cast<uint8_t>(runAlpha);
+        return static_cast<uint8_t>((*this)(0, 9) == 0 ? (*this)(0, 31) : runAlpha);
     }
 
 private:
-    std::mt19937 engine;
+    std::mt19937 engine{ 20240607 };
     int run = 0;
     int runAlpha = 0;
 };
 
-/// An image with random content, all its padding included.
-void MakeRandomImage(CImage& image, Random& random, int width, int height)
-{
-    ASSERT_TRUE(image.Create(width, height) && image.CreateAlpha());
-    std::generate_n(image.pixels, image.pitch / 2 * height, [&] { return random.Colour(); });
-    std::generate_n(image.alpha, image.pitch / 2 * height, [&] { return random.Alpha(); });
-}
+/// A random picture with columns beside its rows and rows above and below. The planes end where reading must, so that a
+/// sanitiser sees more.
+struct TestPicture {
+    TestPicture(Random& random, int width, int height, int columnsAround, int rowsAround)
+    {
+        image.width = width;
+        image.height = height;
+        image.pitch = (2 * (width + 2 * columnsAround) + 7) / 8 * 8;
+        plane.resize(static_cast<size_t>(image.pitch / 2 * (height + 2 * rowsAround)));
+        alpha.resize(plane.size() + 3);
+        std::ranges::generate(plane, [&] { return random.Colour(); });
+        std::ranges::generate(alpha, [&] { return random.Alpha(); });
+        const int start = image.pitch / 2 * rowsAround + columnsAround;
+        image.pixels = plane.data() + start;
+        image.alpha = alpha.data() + start;
+        image.pixelsBorrowed = image.alphaBorrowed = true;
+    }
 
-std::vector<uint16_t> PlaneOf(const CImage& image)
-{
-    return { image.pixels, image.pixels + image.pitch / 2 * image.height };
-}
+    std::vector<uint16_t> plane;
+    std::vector<uint8_t> alpha;
+    CImage image;
+};
 
-/// Calls pixel(target row, target column, source row, source column, first drawn source column) for what is visible.
-template <typename Visit>
-void ForEachVisiblePixel(const CImage& target, const CImage& source, Visit pixel)
+/// The target's plane as it should be after the source is drawn.
+std::vector<uint16_t> Expected(const Routine& routine, const TestPicture& target, const CImage& source)
 {
-    const int left = target.x - source.x;
-    const int top = target.y - source.y;
-    for (int y = 0; y < target.height; ++y)
-        for (int x = 0; x < target.width; ++x)
-            if (x >= left && x < left + source.width && y >= top && y < top + source.height)
-                pixel(y, x, y - top, x - left, std::max(0, -left));
-}
-
-/// The parent's whole plane as it should be after source is drawn onto target, a view of parent.
-std::vector<uint16_t> Expected(const Routine& routine, const CImage& parent, const CImage& target, const CImage& source)
-{
-    std::vector<uint16_t> plane = PlaneOf(parent);
-    ForEachVisiblePixel(target, source, [&](int y, int x, int row, int column, int first) {
-        const uint8_t* alpha = source.AlphaRow(row);
-        const uint8_t* group = alpha + first + (column - first) / 4 * 4;
-        const bool opaque = std::count(group, group + 4, 31) == 4;
-        uint16_t& pixel = plane[static_cast<size_t>(target.Row(y) + x - parent.pixels)];
-        pixel = static_cast<uint16_t>(routine.reference(
-            { source.Row(row)[column], pixel, alpha[column], opaque, static_cast<int>(source.opacity) }));
-    });
+    std::vector<uint16_t> plane = target.plane;
+    const int left = target.image.x - source.x;
+    const int top = target.image.y - source.y;
+    const int first = std::max(0, -left);
+    for (int y = std::max(0, -top); y < source.height && top + y < target.image.height; ++y) {
+        for (int x = first; x < source.width && left + x < target.image.width; ++x) {
+            const uint8_t* group = source.AlphaRow(y) + first + (x - first) / 4 * 4;
+            const bool opaque = std::count(group, group + 4, 31) == 4;
+            uint16_t& pixel = plane[static_cast<size_t>(target.image.Row(top + y) + left + x - target.plane.data())];
+            pixel = static_cast<uint16_t>(routine.reference(
+                { source.Row(y)[x], pixel, source.AlphaRow(y)[x], opaque, static_cast<int>(source.opacity) }));
+        }
+    }
     return plane;
 }
 
 void CompareWithReferences()
 {
-    Random random(20240607);
-    for (int round = 0; round < 3000; ++round) {
-        const Routine& routine = routines[round % std::size(routines)];
-        CImage parent;
-        CImage target; // a view, so that pixels around it show what is written beside it
-        MakeRandomImage(parent, random, random(9, 40), random(9, 24));
-        ASSERT_TRUE(target.CreateView(parent, random(0, 8), random(0, 8), random(1, 40), random(1, 24)));
-        CImage whole;
-        CImage part;
-        MakeRandomImage(whole, random, random(1, 30), random(1, 12));
-        CImage& source = random(0, 1) ? whole : part;
-        ASSERT_TRUE(part.CreateView(whole, random(0, whole.width - 1), random(0, whole.height - 1), 30, 12));
-        target.x = random(-32, 44);
-        target.y = random(-12, 26);
-        source.x = random(-8, 8);
-        source.y = random(-4, 4);
-        source.width = random(1, source.width); // as a draw limited to some columns
-        source.opacity = opacities[random(0, 7)];
+    constexpr int ROWS = 2;
+    Random random;
+    size_t draws = 0;
+    for (const Routine& routine : routines) {
+        for (int width = 1; width <= 140; ++width) {
+            for (const int cut : { 0, -1 - width % 11, 1 + width % 11 }) { // nothing; left and top; right and bottom
+                TestPicture source(random, width, ROWS, random(0, 5), 0);
+                TestPicture target(random, width, ROWS, random(0, 5), 1);
+                source.image.opacity = opacities[draws++ % std::size(opacities)];
+                source.image.x = random(-9, 9);
+                source.image.y = random(-9, 9);
+                target.image.x = source.image.x + cut;
+                target.image.y = source.image.y + std::clamp(cut, -1, 1);
+                const std::vector<uint16_t> expected = Expected(routine, target, source.image);
+                routine.draw(target.image, source.image);
+                ASSERT_EQ(target.plane, expected) << routine.name << ", " << width << " pixels, cut by " << cut;
+            }
+        }
+    }
+}
 
-        const std::vector<uint16_t> expected = Expected(routine, parent, target, source);
-        routine.blit(target, source);
-        ASSERT_EQ(PlaneOf(parent), expected) << routine.name << ", round " << round;
+void CompareConverters()
+{
+    constexpr int SKIP = 6; // pixels behind a row of the surface
+    Random random;
+    for (int width = 1; width <= 140; ++width) {
+        const TestPicture picture(random, width, 2, 1, 0);
+        const int count = width / 4 * 4;
+        std::vector<uint16_t> copied(static_cast<size_t>(2 * (count + SKIP)), 0xABCD);
+        std::vector<uint16_t> expected = copied;
+        std::vector<uint16_t> in555 = copied;
+        std::vector<uint16_t> expected555 = copied;
+        for (int i = 0; i < 2 * count; ++i) {
+            const uint16_t pixel = picture.image.Row(i / count)[i % count];
+            const size_t place = static_cast<size_t>(i / count * SKIP + i);
+            expected[place] = pixel;
+            expected555[place] = static_cast<uint16_t>(pixel / 2048 * 1024 + pixel / 64 % 32 * 32 + pixel % 32);
+        }
+        ConvertRowsCopy(picture.image, copied.data(), 2 * SKIP);
+        ConvertRows555(picture.image, in555.data(), 2 * SKIP);
+        ASSERT_EQ(copied, expected) << width;
+        ASSERT_EQ(in555, expected555) << width;
     }
 }
 }
 
-TEST(Blits, EqualPlainReferencesAtRandomSizesAndClips)
+TEST(Blits, EqualPlainReferencesAtEveryWidthAndClippedEdgeOnEachInstructionSet)
 {
-    OnEveryInstructionSet(CompareWithReferences);
-}
-
-TEST(Blits, DrawGlyphsByTheirCoverage)
-{
-    Random random(7);
-    for (int round = 0; round < 2000; ++round) {
-        CImage parent;
-        CImage target;
-        MakeRandomImage(parent, random, random(5, 40), random(5, 24));
-        ASSERT_TRUE(target.CreateView(parent, random(0, 4), random(0, 4), random(1, 40), random(1, 24)));
-        CImage box; // only its place and size
-        box.width = 4 * random(1, 5);
-        box.height = random(0, 9);
-        box.x = random(-8, 8);
-        box.y = random(-8, 8);
-        target.x = random(-20, 44);
-        target.y = random(-9, 26);
-        std::vector<uint8_t> bits(static_cast<size_t>(box.width) * static_cast<size_t>(box.height));
-        std::generate(bits.begin(), bits.end(), [&] { return static_cast<uint8_t>(random(0, 16)); });
-        const GlyphView glyph{ box.x, box.y, box.width, box.height, 0, bits.data(), random.Colour() };
-
-        std::vector<uint16_t> expected = PlaneOf(parent);
-        ForEachVisiblePixel(target, box, [&](int y, int x, int row, int column, int) {
-            uint16_t& pixel = expected[static_cast<size_t>(target.Row(y) + x - parent.pixels)];
-            const int coverage = bits.data()[row * box.width + column];
-            pixel = static_cast<uint16_t>(Blend(glyph.colour, pixel, 16 - coverage, 16));
-        });
-        BlitGlyphSmooth(target, glyph);
-        ASSERT_EQ(PlaneOf(parent), expected) << "round " << round;
-    }
+    std::set<const RowKernels*> forms;
+    OnEveryInstructionSet([&forms] {
+        forms.insert(&BestRowKernels());
+        CompareWithReferences();
+        CompareConverters();
+    });
+    EXPECT_EQ(forms.size(), hwy::SupportedAndGeneratedTargets().size()) << "each has its own kernels";
 }
 
 TEST(Blits, DrawNothingFromPositionsThatMissTheTarget)
 {
     constexpr int LOWEST = std::numeric_limits<int>::min();
     constexpr int HIGHEST = std::numeric_limits<int>::max();
-    struct FarCase {
-        int position;
-        int anchor;
-    };
-    Random random(3);
-    CImage target;
-    CImage source;
-    MakeRandomImage(target, random, 8, 8);
-    MakeRandomImage(source, random, 8, 8);
-    const std::vector<uint16_t> before = PlaneOf(target);
-    for (const FarCase& row : { FarCase{ -8, 0 }, FarCase{ 8, 0 }, FarCase{ 0, 8 }, FarCase{ LOWEST, 0 },
-                                FarCase{ LOWEST, HIGHEST }, FarCase{ HIGHEST, 0 }, FarCase{ HIGHEST, LOWEST } }) {
+    constexpr struct {
+        int position, anchor;
+    } farPlaces[] = { { -8, 0 },           { 8, 0 },       { 0, 8 },           { LOWEST, 0 },
+                      { LOWEST, HIGHEST }, { HIGHEST, 0 }, { HIGHEST, LOWEST } };
+    Random random;
+    TestPicture target(random, 8, 8, 1, 1);
+    TestPicture source(random, 8, 8, 1, 1);
+    const std::vector<uint16_t> before = target.plane;
+    for (const auto& [position, anchor] : farPlaces) {
         for (int32_t CImage::*axis : { &CImage::x, &CImage::y }) {
-            target.x = target.y = source.x = source.y = 0;
-            target.*axis = row.position;
-            source.*axis = row.anchor;
-            BlitAlpha(target, source);
-            EXPECT_EQ(PlaneOf(target), before) << row.position << " anchor " << row.anchor;
+            target.image.x = target.image.y = source.image.x = source.image.y = 0;
+            target.image.*axis = position;
+            source.image.*axis = anchor;
+            BlitAlpha(target.image, source.image);
+            EXPECT_EQ(target.plane, before) << position << " anchor " << anchor;
         }
     }
+}
+
+TEST(PixelRules, GiveTheHandWorkedValues)
+{
+    constexpr struct {
+        const char* reason;
+        uint16_t actual, expected;
+    } rules[] = {
+        { "green saturates and carries one into red", AddPixel(0x07E0, 0x0020), 0x0FE0 },
+        { "blue saturates and carries one into green", AddPixel(0x001F, 0x0001), 0x003F },
+        { "green floors and borrows one from red", SubPixel(0x0020, 0x0800), 0x0000 },
+        { "blue floors and borrows one from green", SubPixel(0x0001, 0x0040), 0x0020 },
+        { "alpha 31 keeps 1/32 of a brighter target", AlphaPixel(0x0000, 0xFFFF, 31), 0x0820 },
+        { "a falling channel is rounded down", AlphaPixel(0x0000, 0x001F, 31), 0x0000 },
+        { "opacity 1/32 leaves nothing of alpha 31", AlphaOpacityPixel(0xFFFF, 0x1234, 31, 1), 0x1234 },
+        { "the key stays transparent at every weight", OpacityColorKeyPixel(0xFFFF, 0xABCD, 0), 0xABCD },
+        { "almost the key is drawn", ColorKeyPixel(0xFFDF, 0x1234), 0xFFDF },
+        { "half coverage rounds down, but for what green carries into red", GlyphPixel(0xFFFF, 0x0000, 8), 0x83EF },
+    };
+    for (const auto& rule : rules)
+        EXPECT_EQ(rule.actual, rule.expected) << rule.reason;
 }

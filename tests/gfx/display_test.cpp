@@ -43,6 +43,11 @@ TEST_F(Display, WindowHasTheClientSizeInTheMiddleOfTheScreenAndShowsTheFrame)
     frame.Row(HEIGHT - 1)[WIDTH - 1] = Rgb565(0x80, 0x40, 0x20);
     DisplayPresent(frame);
     EXPECT_EQ(WindowPixel(WIDTH - 1, HEIGHT - 1), Rgb565(0x80, 0x40, 0x20));
+    frame.Row(202)[303] = Rgb565(0x40, 0x80, 0xC0);
+    const HDC context = GetDC(displayWindow);
+    EXPECT_TRUE(frame.DrawToDC(context, 10, 20, 300, 200, 8, 4));
+    ReleaseDC(displayWindow, context);
+    EXPECT_EQ(WindowPixel(13, 22), Rgb565(0x40, 0x80, 0xC0)) << "from its source column and row on";
     CImage narrow; // its rows are no whole groups of 4 bytes
     narrow.Create(3, 2);
     DisplayPresent(narrow);

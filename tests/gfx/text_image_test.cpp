@@ -7,12 +7,12 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <list>
-#include <string>
 #include <vector>
 
 namespace
 {
 constexpr uint16_t WHITE = 0xFFFF;
+using Pixels = std::vector<uint16_t>;
 
 /// A text image in the strip's font, and a black picture to draw into.
 class TextImage : public testing::Test
@@ -31,7 +31,7 @@ protected:
 
     void Create(int slots) { ASSERT_TRUE(text.TextImageCreate(font, TEXT_GREY_LEVELS, slots)); }
 
-    std::vector<uint16_t> Draw(int x, const char* line)
+    Pixels Draw(int x, const char* line)
     {
         picture.Fill(0);
         text.TextDraw(picture, x, 2, WHITE, line);
@@ -44,30 +44,13 @@ protected:
     CImage picture;
 };
 
-/// Copies of a glyph's numbers and coverage.
-struct GlyphCopy {
-    explicit GlyphCopy(const CGlyph& glyph)
-        : numbers{ glyph.offsetX, glyph.offsetY, glyph.width, glyph.height, glyph.advance },
-          bits(glyph.bits.get(), glyph.bits.get() + glyph.width * glyph.height)
-    {
-    }
-    bool operator==(const GlyphCopy&) const = default;
-
-    std::vector<int> numbers;
-    std::vector<uint8_t> bits;
-};
-}
-
-TEST_F(TextImage, DrawsCachedCharactersWithoutAskingTheFont)
+/// A glyph's numbers and coverage.
+std::vector<int> Contents(const CGlyph& glyph)
 {
-    const auto first = Draw(3, "0123456789 0");
-    EXPECT_EQ(text.count, 11);
-    const HDC dc = text.dc;
-    text.dc = nullptr; // any call to the font fails from here on
-    EXPECT_EQ(Draw(3, "0123456789 0"), first);
-    EXPECT_EQ(text.TextWidth("9876543210"), 10 * Advance('0'));
-    text.dc = dc;
-    EXPECT_TRUE(std::ranges::count(first, WHITE) > 20) << "bold figures have fully covered pixels";
+    std::vector<int> contents(glyph.bits.get(), glyph.bits.get() + glyph.width * glyph.height);
+    contents.insert(contents.end(), { glyph.offsetX, glyph.offsetY, glyph.width, glyph.height, glyph.advance });
+    return contents;
+}
 }
 
 TEST_F(TextImage, PlacesTheBlackBoxFromTheTopOfTheCell)
@@ -79,6 +62,8 @@ TEST_F(TextImage, PlacesTheBlackBoxFromTheTopOfTheCell)
     EXPECT_TRUE(hasInk(1 + text.ascent) && !hasInk(2 + text.ascent)) << "L stands on the baseline";
     const uint16_t* row = picture.Row(1 + text.ascent);
     EXPECT_EQ(std::find_if(row, row + 160, std::identity()) - row, 20 - glyph.offsetX);
+    EXPECT_TRUE(std::ranges::count(Draw(3, "0123456789"), WHITE) > 20) << "bold figures have fully covered pixels";
+    EXPECT_TRUE(picture.x == 0 && picture.y == 0);
 }
 
 TEST_F(TextImage, JoinsALeadByteWithTheNext)
@@ -90,18 +75,9 @@ TEST_F(TextImage, JoinsALeadByteWithTheNext)
     } cases[] = {
         { "", {}, "nothing" },
         { " A", { ' ', 'A' }, "a space has a width" },
-        { "\x80"
-          "A",
-          { 0x80, 'A' },
-          "128 is a character of its own" },
-        { "\x81"
-          "A",
-          { 0x8141 },
-          "from 129 on two bytes are one character" },
-        { "A\xFF\xFF"
-          "A",
-          { 'A', 0xFFFF, 'A' },
-          "any second byte" },
+        { "\x80\x41", { 0x80, 'A' }, "128 is a character of its own" },
+        { "\x81\x41", { 0x8141 }, "from 129 on two bytes are one character" },
+        { "\x41\xFF\xFF\x41", { 'A', 0xFFFF, 'A' }, "any second byte" },
         { "A\x81", { 'A' }, "a lead byte at the end is dropped" },
     };
     for (const auto& [line, codes, why] : cases) {
@@ -131,7 +107,7 @@ TEST_F(TextImage, KeepsItsKeysSortedAndItsGlyphsRight)
 
         const CGlyph* glyph = text.GetGlyph(code);
         ASSERT_NE(glyph, nullptr);
-        ASSERT_EQ(GlyphCopy(*glyph), GlyphCopy(*reference.GetGlyph(code))) << code;
+        ASSERT_EQ(Contents(*glyph), Contents(*reference.GetGlyph(code))) << code;
         std::vector<uint32_t> expected(recent.begin(), recent.end());
         std::ranges::sort(expected);
         std::vector<uint32_t> codes;
@@ -142,17 +118,22 @@ TEST_F(TextImage, KeepsItsKeysSortedAndItsGlyphsRight)
     EXPECT_LT(text.clock, 200U) << "the counters are reduced";
 }
 
-TEST_F(TextImage, SkipsACharacterThatCannotBeRendered)
+TEST_F(TextImage, AsksTheFontOnceAndSkipsWhatItCannotRender)
 {
     Create(1);
-    Draw(5, "W");
+    const Pixels shown = Draw(5, "W");
     const HDC dc = text.dc;
-    text.dc = nullptr;
+    text.dc = nullptr; // any call to the font fails from here on
     lastError = ENGINE_NO_ERROR;
-    const auto blank = std::vector<uint16_t>(static_cast<size_t>(picture.pitch / 2 * picture.height));
+    EXPECT_EQ(Draw(5, "W"), shown);
+    EXPECT_EQ(lastError, ENGINE_NO_ERROR);
+    const Pixels blank(shown.size());
     EXPECT_EQ(Draw(5, "L"), blank);
     EXPECT_EQ(lastError, ENGINE_CREATE_CHAR);
     EXPECT_EQ(Draw(5, "L"), blank) << "the slot must not show the character that it held before";
     EXPECT_EQ(text.TextWidth("L"), 0);
     text.dc = dc;
+    EXPECT_FALSE(text.TextImageCreate(font, TEXT_GREY_LEVELS, 0));
+    EXPECT_EQ(lastError, ENGINE_CREATE_FONT);
+    EXPECT_EQ(Draw(5, "W"), blank) << "nothing was made";
 }
