@@ -66,20 +66,28 @@ void CSnake::SnakeClear()
 
 bool CSnake::SnakeProcess(CImage& pondPicture, int key)
 {
-    if (isPaused) {
-        SnakeDraw(pondPicture);
-        return true;
-    }
-    if (!isActive && !isDying && IsHeadOnGrid()) {
+    const bool coils = !isActive && !isDying && IsHeadOnGrid();
+    const bool runs = !isPaused && !coils && !isDying;
+    if (runs)
+        Run(key);
+    else if (coils && !isPaused)
         Coil();
-        SnakeDraw(pondPicture);
-        return true;
-    }
-    if (isDying) {
+    else if (!isPaused)
         StepDeath();
-        SnakeDraw(pondPicture);
-        return true;
+    SplashVanishing();
+    if (!isPaused)
+        StepEntry();
+    SnakeDraw(pondPicture);
+    if (runs) {
+        if (isActive && !isWaiting)
+            CheckHead();
+        RunEffects();
     }
+    return true;
+}
+
+void CSnake::Run(int key)
+{
     if (!isWaiting)
         ++movedFrames;
     ++frameCount;
@@ -88,11 +96,6 @@ bool CSnake::SnakeProcess(CImage& pondPicture, int key)
     TurnHead();
     if (!isWaiting)
         Move();
-    SnakeDraw(pondPicture);
-    if (isActive && !isWaiting)
-        CheckHead();
-    RunEffects();
-    return true;
 }
 
 void CSnake::SnakeCountCells(int* grid) const

@@ -103,7 +103,12 @@ private:
     void MakeWake();
     void TurnHead();
 
+    // Entry, the first segments' way onto the pond.
+    int EntryFrames() const;
+    void StepEntry();
+
     // Movement.
+    void Run(int key);
     bool IsHeadOnGrid() const;
     bool IsCloseToNext(int index) const;
     bool IsOnHead(int index) const;
@@ -131,6 +136,7 @@ private:
 
     // Death.
     int VanishedSegments() const;
+    void SplashVanishing();
     void StepDeath();
     void Respawn();
     void GoOut();
@@ -138,11 +144,8 @@ private:
     // Drawing.
     void SnakeDraw(CImage& pondPicture);
     void SnakeDrawHead(CImage& pondPicture);
-    void SplashVanishing();
     void DrawBody(CImage& pondPicture);
-    void StepEntry();
     int FirstVisibleSegment() const;
-    int EntryFrames() const;
 
     bool IsGone() const { return lives == 0 && isOut; }
     int Heading() const;

@@ -14,6 +14,18 @@ int CSnake::VanishedSegments() const
     return deathFrames >= FACE_FRAMES ? (deathFrames - FACE_FRAMES) / FRAMES_PER_SEGMENT : 0;
 }
 
+/// The dead snake bursts, segment after segment.
+void CSnake::SplashVanishing()
+{
+    if (!isDying || deathFrames < FACE_FRAMES)
+        return;
+    const int first = VanishedSegments();
+    if (first >= length)
+        return;
+    SoundPlay(SOUND_POP, false);
+    Splash(segments[first]);
+}
+
 void CSnake::StepDeath()
 {
     ++deathFrames;

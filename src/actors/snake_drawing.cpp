@@ -1,11 +1,6 @@
 #include "actors/snake.h"
 #include "actors/snake_rules.h"
 #include "game/geometry.h"
-#include "game/pond.h"
-#include "sound/sound.h"
-
-#include <algorithm>
-#include <iterator>
 
 namespace
 {
@@ -24,9 +19,6 @@ constexpr int headImages[][EXPRESSIONS] = {
     { 18, 19, 20, 21, 22, 23 },
 };
 
-/// The frames of a game at which the first player's snake drops the five blue berries of the start.
-constexpr int startBerryFrames[] = { 5, 15, 25, 35, 45 };
-
 /// Draws at a place of the pond and at the opposite edges, where a part of it may show as well.
 void DrawAround(CImage& image, CImage& pondPicture, int x, int y)
 {
@@ -35,13 +27,6 @@ void DrawAround(CImage& image, CImage& pondPicture, int x, int y)
     image.Draw(pondPicture, x, y - POND_SIZE);
     image.Draw(pondPicture, x - POND_SIZE, y - POND_SIZE);
 }
-}
-
-/// The frames that the five starting segments take to come onto the pond. Until then nothing wraps around: the snake
-/// must not show at the top while it enters from below.
-int CSnake::EntryFrames() const
-{
-    return START_LENGTH * (CELL_SIZE / speed);
 }
 
 int CSnake::FirstVisibleSegment() const
@@ -66,23 +51,8 @@ void CSnake::SnakeDrawShadow(CImage& pondPicture)
 
 void CSnake::SnakeDraw(CImage& pondPicture)
 {
-    SplashVanishing();
     DrawBody(pondPicture);
-    if (!isPaused)
-        StepEntry();
     SnakeDrawHead(pondPicture);
-}
-
-/// The dead snake bursts, segment after segment.
-void CSnake::SplashVanishing()
-{
-    if (!isDying || deathFrames < FACE_FRAMES)
-        return;
-    const int first = FirstVisibleSegment();
-    if (first >= length)
-        return;
-    SoundPlay(SOUND_POP, false);
-    Splash(segments[first]);
 }
 
 void CSnake::DrawBody(CImage& pondPicture)
@@ -99,18 +69,6 @@ void CSnake::DrawBody(CImage& pondPicture)
         if (wraps && segment.y > POND_SIZE - CELL_SIZE)
             bodyImage.Draw(pondPicture, segment.x, segment.y - POND_SIZE);
     }
-}
-
-/// The snake opens its mouth as it has come in, and the first berries fall.
-void CSnake::StepEntry()
-{
-    if (frameCount == EntryFrames() - speed)
-        eyeFrame = 1;
-    if (frameCount == EntryFrames())
-        eyeFrame = 0;
-    const auto* end = std::end(startBerryFrames);
-    if (player == 1 && std::find(std::begin(startBerryFrames), end, frameCount) != end)
-        pond->PlaceBerry(BLUE, RANDOM);
 }
 
 void CSnake::SnakeDrawHead(CImage& pondPicture)

@@ -77,11 +77,13 @@ private:
     void StatusBarNextLevel();
     void DropLevelBerries();
 
+    void AwardExtraLives();
+
     void StatusBarDraw(CImage& screen);
+    void StepFigures();
     void DrawPlayer(CImage& screen, int player);
     void DrawStreak(CImage& screen, int player);
     void DrawCensus(CImage& screen);
-    void AwardExtraLives();
     int ShownTarget() const;
     int ProgressHeight() const;
     void DrawProgress(CImage& screen);

@@ -1,7 +1,6 @@
 #include "actors/status_bar_items.h"
 
 #include "game/pond.h"
-#include "sound/sound.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -16,8 +15,6 @@ constexpr int BLINK_PERIOD = 25;
 constexpr int BLINK_SHOWN = 12;
 constexpr int WARNING_LENGTH = MAX_SEGMENTS - 1; ///< the next berry freezes the tail
 constexpr int WARNING_STREAK = 4;                ///< the next berry sets off the effect
-
-constexpr int POINTS_PER_LIFE = 5000;
 
 /// Where a player's figures stand.
 struct PlayerRow {
@@ -76,11 +73,14 @@ void CStatusBar::StatusBarDraw(CImage& screen)
         DrawStreak(screen, player);
     }
     DrawCensus(screen);
-    AwardExtraLives();
     const bool isOldLevelShown = countUp == 0 && IsAnyCoiling();
     DrawNumberCentred(screen, GOAL_X, LEVEL_Y, isOldLevelShown ? level - 1 : level);
     DrawNumberCentred(screen, GOAL_X, TARGET_Y, ShownTarget());
     DrawProgress(screen);
+}
+
+void CStatusBar::StepFigures()
+{
     if (countUp > 0)
         --countUp;
     ++lengthBlink;
@@ -124,22 +124,6 @@ void CStatusBar::DrawCensus(CImage& screen)
     for (const CensusRow& row : censusRows)
         DrawNumber(screen, row.x, row.y, WHITE, pond->CountBerries(row.colour));
     DrawNumber(screen, STONES_X, STONES_Y, WHITE, pond->CountStones());
-}
-
-void CStatusBar::AwardExtraLives()
-{
-    for (int player = 0; IsInGame(player); ++player) {
-        CSnake& snake = pond->snake[player];
-        if (snake.score == lifeMark[player] || snake.score / POINTS_PER_LIFE <= lifeMark[player] / POINTS_PER_LIFE)
-            continue;
-        SoundPlay(SOUND_LIFE_UP, false);
-        ++snake.lives;
-        int x = 0;
-        int y = 0;
-        if (snake.SnakeGetHead(x, y))
-            pond->ShowPopup(x, y, POPUP_LIFE_UP);
-        lifeMark[player] = snake.score;
-    }
 }
 
 /// Counts up from the old target to the new one.

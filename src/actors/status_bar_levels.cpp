@@ -3,6 +3,7 @@
 #include "game/geometry.h"
 #include "game/pond.h"
 #include "game/water.h"
+#include "sound/sound.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -13,6 +14,7 @@ constexpr int SLIDE_SPEED = 20;    ///< pixels a frame, downward
 constexpr int GATHER_SPEED = 2;    ///< of coiling snakes, pixels a frame
 constexpr int FRESH_BERRIES = 5;   ///< at a level's start
 constexpr int BERRY_INTERVAL = 10; ///< frames between them
+constexpr int POINTS_PER_LIFE = 5000;
 
 int RestingY(const CMenu& panel)
 {
@@ -128,6 +130,22 @@ void CStatusBar::DropLevelBerries()
     if (berryCountdown % BERRY_INTERVAL == 0)
         pond->PlaceBerry(RANDOM, RANDOM);
     --berryCountdown;
+}
+
+void CStatusBar::AwardExtraLives()
+{
+    for (int player = 0; IsInGame(player); ++player) {
+        CSnake& snake = pond->snake[player];
+        if (snake.score / POINTS_PER_LIFE <= lifeMark[player] / POINTS_PER_LIFE)
+            continue;
+        SoundPlay(SOUND_LIFE_UP, false);
+        ++snake.lives;
+        int x = 0;
+        int y = 0;
+        if (snake.SnakeGetHead(x, y))
+            pond->ShowPopup(x, y, POPUP_LIFE_UP);
+        lifeMark[player] = snake.score;
+    }
 }
 
 void CStatusBar::StatusBarGameOver()

@@ -43,6 +43,8 @@ void CStatusBar::StatusBarProcess(CImage& screen)
     if (!pond->snake[0].isPaused) {
         leftPanel.MenuProcess(screen);
         StatusBarDraw(screen);
+        StepFigures();
+        AwardExtraLives();
     }
     for (CMenu* panel : Panels()) {
         if (panel != &leftPanel)

@@ -85,17 +85,26 @@ bool CPond::GameFrame(CImage& pondPicture, int key)
     }
     StepShockwave();
     CheckLevel();
+    CountDay();
     DrawBackground(pondPicture);
+    StepTransition();
     DrawEndFade(pondPicture);
+    StepEndFade();
     if (DrawIntro(pondPicture))
         return true;
     DrawSnakeShadows(pondPicture);
     DrawPondObjects(pondPicture);
+    SplashLandedBerries();
+    StepLasers();
     ProcessSnakes(pondPicture, key);
+    FadeMoon();
     DrawMoon(pondPicture);
+    RaiseMoon();
     WaterFrame(pondPicture.pixels, 0, 0, POND_SIZE, POND_SIZE, backBuffer.pixels, POND_LEFT, 0, backBuffer.pitch);
     DrawPopups(backBuffer);
+    RaisePopups();
     DrawGrowingBerries(backBuffer);
+    GrowBerries();
     DrawArrows(backBuffer);
     statusBar.StatusBarProcess(backBuffer);
     PlayAmbience();

@@ -111,32 +111,38 @@ private:
     void StartShockwave(int x, int y, int maxRadius);
     void StepShockwave();
     void StrikeRingPoint(int x, int y, int radius);
-    void StepLasers(CImage& pondPicture);
-    void StepFlight(Laser& laser, CImage& pondPicture);
-    void StepBurst(Laser& laser, CImage& pondPicture);
+    void StepLasers();
+    void StepFlight(Laser& laser);
+    void StepBurst(Laser& laser);
     void HitCell(Cell& cell);
 
     // Objects
     void DrawPondObjects(CImage& pondPicture);
     void DrawObjectShadows(CImage& pondPicture);
     void DrawLandedObjects(CImage& pondPicture);
-    void DrawRipeBerry(Cell& cell, CImage& pondPicture);
     void DrawStartHighlight(CImage& pondPicture);
+    void DrawLasers(CImage& pondPicture);
+    void SplashLandedBerries();
     void DrawGrowingBerries(CImage& screen);
+    void GrowBerries();
     void DrawPopups(CImage& screen);
+    void RaisePopups();
 
     // Scenery
+    void CountDay();
     void DrawBackground(CImage& pondPicture);
-    void DrawDusk(CImage& pondPicture);
-    void DrawNight(CImage& pondPicture);
-    void DrawDawn(CImage& pondPicture);
+    void StepTransition();
     bool MakeNightBackground();
     void DrawDarkenedDay(CImage& target, int opacity);
     void DrawSnakeLights(CImage& pondPicture);
     bool DimLight(CImage& light) const;
     void DrawEndFade(CImage& pondPicture);
+    void StepEndFade();
     bool DrawIntro(CImage& pondPicture);
+    CImage& Moon();
+    void FadeMoon();
     void DrawMoon(CImage& pondPicture);
+    void RaiseMoon();
 
     // Resources
     std::array<std::span<CImage>, POND_IMAGE_SETS> ImageSets();

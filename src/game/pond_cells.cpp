@@ -1,6 +1,7 @@
 #include "game/pond.h"
 
 #include "app/random.h"
+#include "game/water.h"
 #include "sound/sound.h"
 
 #include <algorithm>
@@ -46,6 +47,35 @@ void CPond::PlaceBerry(int colour, int cell)
     chosen.growth = GROWTH_START;
     chosen.splashed = false;
     RecordHighlight(cell);
+}
+
+/// The picture of a falling berry changes every two frames; with the last one it has landed.
+void CPond::GrowBerries()
+{
+    for (Cell& cell : cells) {
+        if (!cell.IsFalling())
+            continue;
+        if (cell.growth / 2 == 1) {
+            cell.growth = 0;
+            cell.ripe = true;
+        } else {
+            --cell.growth;
+        }
+    }
+}
+
+/// Every ripe berry once, in the first frame after it has landed or was made from a stone.
+void CPond::SplashLandedBerries()
+{
+    for (Cell& cell : cells) {
+        if (!cell.IsRipeBerry() || cell.splashed)
+            continue;
+        cell.splashed = true;
+        SplashCell(cell.x, cell.y, BERRY_SPLASH);
+        SoundStop(
+            SOUND_DROP); // its place is kept: a drop that still sounds goes on, an ended one starts from the front
+        SoundPlay(SOUND_DROP, false);
+    }
 }
 
 /// The first cell from `start` on, wrapping around, that is empty and far from every head; `start` if there is none.

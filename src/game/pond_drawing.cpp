@@ -1,10 +1,6 @@
 #include "game/pond.h"
 
-#include "game/water.h"
 #include "gfx/blit.h"
-#include "sound/sound.h"
-
-#include <algorithm>
 
 int32_t blinkCounter = 0;
 
@@ -12,11 +8,8 @@ namespace
 {
 constexpr int BLINK_FRAMES = 10; ///< shown during the first half
 constexpr int LANDED_SHADOW = 8; ///< pixels down and right of a landed object
-
-// Popups: opacity at the start, and what it loses and they rise in a frame.
-constexpr int POPUP_OPACITY = 255;
-constexpr int POPUP_FADE = 10;
-constexpr int POPUP_RISE = 2;
+constexpr int FLIGHT_OFFSET = 7; ///< flight pictures are 30 pixels wide, a cell 16
+constexpr int FALLING_FADE = 9;  ///< opacity that each frame of growth still to come takes: just short of all at 28
 }
 
 void CPond::DrawPondObjects(CImage& pondPicture)
@@ -24,7 +17,7 @@ void CPond::DrawPondObjects(CImage& pondPicture)
     DrawObjectShadows(pondPicture);
     DrawLandedObjects(pondPicture);
     DrawStartHighlight(pondPicture);
-    StepLasers(pondPicture);
+    DrawLasers(pondPicture);
 }
 
 /// A falling berry's shadow closes in. An object down right hides the shadow; for the last column that is, in index
@@ -43,23 +36,10 @@ void CPond::DrawObjectShadows(CImage& pondPicture)
 
 void CPond::DrawLandedObjects(CImage& pondPicture)
 {
-    for (Cell& cell : cells) {
-        if (cell.IsRipeBerry())
-            DrawRipeBerry(cell, pondPicture);
-        else if (cell.IsStone())
-            objectImages[STONE_IMAGE].Draw(pondPicture, cell.x, cell.y);
+    for (const Cell& cell : cells) {
+        if (cell.IsLanded())
+            objectImages[cell.ripe ? cell.colour : STONE_IMAGE].Draw(pondPicture, cell.x, cell.y);
     }
-}
-
-void CPond::DrawRipeBerry(Cell& cell, CImage& pondPicture)
-{
-    objectImages[cell.colour].Draw(pondPicture, cell.x, cell.y);
-    if (cell.splashed)
-        return;
-    cell.splashed = true;
-    SplashCell(cell.x, cell.y, BERRY_SPLASH);
-    SoundStop(SOUND_DROP); // its place is kept: a drop that still sounds goes on, an ended one starts from the front
-    SoundPlay(SOUND_DROP, false);
 }
 
 /// The berries blink by being added to themselves.
@@ -77,42 +57,40 @@ void CPond::DrawStartHighlight(CImage& pondPicture)
     ++blinkCounter;
 }
 
-/// Falling berries come into focus for 26 frames, then land.
-void CPond::DrawGrowingBerries(CImage& screen)
+void CPond::DrawLasers(CImage& pondPicture)
 {
-    for (Cell& cell : cells) {
-        if (!cell.occupied || cell.growth < 1)
+    for (const Laser& laser : lasers) {
+        if (!laser.active)
             continue;
-        const int frame = GROWTH_FRAMES - cell.growth / 2;
-        CImage& image = growthImages[cell.colour * GROWTH_FRAMES + frame];
-        image.opacity = 255 - 9 * cell.growth;
-        image.Draw(screen, cell.x + POND_LEFT, cell.y);
-        if (cell.growth / 2 == 1) {
-            cell.growth = 0;
-            cell.ripe = true;
-        } else {
-            --cell.growth;
+        if (!laser.hit) {
+            laserImages[laser.frame].Draw(pondPicture, laser.x - FLIGHT_OFFSET, laser.y - FLIGHT_OFFSET);
+            continue;
         }
+        CImage& image = laserImages[LASER_FLIGHT_IMAGES + laser.frame % LASER_BURST_IMAGES];
+        image.Draw(pondPicture, laser.x - (image.width - CELL_SIZE) / 2, laser.y - (image.height - CELL_SIZE) / 2);
     }
 }
 
-void CPond::ShowPopup(int x, int y, int kind)
+/// Falling berries come into focus and out of the haze.
+void CPond::DrawGrowingBerries(CImage& screen)
 {
-    Popup* slot = std::ranges::find(popups, false, &Popup::active);
-    if (slot != std::end(popups))
-        *slot = { .active = true, .x = x, .y = y, .kind = kind, .opacity = POPUP_OPACITY };
+    for (const Cell& cell : cells) {
+        if (!cell.IsFalling())
+            continue;
+        const int frame = GROWTH_FRAMES - cell.growth / 2;
+        CImage& image = growthImages[cell.colour * GROWTH_FRAMES + frame];
+        image.opacity = 255 - FALLING_FADE * cell.growth;
+        image.Draw(screen, cell.x + POND_LEFT, cell.y);
+    }
 }
 
 void CPond::DrawPopups(CImage& screen)
 {
-    for (Popup& popup : popups) {
+    for (const Popup& popup : popups) {
         if (!popup.active)
             continue;
         CImage& image = popupImages[popup.kind];
         image.opacity = popup.opacity;
         image.Draw(screen, popup.x + POND_LEFT, popup.y);
-        popup.opacity -= POPUP_FADE;
-        popup.y -= POPUP_RISE;
-        popup.active = popup.opacity >= 0;
     }
 }

@@ -9,7 +9,6 @@
 
 namespace
 {
-constexpr int FLIGHT_OFFSET = 7; ///< flight pictures are 30 pixels wide, a cell 16
 constexpr int BURST_FRAMES = 20;
 constexpr int GOLDEN_RING_RADIUS = 64;
 constexpr int RING_STEP = 3; ///< pixels a frame
@@ -64,22 +63,21 @@ void CPond::FireLaser(int x, int y, int heading)
         *slot = { .active = true, .x = x, .y = y, .heading = heading };
 }
 
-void CPond::StepLasers(CImage& pondPicture)
+void CPond::StepLasers()
 {
     for (Laser& laser : lasers) {
         if (!laser.active)
             continue;
         if (laser.hit)
-            StepBurst(laser, pondPicture);
+            StepBurst(laser);
         else
-            StepFlight(laser, pondPicture);
+            StepFlight(laser);
     }
 }
 
 /// One cell further. Lasers do not wrap around the pond's edges, and fly over growing berries.
-void CPond::StepFlight(Laser& laser, CImage& pondPicture)
+void CPond::StepFlight(Laser& laser)
 {
-    laserImages[laser.frame].Draw(pondPicture, laser.x - FLIGHT_OFFSET, laser.y - FLIGHT_OFFSET);
     laser.frame = (laser.frame + 1) % LASER_FLIGHT_IMAGES;
     MoveLaser(laser);
     if (!IsOnPond(laser.x, laser.y)) {
@@ -108,11 +106,8 @@ void CPond::HitCell(Cell& cell)
 }
 
 /// The counter runs on from the flight's, so a burst is up to three frames shorter than BURST_FRAMES.
-void CPond::StepBurst(Laser& laser, CImage& pondPicture)
+void CPond::StepBurst(Laser& laser)
 {
-    constexpr int burstImages = LASER_IMAGES - LASER_FLIGHT_IMAGES;
-    CImage& image = laserImages[LASER_FLIGHT_IMAGES + laser.frame % burstImages];
-    image.Draw(pondPicture, laser.x - (image.width - CELL_SIZE) / 2, laser.y - (image.height - CELL_SIZE) / 2);
     ++laser.frame;
     if (laser.frame == BURST_FRAMES)
         laser.active = false;

@@ -9,6 +9,7 @@ constexpr int OBJECT_IMAGES = 7; ///< six berries by colour, then the stone
 constexpr int STONE_IMAGE = 6;
 constexpr int LASER_IMAGES = 8;
 constexpr int LASER_FLIGHT_IMAGES = 4; ///< then the burst
+constexpr int LASER_BURST_IMAGES = LASER_IMAGES - LASER_FLIGHT_IMAGES;
 constexpr int POPUP_IMAGES = 8;
 constexpr int GROWTH_FRAMES = 14; ///< falling-berry images per colour
 constexpr int GROWTH_IMAGES = GROWTH_FRAMES * ORDINARY_COLOURS;

@@ -16,6 +16,7 @@ struct Cell {
     bool splashed = false; ///< a ripe berry's landing splash has been made
 
     bool IsStone() const { return occupied && !ripe && growth == 0; }
+    bool IsFalling() const { return occupied && growth > 0; }
     bool IsRipeBerry() const { return occupied && ripe; }
     /// A stone or a ripe berry: what lasers and shock wave strike.
     bool IsLanded() const { return occupied && growth == 0; }

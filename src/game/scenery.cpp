@@ -44,47 +44,34 @@ void DrawWrapped(CImage& light, CImage& target, int x, int y)
 }
 }
 
-void CPond::DrawBackground(CImage& pondPicture)
+void CPond::CountDay()
 {
     ++dayTimer;
     if (dayTimer == DAY_FRAMES) {
         transition = TRANSITION_FRAMES;
         dayTimer = 0;
     }
-    if (transition != 0 && isDay)
-        DrawDusk(pondPicture);
-    else if (transition != 0)
-        DrawDawn(pondPicture);
-    else if (isDay)
-        dayBackground.Draw(pondPicture);
+}
+
+void CPond::DrawBackground(CImage& pondPicture)
+{
+    const int brightness = isDay ? transition : TRANSITION_FRAMES - transition; // of a dusk or dawn
+    if (transition != 0)
+        DrawDarkenedDay(pondPicture, NIGHT_OPACITY + 4 * brightness);
     else
-        DrawNight(pondPicture);
+        (isDay ? dayBackground : nightBackground).Draw(pondPicture);
+    if (transition != 0 || !isDay)
+        DrawSnakeLights(pondPicture);
 }
 
-/// Darkens frame by frame to the night picture. The lights are those of the frame's end: undimmed in the last.
-void CPond::DrawDusk(CImage& pondPicture)
+/// Day and night change with the last frame of a dusk or dawn.
+void CPond::StepTransition()
 {
-    DrawDarkenedDay(pondPicture, NIGHT_OPACITY + 4 * transition);
-    --transition;
-    DrawSnakeLights(pondPicture);
     if (transition == 0)
-        isDay = false;
-}
-
-void CPond::DrawNight(CImage& pondPicture)
-{
-    nightBackground.Draw(pondPicture);
-    DrawSnakeLights(pondPicture);
-}
-
-/// Brightens from the night picture. The lights are those of the frame's start: undimmed in the first.
-void CPond::DrawDawn(CImage& pondPicture)
-{
-    DrawDarkenedDay(pondPicture, NIGHT_OPACITY + 4 * (TRANSITION_FRAMES - transition));
-    DrawSnakeLights(pondPicture);
+        return;
     --transition;
     if (transition == 0)
-        isDay = true;
+        isDay = !isDay;
 }
 
 bool CPond::MakeNightBackground()
@@ -118,20 +105,25 @@ void CPond::DrawSnakeLights(CImage& pondPicture)
     }
 }
 
-/// The lights grow during a dusk and wane during a dawn.
+/// The lights grow during a dusk, up to its last frame, and wane during a dawn, from its second on.
 bool CPond::DimLight(CImage& light) const
 {
     if (transition == 0)
         return true;
-    return SubtractGrey(light, 5 * (isDay ? transition : TRANSITION_FRAMES - transition));
+    return SubtractGrey(light, 5 * (isDay ? transition - 1 : TRANSITION_FRAMES - transition));
 }
 
 /// The end of a game: the background sinks into black, by night from the night picture.
 void CPond::DrawEndFade(CImage& pondPicture)
 {
+    if (!gameOver && fadeOut > 0)
+        DrawDarkenedDay(pondPicture, isDay ? 2 * fadeOut : NIGHT_OPACITY * fadeOut / FADE_OUT_START);
+}
+
+void CPond::StepEndFade()
+{
     if (gameOver || fadeOut <= 0)
         return;
-    DrawDarkenedDay(pondPicture, isDay ? 2 * fadeOut : NIGHT_OPACITY * fadeOut / FADE_OUT_START);
     fadeOut -= 2;
     if (fadeOut < 0) {
         fadeOut = 0;
@@ -155,8 +147,14 @@ bool CPond::DrawIntro(CImage& pondPicture)
     return true;
 }
 
-/// The moon rises at night from below the pond, fades in, stays, and fades out near the top. The two take turns.
-void CPond::DrawMoon(CImage& pondPicture)
+/// The moon of this night; the two take turns.
+CImage& CPond::Moon()
+{
+    return moonImages[scenery.moonToggle ? 0 : 1];
+}
+
+/// At night a moon rises from below the pond, fades in, stays, and fades out near the top.
+void CPond::FadeMoon()
 {
     if (isDay)
         return;
@@ -166,11 +164,21 @@ void CPond::DrawMoon(CImage& pondPicture)
         moonImages[0].opacity = 0;
         moonImages[1].opacity = 0;
     }
-    CImage& moon = moonImages[scenery.moonToggle ? 0 : 1];
+    CImage& moon = Moon();
     if (scenery.moonY >= POND_SIZE / 2 && scenery.moonY <= POND_SIZE && moon.opacity < MOON_OPACITY)
         ++moon.opacity;
     else if (scenery.moonY < MOON_FADE_Y && moon.opacity >= 1)
         --moon.opacity;
-    moon.Draw(pondPicture, (POND_SIZE - MOON_SIZE) / 2, scenery.moonY);
-    scenery.moonY -= 2;
+}
+
+void CPond::DrawMoon(CImage& pondPicture)
+{
+    if (!isDay)
+        Moon().Draw(pondPicture, (POND_SIZE - MOON_SIZE) / 2, scenery.moonY);
+}
+
+void CPond::RaiseMoon()
+{
+    if (!isDay)
+        scenery.moonY -= 2;
 }

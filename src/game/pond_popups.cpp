@@ -1,0 +1,29 @@
+#include "game/pond.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace
+{
+constexpr int POPUP_OPACITY = 255; ///< at the start
+constexpr int POPUP_FADE = 10;     ///< a frame
+constexpr int POPUP_RISE = 2;      ///< pixels a frame
+}
+
+void CPond::ShowPopup(int x, int y, int kind)
+{
+    Popup* slot = std::ranges::find(popups, false, &Popup::active);
+    if (slot != std::end(popups))
+        *slot = { .active = true, .x = x, .y = y, .kind = kind, .opacity = POPUP_OPACITY };
+}
+
+void CPond::RaisePopups()
+{
+    for (Popup& popup : popups) {
+        if (!popup.active)
+            continue;
+        popup.opacity -= POPUP_FADE;
+        popup.y -= POPUP_RISE;
+        popup.active = popup.opacity >= 0;
+    }
+}
