@@ -2,26 +2,6 @@
 
 #include <gtest/gtest.h>
 
-TEST(StatusBar, GivesALifeAtEachFiveThousandPoints)
-{
-    TestGame game(1, 1);
-    CPond& pond = game.pond;
-    CSnake& second = pond.snake[1];
-    second.lives = 2;
-    pond.introFrames = 31;
-    const struct {
-        int score, lives;
-    } steps[] = { { 4999, 2 }, { 5000, 3 }, { 5000, 3 }, { 9995, 3 }, { 10015, 4 }, { 10020, 4 }, { 15000, 5 } };
-    for (const auto& [score, lives] : steps) {
-        pond.popups[0] = {};
-        const bool isAwarded = lives > second.lives;
-        second.score = score;
-        game.Frame(0);
-        EXPECT_EQ(second.lives, lives) << score;
-        EXPECT_EQ(pond.popups[0].active && pond.popups[0].kind == POPUP_LIFE_UP, isAwarded) << score;
-    }
-}
-
 TEST(StatusBar, AddsUpTwoScoresAndRaisesTheTargetByMoreEachLevel)
 {
     TestGame game(1, 1);

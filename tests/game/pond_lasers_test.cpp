@@ -4,23 +4,6 @@ namespace
 {
 using PondLasers = PondTest;
 
-TEST_F(PondLasers, EndAtThePondsEdgesAndFillTwoSlots)
-{
-    pond.FireLaser(32, 160, HEADING_LEFT);
-    pond.FireLaser(432, 160, HEADING_RIGHT);
-    pond.FireLaser(160, 160, HEADING_UP); // no slot left
-    MakeStone(CellIn(10, 9));
-    MakeStone(CellIn(29, 9)); // where a laser wrapping around would come in
-    MakeStone(CellIn(0, 11));
-    Play(2);
-    EXPECT_TRUE(pond.lasers[0].active);
-    EXPECT_TRUE(pond.lasers[1].active);
-    Play(1);
-    EXPECT_FALSE(pond.lasers[0].active);
-    EXPECT_FALSE(pond.lasers[1].active);
-    EXPECT_EQ(pond.CountStones(), 3);
-}
-
 struct RingCase {
     int column, row;
     bool struck;

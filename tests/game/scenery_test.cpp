@@ -41,29 +41,4 @@ TEST_F(Scenery, LightsGrowAtDuskAndWaneAtDawn)
     }
 }
 
-struct MoonCase {
-    int y;
-    uint32_t opacity;
-    uint32_t nextOpacity;
-};
-
-TEST_F(Scenery, MoonFadesInBelowTheMiddleAndOutNearTheTop)
-{
-    constexpr MoonCase cases[] = {
-        { 482, 0, 0 }, { 480, 0, 1 },   { 240, 79, 80 }, { 240, 80, 80 },
-        { 239, 7, 7 }, { 101, 80, 80 }, { 100, 80, 79 }, { 100, 0, 0 },
-    };
-    for (const MoonCase& moon : cases) {
-        scenery.moonY = moon.y;
-        pond.moonImages[1].opacity = moon.opacity;
-        pond.isDay = true;
-        Play(1);
-        EXPECT_EQ(scenery.moonY, moon.y) << "it moves by night only";
-        pond.isDay = false;
-        Play(1);
-        EXPECT_EQ(scenery.moonY, moon.y - 2);
-        EXPECT_EQ(pond.moonImages[1].opacity, moon.nextOpacity) << moon.y;
-    }
-}
-
 }

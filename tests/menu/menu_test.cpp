@@ -127,41 +127,6 @@ TEST_F(Menu, ItemsFollowTheMouseAndTheirState)
     EXPECT_FALSE(menu.FindButton(7)->clicked) << "a click lasts one frame, hidden or not";
 }
 
-TEST_F(Menu, SoundsOnceForEachButtonTheMouseComesToAndForAPress)
-{
-    AddButton(1, 20);
-    AddButton(2, 40);
-    AddButton(3, 45); // over the second: the last one wins
-    directX.TakeCalls();
-    const struct {
-        int x, hovered;
-        bool sounds;
-    } moves[] = { { 25, 1, true }, { 26, 1, false },  { 42, 2, true },
-                  { 47, 3, true }, { 90, -1, false }, { 47, 3, true } };
-    for (const auto& [x, hovered, sounds] : moves) {
-        Process(x, 35);
-        EXPECT_EQ(menu.hoveredButton, hovered) << x;
-        EXPECT_EQ(directX.TakeCalls(), sounds ? "Stop 0, Play 0 0" : "") << x;
-    }
-    Process(47, 35, true);
-    EXPECT_EQ(directX.TakeCalls(), "Stop 1, Play 1 0");
-    EXPECT_EQ(Process(47, 35, false, 45), HOVER); // the press is taken
-    EXPECT_FALSE(menu.FindButton(3)->clicked);
-    EXPECT_EQ(directX.TakeCalls(), "");
-}
-
-TEST_F(Menu, ChecksOneToggleOfAGroup)
-{
-    AddToggle(0, 5, 0);
-    AddToggle(1, 5, 20);
-    AddToggle(2, 6, 40);
-    menu.FindToggle(0)->checked = menu.FindToggle(2)->checked = true;
-    Process(25, 35, true);
-    EXPECT_EQ(Process(90, 90), PRESSED);
-    EXPECT_EQ(Process(90, 90, false, 0), IMAGE);
-    EXPECT_TRUE(menu.FindToggle(2)->checked) << "another group";
-}
-
 TEST_F(Menu, TakesTypedText)
 {
     const struct {
@@ -259,16 +224,4 @@ TEST_F(Menu, CutsATextToItsRoom)
             }
         }
     }
-}
-
-TEST_F(Menu, HoldsNoMoreItemsThanItHasRoomFor)
-{
-    for (int i = 0; i < 40; ++i) {
-        EXPECT_EQ(menu.AddButton(i % 2, 0, 0, 1, 1, nullptr, nullptr, nullptr, -1, -1), i < 16);
-        EXPECT_EQ(menu.AddToggle(i % 2, 0, 0, 0, 1, 1, nullptr, nullptr, nullptr, -1, -1), i < 16);
-        EXPECT_EQ(menu.AddText(i % 2, 0, 0, 1, 1, nullptr, &text, 0, 0, 0, 0, 6), i < 20);
-    }
-    EXPECT_EQ(menu.FindButton(1), &menu.buttons[1]) << "the first of that id";
-    ASSERT_TRUE(menu.MenuCreate(0, 0, nullptr));
-    EXPECT_EQ(menu.FindButton(1), nullptr) << "creating it anew replaces its items";
 }

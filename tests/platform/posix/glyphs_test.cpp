@@ -83,20 +83,6 @@ TEST_P(Glyphs, AreTightBoxesWithinTheCell)
 }
 INSTANTIATE_TEST_SUITE_P(TheGamesFonts, Glyphs, testing::Values(std::pair(13, 5), std::pair(18, 6)));
 
-TEST(Glyphs, SpreadOutWithTheWidthAskedFor)
-{
-    Font narrow(18, 6);
-    Font wide(18, 12);
-    int narrowWidth = 0;
-    int wideWidth = 0;
-    for (const char c : std::string("abcdefghijklmnopqrstuvwxyz")) {
-        narrowWidth += narrow.Get(static_cast<UINT>(c)).metrics.gmCellIncX;
-        wideWidth += wide.Get(static_cast<UINT>(c)).metrics.gmCellIncX;
-    }
-    EXPECT_NEAR(wideWidth, 2 * narrowWidth, 13); // half a pixel a letter
-    EXPECT_EQ(narrow.Get('H').metrics.gmBlackBoxY, wide.Get('H').metrics.gmBlackBoxY);
-}
-
 TEST(Glyphs, StayWithinTheBuffer)
 {
     Font font(13, 5, "No Such Face Anywhere"); // a near relative does

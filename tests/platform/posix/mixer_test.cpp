@@ -167,17 +167,6 @@ TEST_F(MixerTest, StopsAndGoesOnWithoutAClick)
     EXPECT_LE(WidestStep(resumed, 0), 16000 / Mixer::FULL_GAIN + 1);
 }
 
-TEST_F(MixerTest, TakesAStopBackThatWasNeverHeard)
-{
-    Voice& voice = Add(Ramp(1000, 1));
-    for (int i = 0; i < 2; ++i) {
-        mixer.Play(voice, false);
-        mixer.Stop(voice);
-        mixer.Play(voice, false);
-        EXPECT_EQ(MixMono(100), Ramp(100, 1 + 100 * i));
-    }
-}
-
 TEST_F(MixerTest, PlayingWhatPlaysOnlyChangesWhetherItLoops)
 {
     Voice& voice = Play({ 1, 2, 3 }, true);

@@ -220,17 +220,6 @@ TEST_F(RegistryTest, LeavesWhatItMayNotReadOrReplace)
     }
 }
 
-TEST_F(RegistryTest, RefusesWhatIsNoFile)
-{
-    fs::create_directories(folder.Path() + "/" + FILE_NAME);
-    EXPECT_NE(Save("v", { REG_SZ, "new" }), 0);
-    EXPECT_TRUE(fs::is_directory(folder.Path() + "/" + FILE_NAME));
-
-    fs::remove(folder.Path() + "/" + FILE_NAME);
-    ASSERT_EQ(mkfifo((folder.Path() + "/" + FILE_NAME).c_str(), 0600), 0);
-    EXPECT_NE(Save("v", { REG_SZ, "new" }), 0) << "and does not wait for a writer";
-}
-
 TEST_F(RegistryTest, AFullDiskLosesNothing)
 {
     ASSERT_EQ(Save("v", { REG_SZ, "old" }), 0);
@@ -289,20 +278,6 @@ TEST_F(RegistryTest, KeepsALinkToTheFile)
         EXPECT_TRUE(fs::is_symlink(folder.Path() + "/" + FILE_NAME)) << target;
         EXPECT_EQ(folder.Read("dotfiles/" + fs::path(target).filename().string()), "v = \"new\"\n");
     }
-}
-
-TEST_F(RegistryTest, SavesBesideAForeignLock)
-{
-    ASSERT_EQ(Save("v", { REG_SZ, "old" }), 0);
-    const int locked = open((folder.Path() + "/config/Tervalis").c_str(), O_RDONLY | O_DIRECTORY);
-    ASSERT_EQ(flock(locked, LOCK_EX), 0);
-    folder.Write(DRAFT_NAME, "somebody's");
-    const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(Save("v", { REG_SZ, "new" }), 0);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
-    EXPECT_EQ(Load("v"), (Stored{ REG_SZ, "new" }));
-    EXPECT_EQ(folder.Read(DRAFT_NAME), "somebody's");
-    close(locked);
 }
 
 TEST_F(RegistryTest, FindsTheFolderOfTheUser)

@@ -157,17 +157,6 @@ TEST_F(GdiDisplayTest, ShowsThePartThatLiesInTheWindow)
     EXPECT_EQ(Set(700, 0, 2, 3, 1, pixels, picture), 3) << "wholly outside is no failure";
 }
 
-TEST_F(GdiDisplayTest, RefusesWhatItCannotShow)
-{
-    const uint16_t pixels[16] = {};
-    BitmapDescription picture = Rgb565Picture(4, 4);
-    picture.masks[1] = 0x03E0;
-    EXPECT_EQ(Set(0, 0, 4, 4, 0, pixels, picture), 0) << "five bits of green";
-    EXPECT_EQ(Set(0, 0, 4, 4, 0, nullptr, Rgb565Picture(4, 4)), 0);
-    DestroyWindow(window);
-    EXPECT_EQ(Set(0, 0, 4, 4, 0, pixels, Rgb565Picture(4, 4)), 0) << "no window any more";
-}
-
 TEST_F(GdiDisplayTest, ShowsNothingWithoutTheFocusButTheLastFrameWhenUncovered)
 {
     const uint16_t pixel[] = { RED, 0 };
@@ -224,13 +213,4 @@ TEST_F(DirectDrawTest, FailsStepByStep)
     EXPECT_NE(directDraw->SetDisplayMode(640, 480, 32), DD_OK) << "frames have 16 bits";
     directDraw->SetCooperativeLevel(window, DDSCL_NORMAL);
     EXPECT_NE(directDraw->SetDisplayMode(640, 480, 16), DD_OK) << "the screen is not ours";
-}
-
-TEST_F(DirectDrawTest, SurvivesTheWindowsEnd)
-{
-    EnterFullScreen();
-    DestroyWindow(window);
-    EXPECT_NE(primary->Blt(nullptr, back, nullptr, DDBLT_WAIT, nullptr), DD_OK);
-    back->Release();
-    primary->Release();
 }

@@ -64,22 +64,6 @@ TEST_F(WindowTest, ClosesThroughTheProcedure)
     EXPECT_FALSE(DestroyWindow(window));
 }
 
-TEST_F(WindowTest, ClosesOnAltF4)
-{
-    PushKey(true, SDL_SCANCODE_F4, SDLK_F4, KMOD_LALT);
-    EXPECT_TRUE(RunMessages());
-    EXPECT_EQ(received.back().message, WM_DESTROY);
-}
-
-TEST_F(WindowTest, GivesTheExitCodeWithTheQuitMessage)
-{
-    DestroyWindow(window);
-    MSG message = {};
-    EXPECT_FALSE(GetMessageA(&message, nullptr, 0, 0));
-    EXPECT_EQ(message.wParam, 7u);
-    EXPECT_FALSE(PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE)) << "it comes once";
-}
-
 TEST_F(WindowTest, TurnsMaximisingIntoACommand)
 {
     PushWindowEvent(SDL_WINDOWEVENT_MAXIMIZED);
@@ -87,26 +71,6 @@ TEST_F(WindowTest, TurnsMaximisingIntoACommand)
     ASSERT_EQ(Messages(), Sequence({ WM_SYSCOMMAND }));
     EXPECT_EQ(received[0].wParam, SC_MAXIMIZE);
     EXPECT_EQ(SDL_GetWindowFlags(nativeWindow.handle) & SDL_WINDOW_MAXIMIZED, 0u);
-}
-
-TEST_F(WindowTest, KnowsWhetherItHasTheFocus)
-{
-    PushWindowEvent(SDL_WINDOWEVENT_FOCUS_LOST);
-    RunMessages();
-    EXPECT_FALSE(WindowHasFocus());
-    PushWindowEvent(SDL_WINDOWEVENT_FOCUS_GAINED);
-    RunMessages();
-    EXPECT_TRUE(WindowHasFocus());
-    EXPECT_EQ(Messages(), Sequence({ WM_KILLFOCUS, WM_SETFOCUS }));
-}
-
-TEST_F(WindowTest, ShowsAndHidesTheCursor)
-{
-    const HCURSOR arrow = LoadCursorA(nullptr, IDC_ARROW);
-    SetCursor(nullptr);
-    EXPECT_EQ(SDL_ShowCursor(SDL_QUERY), SDL_DISABLE);
-    EXPECT_EQ(SetCursor(arrow), nullptr);
-    EXPECT_EQ(SDL_ShowCursor(SDL_QUERY), SDL_ENABLE);
 }
 
 TEST_F(WindowTest, WritesMessageBoxesOutWhereNobodySeesThem)
