@@ -9,7 +9,8 @@ namespace
 {
 /// Events, and what the game sees of them frame by frame. "L+5", "L-5": the left button at x = 5; "M9": a move there;
 /// "w+", "w*", "w-": a key with its character goes down, repeats, goes up; "F": the focus goes.
-/// Seen are the mouse's place where it was heard of, "L" while the button is down, the last key and character.
+/// Seen are the mouse's place where it was heard of, "L" while the button is down, the last key and character, and
+/// "-W" for a key that was let go.
 struct PacingCase {
     const char* events;
     std::vector<std::string> seen;
@@ -45,7 +46,7 @@ protected:
         std::string place;
         std::string key;
         std::string character;
-        std::string focus;
+        std::string rest;
         for (const Received& one : received) {
             if (one.message >= WM_MOUSEMOVE)
                 place = std::to_string(LOWORD(one.lParam));
@@ -56,11 +57,13 @@ protected:
             if (one.message == WM_CHAR)
                 character = static_cast<char>(one.wParam);
             if (one.message == WM_KILLFOCUS)
-                focus = "F";
+                rest += "F";
+            if (one.message == WM_KEYUP)
+                rest += { '-', static_cast<char>(one.wParam) };
         }
         received.clear();
         EndFrameOfMessages();
-        return place + (isLeftDown ? "L" : "") + key + character + focus;
+        return place + (isLeftDown ? "L" : "") + key + character + rest;
     }
 
     bool isLeftDown = false;
@@ -86,14 +89,14 @@ TEST_P(PacingTable, ShowsEachPressToOneFrame)
 
 INSTANTIATE_TEST_SUITE_P(
     Events, PacingTable,
-    testing::Values(PacingCase{ "M5 a+ L+6 a- L-6", { "6LAa", "6" }, "nothing waits where nothing collides" },
+    testing::Values(PacingCase{ "M5 a+ L+6 a- L-6", { "6LAa", "6-A" }, "nothing waits where nothing collides" },
                     PacingCase{ "L+5 L-5", { "5L", "5" }, "a click shorter than a frame" },
                     PacingCase{ "L+5 M9 L-9", { "5L", "9" }, "a click acts where it was made" },
                     PacingCase{ "L+5 L-5 L+7 L-7", { "5L", "7L", "7" }, "a double click" },
-                    PacingCase{ "w+ l+ w- l-", { "Ww", "Ll", "" }, "two players in one frame" },
-                    PacingCase{ "a+ b+ a- c+ b- c-", { "Aa", "Bb", "Cc", "" }, "no letter of a name is lost" },
-                    PacingCase{ "w+ w* l+ w* l- w-", { "Ww", "Ll", "" }, "auto-repeat does not wait" },
+                    PacingCase{ "w+ l+ w- l-", { "Ww", "Ll-W", "-L" }, "two players in one frame" },
+                    PacingCase{ "a+ b+ a- c+ b- c-", { "Aa", "Bb-A", "Cc-B", "-C" }, "no letter of a name is lost" },
+                    PacingCase{ "w+ w* l+ w* l- w-", { "Ww", "Ll", "-L-W" }, "auto-repeat does not wait" },
                     PacingCase{ "a+ b+ c+ d+ e+ f+ g+ a- b- c- d- e- f- g-",
-                                { "Aa", "Dd", "Ee", "Ff", "Gg", "" },
+                                { "Aa", "Dd", "Ee", "Ff", "Gg-A-B-C-D-E-F", "-G" },
                                 "after a stall the oldest of many go" },
-                    PacingCase{ "L+5 w+ F", { "5LWw", "5F" }, "the focus goes after what happened before" }));
+                    PacingCase{ "L+5 w+ F", { "5LWw", "5-WF" }, "the focus goes after what happened before" }));
