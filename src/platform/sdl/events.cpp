@@ -29,7 +29,6 @@ void LoseFocus()
 void GainFocus()
 {
     focused = true;
-    FindMissedReleases();
     PostToWindow(WM_SETFOCUS, 0, 0);
 }
 
@@ -58,8 +57,6 @@ void HandleWindowEvent(const SDL_WindowEvent& event)
         return GainFocus();
     case SDL_WINDOWEVENT_FOCUS_LOST:
         return LoseFocus();
-    case SDL_WINDOWEVENT_ENTER:
-        return FindMissedReleases();
     case SDL_WINDOWEVENT_MINIMIZED:
         return ReleaseAll();
     case SDL_WINDOWEVENT_CLOSE:
@@ -114,6 +111,7 @@ void CollectEvents()
     SDL_Event event;
     while (nativeWindow.handle && SDL_PeepEvents(&event, 1, SDL_GETEVENT, SDL_FIRSTEVENT, SDL_LASTEVENT) > 0)
         HandleEvent(event);
+    FindMissedReleases();
 }
 
 void ForgetEvents()

@@ -66,9 +66,11 @@ void ReleaseHeldButtons()
 
 void FindMissedReleases()
 {
-    const Uint32 heldForSdl = SDL_GetMouseState(nullptr, nullptr);
-    if (heldForSdl & ~heldButtons)
-        missedReleases |= heldForSdl & ~heldButtons & ~SDL_GetGlobalMouseState(nullptr, nullptr);
+    const Uint32 suspects = SDL_GetMouseState(nullptr, nullptr) & ~heldButtons & ~missedReleases;
+    if (suspects == 0 || (suspects & SDL_GetGlobalMouseState(nullptr, nullptr)))
+        return;
+    SDL_PumpEvents(); // the release may just be on its way
+    missedReleases |= suspects & SDL_GetMouseState(nullptr, nullptr);
 }
 
 HCURSOR LoadCursorA(HINSTANCE, LPCSTR name)
