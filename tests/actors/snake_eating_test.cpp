@@ -1,4 +1,4 @@
-#include "snake_fixture.h"
+#include "support/test_game.h"
 
 namespace
 {
@@ -10,7 +10,7 @@ struct ScoreCase {
     int points;
     int popup; ///< -1 none
 };
-using SnakeEating = SnakeFixture;
+using SnakeEating = PondTest;
 
 TEST_F(SnakeEating, ScoresBerries)
 {
@@ -23,28 +23,28 @@ TEST_F(SnakeEating, ScoresBerries)
         { BLUE, 0, 4, true, 5, -1 },    // about to be slow
     };
     for (const ScoreCase& given : cases) {
-        Snake().score = 0;
-        Snake().rainTimer = given.rainTimer;
-        Snake().speed = given.speed;
-        Snake().slowDownPending = given.slowDownPending;
-        pond->popups[0].active = false;
-        PutSnakeBeforeGrid();
-        PutBerry(GRID_CELL, given.colour);
-        Frame();
-        EXPECT_EQ(Snake().score, given.points);
-        EXPECT_EQ(pond->popups[0].active ? pond->popups[0].kind : -1, given.popup) << given.points;
-        EXPECT_EQ(Snake().eyeFrame, 1);
+        snake.score = 0;
+        snake.rainTimer = given.rainTimer;
+        snake.speed = given.speed;
+        snake.slowDownPending = given.slowDownPending;
+        pond.popups[0].active = false;
+        PutSnake(240, 32 + snake.speed); // its head comes onto a grid point
+        MakeRipe(CellIn(15, 2), given.colour);
+        SnakeFrame();
+        EXPECT_EQ(snake.score, given.points);
+        EXPECT_EQ(pond.popups[0].active ? pond.popups[0].kind : -1, given.popup) << given.points;
+        EXPECT_EQ(snake.eyeFrame, 1);
     }
 }
 
 TEST_F(SnakeEating, StonesKillOnlyAfterFiftyMovedFrames)
 {
     for (const int moved : { 50, 51 }) {
-        PutSnakeBeforeGrid();
-        pond->TurnToStone(240, 32);
-        Snake().movedFrames = moved - 1;
-        Frame();
-        EXPECT_EQ(Snake().isDying, moved > 50);
+        PutSnake(240, 32 + snake.speed); // its head comes onto a grid point
+        pond.TurnToStone(240, 32);
+        snake.movedFrames = moved - 1;
+        SnakeFrame();
+        EXPECT_EQ(snake.isDying, moved > 50);
     }
 }
 }

@@ -1,4 +1,6 @@
-#include "snake_fixture.h"
+#include "support/test_game.h"
+
+#include "app/frame_images.h"
 
 #include "game/water.h"
 
@@ -12,34 +14,34 @@ struct KeyCase {
     std::vector<int> keys;
     std::vector<int> queued;
 };
-using SnakeSteering = SnakeFixture;
+using SnakeSteering = PondTest;
 
 TEST_F(SnakeSteering, QueuesOrRefusesKeys)
 {
     const KeyCase cases[] = {
-        { "turn", UP, { LEFT }, { LEFT } },
-        { "own direction", UP, { UP }, { UP } },
-        { "reverse of up", UP, { DOWN }, {} },
-        { "reverse of down", DOWN, { UP }, {} },
-        { "reverse of left", LEFT, { RIGHT }, {} },
-        { "reverse of right", RIGHT, { LEFT }, {} },
-        { "reverse of the last queued", UP, { LEFT, RIGHT }, { LEFT } },
-        { "reverse in two steps", UP, { LEFT, DOWN }, { LEFT, DOWN } },
-        { "repeated", UP, { LEFT, LEFT }, { LEFT } },
-        { "others' keys", UP, { 'W', 13, 0, LEFT }, { LEFT } },
+        { "turn", VK_UP, { VK_LEFT }, { VK_LEFT } },
+        { "own direction", VK_UP, { VK_UP }, { VK_UP } },
+        { "reverse of up", VK_UP, { VK_DOWN }, {} },
+        { "reverse of down", VK_DOWN, { VK_UP }, {} },
+        { "reverse of left", VK_LEFT, { VK_RIGHT }, {} },
+        { "reverse of right", VK_RIGHT, { VK_LEFT }, {} },
+        { "reverse of the last queued", VK_UP, { VK_LEFT, VK_RIGHT }, { VK_LEFT } },
+        { "reverse in two steps", VK_UP, { VK_LEFT, VK_DOWN }, { VK_LEFT, VK_DOWN } },
+        { "repeated", VK_UP, { VK_LEFT, VK_LEFT }, { VK_LEFT } },
+        { "others' keys", VK_UP, { 'W', 13, 0, VK_LEFT }, { VK_LEFT } },
         { "the eleventh",
-          UP,
-          { LEFT, UP, LEFT, UP, LEFT, UP, LEFT, UP, LEFT, UP, LEFT },
-          { LEFT, UP, LEFT, UP, LEFT, UP, LEFT, UP, LEFT, UP } },
+          VK_UP,
+          { VK_LEFT, VK_UP, VK_LEFT, VK_UP, VK_LEFT, VK_UP, VK_LEFT, VK_UP, VK_LEFT, VK_UP, VK_LEFT },
+          { VK_LEFT, VK_UP, VK_LEFT, VK_UP, VK_LEFT, VK_UP, VK_LEFT, VK_UP, VK_LEFT, VK_UP } },
     };
     for (const KeyCase& given : cases) {
-        Snake().turnCount = 0;
+        snake.turnCount = 0;
         for (const int key : given.keys) {
             PutSnake(241, 241); // never on the grid: nothing leaves the queue
-            Head().dir = given.heading;
-            Frame(key);
+            snake.segments[0].dir = given.heading;
+            SnakeFrame(key);
         }
-        EXPECT_EQ(std::vector(Snake().turnQueue, Snake().turnQueue + Snake().turnCount), given.queued) << given.why;
+        EXPECT_EQ(std::vector(snake.turnQueue, snake.turnQueue + snake.turnCount), given.queued) << given.why;
     }
 }
 
@@ -55,17 +57,17 @@ struct WakeCase {
 TEST_F(SnakeSteering, SplashesWhenFastOrTurningAtAnEvenPlace)
 {
     constexpr WakeCase cases[] = {
-        { 2, 242, 0, false, false, "straight on" },  { 2, 242, LEFT, false, true, "a turn is queued" },
-        { 2, 241, LEFT, false, false, "odd place" }, { 4, 241, 0, false, true, "fast" },
-        { 4, 242, LEFT, true, false, "it waits" },
+        { 2, 242, 0, false, false, "straight on" },     { 2, 242, VK_LEFT, false, true, "a turn is queued" },
+        { 2, 241, VK_LEFT, false, false, "odd place" }, { 4, 241, 0, false, true, "fast" },
+        { 4, 242, VK_LEFT, true, false, "it waits" },
     };
     for (const WakeCase& given : cases) {
         PutSnake(240, given.y);
-        Snake().speed = given.speed;
-        Snake().isWaiting = given.isWaiting;
-        Snake().turnCount = 0;
+        snake.speed = given.speed;
+        snake.isWaiting = given.isWaiting;
+        snake.turnCount = 0;
         WaterInit(waterBufferA, waterBufferB, 5, 3);
-        Frame(given.key);
+        SnakeFrame(given.key);
         EXPECT_EQ(water.current[(given.y + 8) * POND_SIZE + 248] != 0, given.splashes) << given.why;
     }
 }

@@ -1,5 +1,5 @@
-#include "game/pond_fixture.h"
 #include "support/allocations.h"
+#include "support/test_game.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "game/pond_fixture.h"
+#include "support/test_game.h"
 
 #include <algorithm>
 #include <vector>
@@ -17,7 +17,7 @@ struct SearchCase {
 TEST_F(PondCells, SearchBerryCellUpwardFarFromTheHead)
 {
     constexpr int head = 15 * CELL_COLUMNS + 15;
-    PlaceHead(0, 15 * CELL_SIZE, 15 * CELL_SIZE);
+    PutSnake(15 * CELL_SIZE, 15 * CELL_SIZE, 1, 0);
     const SearchCase cases[] = {
         { { 7, 40, 800 }, 20, 40, "the next one up" },
         { { 3, 800 }, 850, 3, "wraps around at the end" },

@@ -1,4 +1,4 @@
-#include "game/pond_fixture.h"
+#include "support/test_game.h"
 
 namespace
 {

@@ -1,4 +1,6 @@
-#include "game/pond_fixture.h"
+#include "support/test_game.h"
+
+#include "app/frame_images.h"
 
 namespace
 {
@@ -28,15 +30,16 @@ TEST_F(Scenery, LightsGrowAtDuskAndWaneAtDawn)
     for (const LightCase& given : cases) {
         for (int corner = 0; corner < 4; ++corner) {
             StartGame(0);
-            PlaceHead(0, corner % 2 * 464, corner / 2 * 464);
+            PutSnake(corner % 2 * 464, corner / 2 * 464, 1, 0);
+            snake.isWaiting = true;
             pond.isDay = given.isDay;
             pond.transition = given.transition;
             Play(1);
             for (const int y : { 60, 408 }) // near the head and, wrapping around, at the opposite edges
                 for (const int x : { 60, 408 })
-                    EXPECT_EQ(Pixel(pondImage, x, y), given.light) << given.why << ' ' << x << ' ' << y;
+                    EXPECT_EQ(pondImage.Row(y)[x], given.light) << given.why << ' ' << x << ' ' << y;
             for (const int dark : { 88, 391 })
-                EXPECT_EQ(Pixel(pondImage, dark, 60) | Pixel(pondImage, 60, dark), 0) << given.why << ' ' << dark;
+                EXPECT_EQ(pondImage.Row(60)[dark] | pondImage.Row(dark)[60], 0) << given.why << ' ' << dark;
         }
     }
 }
