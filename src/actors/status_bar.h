@@ -6,13 +6,12 @@
 #include "menu/help_page.h"
 #include "menu/menu.h"
 
-#include <array>
 #include <cstdint>
 #include <memory>
+#include <span>
 
 class CPond;
 
-constexpr int STATUS_PANELS = 10;
 constexpr int FIRST_TARGET = 500;   ///< score that clears level 1
 constexpr int COUNT_UP_FRAMES = 75; ///< of the target's figure at a new level
 
@@ -21,10 +20,23 @@ constexpr int COUNT_UP_FRAMES = 75; ///< of the target's figure at a new level
 class CStatusBar
 {
 public:
+    /// Buttons and texts of the panels.
+    enum ItemId : int {
+        BUTTON_PAUSE = 0,
+        BUTTON_HELP = 1, ///< on the strip and on the paused panel
+        BUTTON_QUIT = 2,
+        BUTTON_RESUME = 3,
+        BUTTON_YES = 4,
+        BUTTON_NO = 5,
+        TEXT_LEVEL = 6,
+        TEXT_TARGET = 7,
+        BUTTON_HELP_FIRST = 8, ///< those of the help pages
+    };
+
     CStatusBar() = default;
     virtual ~CStatusBar();
 
-    /// One loading step a call, until `done` is set. False when a font or a file cannot be had.
+    /// One loading step a call, until `done` is set. False when the font or a picture cannot be loaded.
     bool DataLoad(bool& done);
     void DataUnload();
     /// A new game: level 1, only the strip is shown.
@@ -56,23 +68,29 @@ public:
     int32_t lifeMark[2] = {}; ///< per player, score at the last extra life
 
 private:
-    std::array<CMenu*, STATUS_PANELS> Panels(); ///< in the order in which they are handled
-    bool LoadFont();                            // the steps of loading
+    struct PanelRow;
+    /// The panels in the order in which they are drawn and handled.
+    static std::span<const PanelRow> PanelRows();
+    bool LoadFont(); // the steps of loading
     bool LoadImages();
     bool CreatePanels();
+    bool CreatePanel(const PanelRow& row);
+    bool AddHelp();
+    bool AddLevelTexts();
 
     bool IsAnyCoiling() const;
     bool IsHelpVisible() const;
     bool IsInGame(int player) const; ///< players count from 0
     void SetPaused(bool paused);
     void ResumeGame(CMenu& panel);
-    void ProcessStripButtons();
-    void ProcessPausedPanel();
-    void ProcessConfirmPanel();
-    void ProcessLevelClearedPanel();
-    void ProcessNextLevelPanel();
-    void ProcessHelpPages();
-    void ProcessGameOverPanel();
+    void ProcessPanels();
+    void ProcessStrip();
+    void ProcessPaused();
+    void ProcessConfirm();
+    void ProcessLevelCleared();
+    void ProcessNextLevel();
+    void ProcessHelp();
+    void ProcessGameOver();
     void ClearBerries();
     void StatusBarNextLevel();
     void DropLevelBerries();

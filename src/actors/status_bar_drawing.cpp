@@ -1,4 +1,4 @@
-#include "actors/status_bar_items.h"
+#include "actors/status_bar.h"
 
 #include "game/pond.h"
 

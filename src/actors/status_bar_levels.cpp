@@ -1,4 +1,4 @@
-#include "actors/status_bar_items.h"
+#include "actors/status_bar.h"
 
 #include "game/geometry.h"
 #include "game/pond.h"
@@ -91,10 +91,8 @@ void CStatusBar::ClearBerries()
     }
 }
 
-void CStatusBar::ProcessLevelClearedPanel()
+void CStatusBar::ProcessLevelCleared()
 {
-    if (!levelClearedPanel.IsOpen())
-        return;
     SlideIn(levelClearedPanel);
     if (coilWait > 0)
         --coilWait;
@@ -102,10 +100,8 @@ void CStatusBar::ProcessLevelClearedPanel()
         levelClearedPanel.Hide();
 }
 
-void CStatusBar::ProcessNextLevelPanel()
+void CStatusBar::ProcessNextLevel()
 {
-    if (!nextLevelPanel.IsOpen())
-        return;
     if (!levelClearedPanel.isVisible && IsAnyCoiling() && SlideIn(nextLevelPanel))
         countUp = COUNT_UP_FRAMES;
     if (nextLevelPanel.y == RestingY(nextLevelPanel) && countUp == 0)
@@ -157,8 +153,8 @@ void CStatusBar::StatusBarGameOver()
     PlaceAbove(gameOverPanel);
 }
 
-void CStatusBar::ProcessGameOverPanel()
+void CStatusBar::ProcessGameOver()
 {
-    if (gameOverPanel.IsOpen() && SlideIn(gameOverPanel))
+    if (SlideIn(gameOverPanel))
         pond->fadeOut = FADE_OUT_START;
 }

@@ -1,4 +1,4 @@
-#include "actors/status_bar_items.h"
+#include "actors/status_bar_rows.h"
 
 #include "app/frame_images.h"
 #include "app/input.h"
@@ -46,24 +46,16 @@ void CStatusBar::StatusBarProcess(CImage& screen)
         StepFigures();
         AwardExtraLives();
     }
-    for (CMenu* panel : Panels()) {
-        if (panel != &leftPanel)
-            panel->MenuProcess(screen);
-    }
-    ProcessStripButtons();
-    ProcessPausedPanel();
-    ProcessConfirmPanel();
-    ProcessLevelClearedPanel();
-    ProcessNextLevelPanel();
-    ProcessHelpPages();
-    ProcessGameOverPanel();
+    for (const PanelRow& row : PanelRows())
+        for (CMenu& panel : row.panels(*this))
+            if (&panel != &leftPanel)
+                panel.MenuProcess(screen);
+    ProcessPanels();
     DropLevelBerries();
 }
 
-void CStatusBar::ProcessStripButtons()
+void CStatusBar::ProcessStrip()
 {
-    if (!leftPanel.IsOpen())
-        return;
     if (!pond->snake[0].isPaused && input.TakeKey({ VK_SPACE }))
         Click(leftPanel, BUTTON_PAUSE);
     if (!confirmPanel.isVisible && input.TakeKey({ VK_ESCAPE }))
@@ -87,10 +79,8 @@ void CStatusBar::ProcessStripButtons()
     input.DropPresses();
 }
 
-void CStatusBar::ProcessPausedPanel()
+void CStatusBar::ProcessPaused()
 {
-    if (!pausedPanel.IsOpen())
-        return;
     panelOpen = true;
     if (pond->snake[0].isPaused && IsDismissKey(input.lastKeyDown))
         Click(pausedPanel, BUTTON_RESUME);
@@ -106,10 +96,8 @@ void CStatusBar::ProcessPausedPanel()
     }
 }
 
-void CStatusBar::ProcessConfirmPanel()
+void CStatusBar::ProcessConfirm()
 {
-    if (!confirmPanel.IsOpen())
-        return;
     panelOpen = true;
     if (input.TakeKey({ VK_RETURN, VK_SPACE }))
         Click(confirmPanel, BUTTON_YES);
@@ -135,11 +123,9 @@ void CStatusBar::ResumeGame(CMenu& panel)
     input.DropPresses();
 }
 
-void CStatusBar::ProcessHelpPages()
+void CStatusBar::ProcessHelp()
 {
-    const auto open = std::ranges::find_if(helpPanels, &CMenu::IsOpen);
-    if (open == std::end(helpPanels))
-        return;
+    CMenu* open = std::ranges::find_if(helpPanels, &CMenu::IsOpen);
     panelOpen = true;
     const int next = ProcessHelpPage(*open, BUTTON_HELP_FIRST, static_cast<int>(open - std::begin(helpPanels)));
     if (next == HELP_STAY)
