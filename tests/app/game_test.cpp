@@ -141,32 +141,6 @@ TEST_F(GameTest, StoresInputMessages)
     EXPECT_EQ(Send(WM_ERASEBKGND), 1);
 }
 
-TEST_F(GameTest, SwitchesBetweenWindowAndFullScreen)
-{
-    struct Step {
-        UINT message;
-        WPARAM wParam;
-        bool windowed;
-        const char* log;
-    };
-    const Step steps[] = {
-        { WM_SYSKEYUP, VK_RETURN, false, "Windowed -> Full Screen\n" },
-        { WM_SYSKEYUP, VK_RETURN, true, "Full Screen -> Windowed\n" },
-        { WM_SYSCOMMAND, SC_MAXIMIZE, false, "Windowed -> Full Screen\n" },
-        { WM_SYSKEYUP, VK_RETURN, true, "Full Screen -> Windowed\n" },
-        { WM_NCLBUTTONDBLCLK, HTCAPTION, false, "Windowed -> Full Screen\n" },
-        { WM_SYSCOMMAND, SC_MINIMIZE, false, "" },
-    };
-    std::string log = Log();
-    for (const Step& step : steps) {
-        Send(step.message, step.wParam);
-        log += step.log;
-        EXPECT_EQ(isWindowed, step.windowed);
-        EXPECT_EQ(directX.fullScreen, !step.windowed);
-        EXPECT_EQ(Log(), log);
-    }
-}
-
 TEST_F(GameTest, AStartThatFailsLeavesNoWindow)
 {
     constexpr int GLOBAL_IMAGES = 5; // of one plane each

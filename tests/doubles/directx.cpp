@@ -130,7 +130,6 @@ struct SoundBuffer : Counted<IDirectSoundBuffer>, SoundBufferDouble {
     }
     HRESULT Play(DWORD, DWORD, DWORD flags) override
     {
-        ++plays;
         playing = true;
         looping = flags == DSBPLAY_LOOPING;
         return directX.Step("Play", std::to_string(number) + " " + std::to_string(flags));
@@ -145,7 +144,6 @@ struct SoundBuffer : Counted<IDirectSoundBuffer>, SoundBufferDouble {
     }
     HRESULT Stop() override
     {
-        ++stops;
         playing = false;
         return directX.Step("Stop", std::to_string(number));
     }

@@ -12,8 +12,6 @@ struct SoundBufferDouble {
     std::string bytes;
     bool playing = false;
     bool looping = false;
-    int plays = 0;
-    int stops = 0;
 };
 
 /// Stands for DirectDraw and DirectSound in unit_tests: each of their steps is recorded and can be made to fail, which

@@ -82,32 +82,6 @@ TEST_F(PondCells, LookAtBerriesBesideTheHead)
     }
 }
 
-struct HighlightCase {
-    int eaten; ///< cell
-    int colour;
-    std::vector<int32_t> left;
-};
-
-TEST_F(PondCells, HighlightTheFirstFiveBerriesUntilOneThatIsNotBlueIsEaten)
-{
-    const HighlightCase cases[] = {
-        { 102, BLUE, { 100, 101, -1, 103, 104 } },
-        { 105, BLUE, { -1, -1, -1, -1, -1 } },
-        { 102, RED, { -1, -1, -1, -1, -1 } },
-        { 105, GOLDEN, { -1, -1, -1, -1, -1 } },
-    };
-    for (const HighlightCase& given : cases) {
-        StartGame(0);
-        for (int cell = 100; cell <= 105; ++cell)
-            pond.PlaceBerry(BLUE, cell);
-        MakeRipe(pond.cells[given.eaten], given.colour);
-        int colour = -1;
-        int eyeFrame = -1;
-        pond.EatAt(pond.cells[given.eaten].x, pond.cells[given.eaten].y, colour, HEADING_UP, eyeFrame);
-        EXPECT_EQ(std::vector(std::begin(pond.highlight), std::end(pond.highlight)), given.left);
-    }
-}
-
 TEST_F(PondCells, FadeTheOldestStonesFirst)
 {
     for (const int cell : { 500, 20, 300 })

@@ -1,7 +1,6 @@
 #include "menu/menu.h"
 
 #include "app/input.h"
-#include "doubles/directx.h"
 #include "sound/sound.h"
 
 #include <gtest/gtest.h>
@@ -9,8 +8,6 @@
 
 namespace
 {
-constexpr int HOVER_SOUND = 0;
-constexpr int CLICK_SOUND = 1;
 constexpr uint16_t BACKGROUND = 0x1111;
 constexpr uint16_t IMAGE = 0x2222;
 constexpr uint16_t HOVER = 0x3333;
@@ -18,19 +15,13 @@ constexpr uint16_t PRESSED = 0x4444;
 constexpr int MENU_X = 10;
 constexpr int MENU_Y = 20;
 
-/// A menu at (10, 20), with one-coloured pictures and two sounds.
+/// A menu at (10, 20), with one-coloured pictures.
 class Menu : public testing::Test
 {
 protected:
     Menu()
     {
         input = InputState{};
-        directX = {};
-        SoundInit(nullptr);
-        SoundSetMute(0);
-        const WAVEFORMATEX format = { WAVE_FORMAT_PCM, 1, 22050, 44100, 2, 16, 0 };
-        for (const int id : { HOVER_SOUND, CLICK_SOUND })
-            SoundCreate(id, &format, 100);
         screen.Create(200, 120);
         Paint(background, 100, BACKGROUND);
         Paint(image, 10, IMAGE);
@@ -44,7 +35,6 @@ protected:
     {
         text.TextImageFree();
         DeleteObject(font);
-        SoundRelease();
     }
     static void Paint(CImage& picture, int size, uint16_t colour)
     {
@@ -53,11 +43,11 @@ protected:
     }
     void AddButton(int id, int x)
     {
-        ASSERT_TRUE(menu.AddButton(id, x, 30, 10, 10, &image, &hover, &pressed, HOVER_SOUND, CLICK_SOUND));
+        ASSERT_TRUE(menu.AddButton(id, x, 30, 10, 10, &image, &hover, &pressed, SOUND_NONE, SOUND_NONE));
     }
     void AddToggle(int id, int group, int x)
     {
-        ASSERT_TRUE(menu.AddToggle(id, group, x, 30, 10, 10, &image, &hover, &pressed, HOVER_SOUND, CLICK_SOUND));
+        ASSERT_TRUE(menu.AddToggle(id, group, x, 30, 10, 10, &image, &hover, &pressed, SOUND_NONE, SOUND_NONE));
     }
     MenuText& AddText(int mode, int maxLength)
     {

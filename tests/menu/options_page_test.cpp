@@ -39,20 +39,3 @@ TEST_F(OptionsPageTest, SoundOffStopsTheMusicAndAFailedSwitchOfTheDisplayKeepsTh
         lastError = ENGINE_NO_ERROR;
     }
 }
-
-TEST_F(OptionsPageTest, FollowsASwitchOfTheDisplayThatOthersMake)
-{
-    for (const int key : { VK_RETURN, VK_ESCAPE }) {
-        Open();
-        ClickToggle(isWindowed ? TOGGLE_FULL_SCREEN : TOGGLE_WINDOWED);
-        for (int switches = 0; switches < 3; ++switches) {
-            ApplyDisplayMode(!isWindowed);
-            Press(0);
-            EXPECT_EQ(menu.optionsMenu.FindToggle(TOGGLE_WINDOWED)->checked, isWindowed);
-            EXPECT_EQ(menu.optionsMenu.FindToggle(TOGGLE_FULL_SCREEN)->checked, !isWindowed);
-        }
-        const std::string log = Log();
-        Press(key);
-        EXPECT_EQ(Log(), log) << "the mode stays with OK and with Cancel";
-    }
-}

@@ -8,24 +8,6 @@ namespace
 using SectionMenuTest = MenuFixture;
 }
 
-TEST_F(SectionMenuTest, StopsLoadingAtAMissingPictureAndTriesTheStepAgain)
-{
-    CSectionMenu other;
-    bool done = false;
-    const std::string picture = pictures.folder.Read("Dat/Image/Help4.jpg");
-    pictures.folder.Write("Dat/Image/Help4.jpg", "no picture");
-    int steps = 0;
-    while (other.DataLoad(done))
-        ++steps;
-    EXPECT_EQ(steps, 2);
-    pictures.folder.Write("Dat/Image/Help4.jpg", picture);
-    EXPECT_TRUE(other.DataLoad(done));
-    EXPECT_FALSE(done);
-    EXPECT_TRUE(other.DataLoad(done));
-    EXPECT_TRUE(done);
-    lastError = ENGINE_NO_ERROR;
-}
-
 TEST_F(SectionMenuTest, APressThatNobodyWantedActsOnNoOtherPage)
 {
     const struct {

@@ -45,38 +45,6 @@ TEST_F(SettingsTest, TakesValuesAsBytesWhateverTheirType)
     }
 }
 
-TEST_F(SettingsTest, EveryRecordComesBack)
-{
-    const std::string names[RANKING_PLACES] = { "a long name of twenty",
-                                                "Bob", // shorter than the one before it
-                                                "",
-                                                "\nline",
-                                                "t\xE9t\xE9",
-                                                "\"quoted' \\",
-                                                " blanks ",
-                                                std::string(NAME_BYTES - 1, 'x'),
-                                                "\x01\x7F",
-                                                "------" };
-    for (int i = 0; i < RANKING_PLACES; ++i) {
-        strcpy(menu.rankNames[i], names[i].c_str());
-        menu.rankScores[i] = 2000000000 - i;
-    }
-    menu.rankScores[9] = -7;
-    menu.keys = { 'A', 'B', 'C', 'D', 97, 98, 99, 0 };
-    SoundSetMute(1);
-    ASSERT_EQ(menu.SettingsSave(), 0);
-    SoundSetMute(0);
-
-    CSectionMenu other;
-    EXPECT_EQ(other.SettingsLoad(), 0);
-    EXPECT_EQ(other.keys, menu.keys);
-    EXPECT_EQ(SoundGetMute(), 1);
-    for (int i = 0; i < RANKING_PLACES; ++i) {
-        EXPECT_EQ(other.rankNames[i], names[i]) << i;
-        EXPECT_EQ(other.rankScores[i], menu.rankScores[i]) << i;
-    }
-}
-
 TEST_F(SettingsTest, AppliesTheStoredDisplayMode)
 {
     struct Case {

@@ -157,16 +157,3 @@ TEST(BmpLoader, TruncatedFilesFail)
             EXPECT_TRUE(size == 0 || !LoadMasked(image, whole, cut)) << size; // no bytes would be no mask
         }
 }
-
-TEST(BmpLoader, DamagedFilesAreNotReadOutOfBounds)
-{
-    std::mt19937 random(11);
-    for (int round = 0; round < 400; ++round) {
-        Bytes damaged = round % 2 ? picture8 : picture24;
-        for (int i = 0; i < 3; ++i)
-            damaged[2 + random() % (damaged.size() - 2)] = static_cast<uint8_t>(random() % 4 ? random() : 0xFF);
-        CImage image;
-        const bool loaded = LoadMasked(image, damaged, damaged);
-        EXPECT_EQ(loaded, lastError == ENGINE_NO_ERROR);
-    }
-}

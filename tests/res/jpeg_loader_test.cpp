@@ -108,17 +108,3 @@ TEST(JpegLoader, DamagedFilesLoadOrFailByName)
         ASSERT_EQ(loaded, image.pixels != nullptr);
     }
 }
-
-TEST(JpegLoader, AbsurdSizesAreNotAllocated)
-{
-    Bytes jpeg = MakeTwoColours();
-    // The frame header holds height and width, most significant byte first, behind its length and depth.
-    const uint8_t frameMarker[] = { 0xFF, 0xC0 };
-    const auto frame = std::search(jpeg.begin(), jpeg.end(), std::begin(frameMarker), std::end(frameMarker));
-    ASSERT_NE(frame, jpeg.end());
-    for (const ptrdiff_t i : { 5, 7 })
-        frame[i] = 0xFF;
-    CImage image;
-    EXPECT_FALSE(Load(image, jpeg));
-    EXPECT_EQ(lastError, ENGINE_ALLOCATE_MEMORY);
-}

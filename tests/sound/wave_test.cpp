@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 namespace
 {
 constexpr int NOT_FOUND = MMIOERR_CHUNKNOTFOUND;
@@ -69,20 +67,6 @@ TEST_F(WaveTest, OpensOnlyWaveFilesWithAWholeFormat)
         EXPECT_EQ(format != nullptr, row.result == 0) << row.what;
         WaveClose(&file, &format);
     }
-}
-
-TEST_F(WaveTest, CannotOpenWhatIsNoFile)
-{
-    std::filesystem::create_directory("a.wav");
-    EXPECT_EQ(Open(), WAVE_ERR_CANNOT_OPEN);
-    EXPECT_EQ(WaveOpen("missing.wav", &file, &format, &riff), WAVE_ERR_CANNOT_OPEN);
-    EXPECT_EQ(file, nullptr);
-}
-
-TEST_F(WaveTest, FindsFilesAsTheGameWritesTheirPaths)
-{
-    folder.Write("Wav/Popo.WAV", Wave(Chunk("fmt ", Format())));
-    EXPECT_EQ(WaveOpen("Wav\\popo.wav", &file, &format, &riff), 0);
 }
 
 TEST_F(WaveTest, DropsWhatFollowsThePcmHeader)
