@@ -10,15 +10,15 @@ pkg_check_modules(SDL2 REQUIRED IMPORTED_TARGET sdl2)
 pkg_check_modules(FREETYPE REQUIRED IMPORTED_TARGET freetype2)
 pkg_check_modules(FONTCONFIG REQUIRED IMPORTED_TARGET fontconfig)
 pkg_check_modules(TURBOJPEG REQUIRED IMPORTED_TARGET libturbojpeg)
-find_package(tomlplusplus REQUIRED)
+find_path(TOMLPLUSPLUS_INCLUDE_DIR toml++/toml.h REQUIRED) # its headers only: see src/platform/posix/toml.h
 
 pkg_check_modules(HWY REQUIRED IMPORTED_TARGET libhwy)
 target_link_libraries(tervalis_game PUBLIC PkgConfig::TURBOJPEG PkgConfig::HWY)
 
 file(GLOB BASE_SOURCES CONFIGURE_DEPENDS src/platform/posix/*.cpp)
 add_library(tervalis_platform_base STATIC ${BASE_SOURCES})
-target_include_directories(tervalis_platform_base PUBLIC src)
-target_link_libraries(tervalis_platform_base PRIVATE PkgConfig::FREETYPE PkgConfig::FONTCONFIG tomlplusplus::tomlplusplus)
+target_include_directories(tervalis_platform_base PUBLIC src PRIVATE ${TOMLPLUSPLUS_INCLUDE_DIR})
+target_link_libraries(tervalis_platform_base PRIVATE PkgConfig::FREETYPE PkgConfig::FONTCONFIG)
 
 file(GLOB SDL_SOURCES CONFIGURE_DEPENDS src/platform/sdl/*.cpp)
 list(FILTER SDL_SOURCES EXCLUDE REGEX "/main\\.cpp$")

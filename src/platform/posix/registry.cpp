@@ -1,15 +1,14 @@
 #include "platform/registry.h"
 
 #include "platform/posix/safe_file.h"
+#include "platform/posix/toml.h"
 #include "platform/posix/user_folders.h"
 
 #include <cstring>
 #include <memory>
 #include <optional>
-#include <sstream>
 #include <string>
 #include <string_view>
-#include <toml++/toml.h>
 
 /// An open key: the values of its file, and whether they differ from it.
 struct HKEY__ {
@@ -21,7 +20,7 @@ struct HKEY__ {
 namespace
 {
 
-constexpr size_t MAX_FILE_BYTES = 1 << 20; // a hundred times what the game stores
+constexpr size_t MAX_FILE_BYTES = 1 << 16; // ten times the most that the game stores
 constexpr char HEX_DIGITS[] = "0123456789abcdef";
 
 struct Value {
@@ -46,29 +45,10 @@ std::string KeyFolder(LPCSTR subKey)
     return SettingsFolder(std::string(name.substr(name.find_last_of("\\/") + 1))); // nothing found is -1
 }
 
-std::string Format(const toml::table& table)
-{
-    // Neither literal nor multi-line strings: both drop bytes.
-    constexpr auto flags = toml::format_flags::allow_unicode_strings | toml::format_flags::allow_binary_integers |
-                           toml::format_flags::allow_octal_integers | toml::format_flags::allow_hexadecimal_integers;
-    std::ostringstream text;
-    text << toml::toml_formatter(table, flags) << "\n";
-    return text.str();
-}
-
-std::optional<toml::table> Parse(std::string_view text)
-{
-    try {
-        return toml::parse(text);
-    } catch (const std::exception&) {
-        return std::nullopt;
-    }
-}
-
 /// Whether a string comes back from a file byte for byte.
 bool SurvivesAsText(const std::string& bytes)
 {
-    const auto copy = Parse(Format(toml::table{ { "value", bytes } }));
+    const auto copy = ParseToml(FormatToml(toml::table{ { "value", bytes } }));
     return copy && (*copy)["value"].value_exact<std::string>() == bytes;
 }
 
@@ -157,7 +137,7 @@ LONG LoadValues(const std::string& path, toml::table& values)
         return Code(ERROR_SUCCESS);
     if (result != Code(ERROR_SUCCESS))
         return result;
-    auto parsed = text.size() <= MAX_FILE_BYTES ? Parse(text) : std::nullopt;
+    auto parsed = text.size() <= MAX_FILE_BYTES ? ParseToml(text) : std::nullopt;
     if (!parsed)
         return SetFileAside(path);
     values = std::move(*parsed);
@@ -219,5 +199,5 @@ LONG RegCloseKey(HKEY key)
     if (!IsOpenKey(key))
         return Code(ERROR_INVALID_HANDLE);
     const std::unique_ptr<HKEY__> closing(key);
-    return closing->changed ? ReplaceSmallFile(closing->path, Format(closing->values)) : Code(ERROR_SUCCESS);
+    return closing->changed ? ReplaceSmallFile(closing->path, FormatToml(closing->values)) : Code(ERROR_SUCCESS);
 }

