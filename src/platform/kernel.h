@@ -60,6 +60,9 @@ DWORD GetFileSize(HANDLE file, LPDWORD sizeHigh);
 
 void Sleep(DWORD milliseconds);
 
+/// For whoever looks for the cause of a failure: a debugger on Windows, the error output here.
+void OutputDebugStringA(LPCSTR text);
+
 /// Memory from the C heap; null when there is none left.
 HGLOBAL GlobalAlloc(UINT flags, size_t bytes);
 HGLOBAL GlobalFree(HGLOBAL memory);

@@ -13,11 +13,7 @@ constexpr uint32_t MAX_FILE_BYTES = 256u << 20;
 
 /// A file on disk, closed when it goes out of scope.
 struct LooseFile {
-    explicit LooseFile(const char* path)
-        : handle(
-              CreateFileA(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr))
-    {
-    }
+    explicit LooseFile(const char* path) : handle(OpenForReading(path)) {}
     ~LooseFile()
     {
         if (IsOpen())
@@ -36,6 +32,11 @@ void SeekTo(HANDLE file, uint32_t position)
     LONG high = 0; // with it the position counts as unsigned
     SetFilePointer(file, static_cast<LONG>(position), &high, FILE_BEGIN);
 }
+}
+
+HANDLE OpenForReading(const char* path)
+{
+    return CreateFileA(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
 bool CFileData::Load(const char* path)

@@ -1,9 +1,13 @@
 #include "res/pack_file.h"
 
 #include "gfx/error.h"
+#include "res/file_data.h"
+#include "res/file_report.h"
 #include "res/little_endian.h"
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <new>
 
 namespace
@@ -47,7 +51,7 @@ CPackFile::~CPackFile()
 bool CPackFile::Open(const char* path)
 {
     Close();
-    handle = CreateFileA(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    handle = OpenForReading(path);
     if (handle == INVALID_HANDLE_VALUE)
         return FailWith(ENGINE_OPEN_PACK_FILE);
     if (ReadHeaderAndIndex())
@@ -87,8 +91,9 @@ bool OpenPack(const char* path)
 {
     if (packTable[0].handle != INVALID_HANDLE_VALUE)
         return true;
-    for (CPackFile& slot : packTable)
-        if (slot.handle == INVALID_HANDLE_VALUE)
-            return slot.Open(path);
-    return FailWith(ENGINE_OPEN_PACK);
+    const auto slot = std::ranges::find(packTable, INVALID_HANDLE_VALUE, &CPackFile::handle);
+    const bool opened = slot != std::end(packTable) ? slot->Open(path) : FailWith(ENGINE_OPEN_PACK);
+    if (!opened)
+        ReportFile(path, ErrorText(lastError));
+    return opened;
 }

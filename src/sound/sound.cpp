@@ -1,6 +1,7 @@
 #include "sound/sound.h"
 
 #include "platform/release.h"
+#include "res/file_report.h"
 #include "sound/wave.h"
 
 #include <map>
@@ -95,6 +96,20 @@ bool FillBuffer(IDirectSoundBuffer& buffer, HMMIO file, MMCKINFO& data)
     buffer.Unlock(samples, bytes, nullptr, 0);
     return read;
 }
+
+bool LoadWave(int id, const char* path)
+{
+    HMMIO file = nullptr;
+    WAVEFORMATEX* format = nullptr;
+    MMCKINFO riff{};
+    MMCKINFO data{};
+    if (WaveOpen(path, &file, &format, &riff) != 0)
+        return false;
+    const bool loaded = WaveSeekData(file, &data, &riff) == 0 && SoundCreate(id, format, data.cksize) &&
+                        FillBuffer(*FindBuffer(id), file, data);
+    WaveClose(&file, &format);
+    return loaded;
+}
 }
 
 void SoundInit(HWND soundWindow)
@@ -133,15 +148,9 @@ bool SoundLoad(int id, const char* path)
 {
     if (!device)
         return false;
-    HMMIO file = nullptr;
-    WAVEFORMATEX* format = nullptr;
-    MMCKINFO riff{};
-    MMCKINFO data{};
-    if (WaveOpen(path, &file, &format, &riff) != 0)
-        return false;
-    const bool loaded = WaveSeekData(file, &data, &riff) == 0 && SoundCreate(id, format, data.cksize) &&
-                        FillBuffer(*FindBuffer(id), file, data);
-    WaveClose(&file, &format);
+    const bool loaded = LoadWave(id, path);
+    if (!loaded)
+        ReportFile(path, "Can not load sound");
     return loaded;
 }
 

@@ -24,10 +24,12 @@ new_copy() {
     esac
 }
 
-# expect_error TEXT: the program ends by itself with code 0 and that text in its message box.
+# expect_error TEXT FILE: the program ends by itself with code 0, that text in its message box and the name of the file
+# that is at fault.
 expect_error() {
     timeout 60 ./tervalis 2>errors || fail "$PWD ended with $?"
     grep -qF "Error: $1" errors || fail "$PWD said: $(cat errors)"
+    grep -qxF "$2: $1" errors || fail "$PWD did not name $2"
     grep -qxF "CGame::Destroy" Log.txt || fail "$PWD did not log its end"
 }
 
@@ -56,14 +58,15 @@ start_elsewhere() {
 }
 
 new_copy empty empty
-expect_error "Can not load file"
+expect_error "Can not load file" 'Dat\Image/MainMenu.jpg'
 new_copy incomplete loose
 rm Dat/Image/stone.jpg
-expect_error "Can not load file"
+expect_error "Can not load file" 'Dat\Image/stone.jpg'
 new_copy damaged packed
 head -c 300 "$pictures/stone.jpg" >Dat/Image/stone.jpg # takes precedence over the pack
-expect_error "Can not load image"
+expect_error "Can not load image" 'Dat\Image/stone.jpg'
 new_copy 'pack\ed' packed # a back slash is a letter here
+cp -r "$program/Wav" .
 run_until HUP
 [ ! -s errors ] || fail "the program said: $(cat errors)"
 new_copy loose loose

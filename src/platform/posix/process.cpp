@@ -2,6 +2,7 @@
 #include "platform/posix/paths.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <unistd.h>
 
@@ -11,6 +12,11 @@ BOOL SetCurrentDirectoryA(LPCSTR path)
         return TRUE;
     SetLastError(ERROR_FILE_NOT_FOUND);
     return FALSE;
+}
+
+void OutputDebugStringA(LPCSTR text)
+{
+    std::fputs(text, stderr);
 }
 
 HGLOBAL GlobalAlloc(UINT, size_t bytes)
