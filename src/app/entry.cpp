@@ -1,16 +1,35 @@
 #include "app/game.h"
 #include "app/game_window.h"
+#include "gfx/error.h"
 #include "platform/gdi.h"
 #include "platform/kernel.h"
 #include "platform/window.h"
+
+#include <new>
 
 namespace
 {
 constexpr int ICON_ID = 101;
 
+/// A lack of memory ends the program as every failure does: through its window's end and the error box.
+void EndForLackOfMemory(HWND window)
+{
+    FailWith(ENGINE_ALLOCATE_MEMORY);
+    if (!DestroyWindow(window))
+        ShowLastError();
+}
+
+/// No exception leaves it, for its caller is the system.
 LRESULT CALLBACK ForwardToGame(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    return game.WndProc(window, message, wParam, lParam);
+    try {
+        return game.WndProc(window, message, wParam, lParam);
+    } catch (const std::bad_alloc&) {
+        EndForLackOfMemory(window);
+        if (message == WM_DESTROY) // cut short
+            PostQuitMessage(0);
+        return 0;
+    }
 }
 
 /// False when another copy of the program runs.
@@ -68,7 +87,12 @@ int RunMessageLoop()
 
 int RunGame(HINSTANCE instance)
 {
-    return CreateGameWindow(instance) ? RunMessageLoop() : 0;
+    try {
+        return CreateGameWindow(instance) ? RunMessageLoop() : 0;
+    } catch (const std::bad_alloc&) {
+        EndForLackOfMemory(gameWindow);
+        return 0;
+    }
 }
 
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int)

@@ -1,5 +1,6 @@
 #include "menu/menu.h"
 
+#include "gfx/error.h"
 #include "sound/sound.h"
 
 #include <new>
@@ -31,7 +32,7 @@ bool CMenu::MenuCreate(int menuX, int menuY, CImage* picture)
     buttons.reset(new (std::nothrow) MenuButton[MAX_BUTTONS]);
     toggles.reset(new (std::nothrow) MenuToggle[MAX_TOGGLES]);
     texts.reset(new (std::nothrow) MenuText[MAX_TEXTS]);
-    return buttons != nullptr && toggles != nullptr && texts != nullptr;
+    return (buttons != nullptr && toggles != nullptr && texts != nullptr) || FailWith(ENGINE_ALLOCATE_MEMORY);
 }
 
 void CMenu::MenuFree()
@@ -93,7 +94,7 @@ bool CMenu::AddText(int id, int boxX, int boxY, int boxWidth, int boxHeight, CIm
         return false;
     std::unique_ptr<char[]> buffer(new (std::nothrow) char[MENU_TEXT_SIZE]());
     if (buffer == nullptr)
-        return false;
+        return FailWith(ENGINE_ALLOCATE_MEMORY);
     texts[textCount++] = { .id = id,
                            .x = boxX,
                            .y = boxY,

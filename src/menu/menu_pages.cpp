@@ -115,9 +115,9 @@ constexpr RankingColumn rankingColumns[] = {
 };
 constexpr int RANKING_ROW_HEIGHT = 20;
 
-void CreateCentred(CMenu& page, CImage& picture)
+bool CreateCentred(CMenu& page, CImage& picture)
 {
-    page.MenuCreate((backBuffer.width - picture.width) / 2, (backBuffer.height - picture.height) / 2, &picture);
+    return page.MenuCreate((backBuffer.width - picture.width) / 2, (backBuffer.height - picture.height) / 2, &picture);
 }
 
 }
@@ -152,44 +152,52 @@ bool CSectionMenu::LoadImages()
     return true;
 }
 
-void CSectionMenu::BuildMainMenu()
+bool CSectionMenu::BuildMainMenu()
 {
-    mainMenu.MenuCreate(0, 0, &images[PICTURE_MAIN_MENU]);
+    const bool created = mainMenu.MenuCreate(0, 0, &images[PICTURE_MAIN_MENU]);
     for (const auto& [id, box, hoverPicture] : mainButtons)
         mainMenu.AddButton(id, box.x, box.y, box.width, box.height, nullptr, &images[hoverPicture], nullptr,
                            SOUND_MENU_HOVER, SOUND_MENU_CLICK);
+    return created;
 }
 
-void CSectionMenu::BuildOptionsPage()
+bool CSectionMenu::BuildOptionsPage()
 {
-    CreateCentred(optionsMenu, images[PICTURE_OPTIONS]);
+    bool created = CreateCentred(optionsMenu, images[PICTURE_OPTIONS]);
     for (const auto& [id, group, box, checkedPicture] : optionsToggles)
         optionsMenu.AddToggle(id, group, box.x, box.y, box.width, box.height, nullptr, nullptr, &images[checkedPicture],
                               SOUND_NONE, SOUND_NONE);
     for (const KeyBinding& binding : keyBindings)
-        optionsMenu.AddText(binding.field, binding.x, binding.y, KEY_FIELD_SIZE, KEY_FIELD_SIZE, nullptr, &largeFont,
-                            TEXT_WHITE, TEXT_YELLOW, ALIGN_CENTRE, KEY_CAPTURE, KEY_NAME_LENGTH);
+        created = created &&
+                  optionsMenu.AddText(binding.field, binding.x, binding.y, KEY_FIELD_SIZE, KEY_FIELD_SIZE, nullptr,
+                                      &largeFont, TEXT_WHITE, TEXT_YELLOW, ALIGN_CENTRE, KEY_CAPTURE, KEY_NAME_LENGTH);
+    return created;
 }
 
-void CSectionMenu::BuildRankingPage()
+bool CSectionMenu::BuildRankingPage()
 {
-    CreateCentred(rankingMenu, images[PICTURE_RANKING]);
+    if (!CreateCentred(rankingMenu, images[PICTURE_RANKING]))
+        return false;
     for (const auto& [firstId, top, room] : rankingColumns) {
         for (int place = 0; place < RANKING_PLACES; ++place) {
-            rankingMenu.AddText(firstId + place, top.x, top.y + RANKING_ROW_HEIGHT * place, top.width, top.height,
-                                nullptr, &smallFont, TEXT_WHITE, TEXT_YELLOW, ALIGN_CENTRE, TEXT_ENTRY,
-                                PLAYER_NAME_LENGTH);
+            if (!rankingMenu.AddText(firstId + place, top.x, top.y + RANKING_ROW_HEIGHT * place, top.width, top.height,
+                                     nullptr, &smallFont, TEXT_WHITE, TEXT_YELLOW, ALIGN_CENTRE, TEXT_ENTRY,
+                                     PLAYER_NAME_LENGTH))
+                return false;
             rankingMenu.FindText(firstId + place)->room = room;
         }
     }
+    return true;
 }
 
-void CSectionMenu::BuildHelpPages()
+bool CSectionMenu::BuildHelpPages()
 {
     for (int page = 0; page < HELP_PAGES; ++page) {
-        CreateCentred(helpMenus[page], images[PICTURE_HELP_FIRST + page]);
+        if (!CreateCentred(helpMenus[page], images[PICTURE_HELP_FIRST + page]))
+            return false;
         AddHelpButtons(helpMenus[page], BUTTON_HELP_FIRST, page);
     }
+    return true;
 }
 
 void CSectionMenu::BuildFootButtons()
@@ -200,10 +208,8 @@ void CSectionMenu::BuildFootButtons()
 
 bool CSectionMenu::BuildPages()
 {
-    BuildMainMenu();
-    BuildOptionsPage();
-    BuildRankingPage();
-    BuildHelpPages();
+    if (!BuildMainMenu() || !BuildOptionsPage() || !BuildRankingPage() || !BuildHelpPages())
+        return false;
     BuildFootButtons();
     return true;
 }

@@ -65,10 +65,10 @@ private:
     bool LoadFonts();
     bool LoadImages();
     bool BuildPages();
-    void BuildMainMenu();
-    void BuildOptionsPage();
-    void BuildRankingPage();
-    void BuildHelpPages();
+    bool BuildMainMenu();
+    bool BuildOptionsPage();
+    bool BuildRankingPage();
+    bool BuildHelpPages();
     void BuildFootButtons();
 
     void DrawBackground();

@@ -87,8 +87,9 @@ int CSectionMenu::SettingsLoad()
         ReadName(key, PlaceName("Name", place).text, rankNames[place]);
     for (int place = 0; place < RANKING_PLACES; ++place)
         rankScores[place] = static_cast<int32_t>(ReadNumber(key, PlaceName("Rank", place).text, 0));
-    settingsRead = true;
-    return RegCloseKey(key);
+    const LONG result = RegCloseKey(key); // a failure when a value was there but could not be read
+    settingsRead = result == static_cast<LONG>(ERROR_SUCCESS);
+    return result;
 }
 
 int CSectionMenu::SettingsSave()

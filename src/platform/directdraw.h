@@ -7,6 +7,7 @@
 #include "platform/types.h"
 
 constexpr HRESULT DD_OK = 0;
+constexpr HRESULT DDERR_OUTOFMEMORY = static_cast<HRESULT>(0x8007000E);
 constexpr HRESULT DDERR_GENERIC = static_cast<HRESULT>(0x80004005);
 constexpr HRESULT DDERR_SURFACELOST = static_cast<HRESULT>(0x887601C2);
 constexpr DWORD DDSCL_FULLSCREEN = 0x00000001;

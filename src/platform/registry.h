@@ -21,6 +21,7 @@ LONG RegCreateKeyExA(HKEY parent, LPCSTR subKey, DWORD reserved, LPSTR keyClass,
 /// ERROR_FILE_NOT_FOUND when there is no such value, ERROR_MORE_DATA when it is longer than `*size`.
 LONG RegQueryValueExA(HKEY key, LPCSTR name, DWORD* reserved, DWORD* type, BYTE* data, DWORD* size);
 LONG RegSetValueExA(HKEY key, LPCSTR name, DWORD reserved, DWORD type, const BYTE* data, DWORD size);
-/// Writes what was set since the key was opened, whole or not at all, and closes it.
+/// Writes what was set since the key was opened, whole or not at all, and closes it. Nothing is written, and the result
+/// is ERROR_NOT_ENOUGH_MEMORY, when memory lacked for one of the values read or set.
 LONG RegCloseKey(HKEY key);
 #endif

@@ -1,6 +1,7 @@
 #include "support/allocations.h"
 
 #include <atomic>
+#include <cstddef>
 #include <cstdlib>
 #include <new>
 
@@ -8,6 +9,25 @@ namespace
 {
 std::atomic<int> allocations = 0;
 std::atomic<int> planesUntilFailure = 0;
+std::atomic<int> failingRequest = 0; ///< as `allocations` counts; 0: none
+std::atomic<bool> allBehindFail = false;
+
+/// Null where the test wants no memory to be found.
+void* Allocate(size_t size, size_t alignment)
+{
+    const int request = ++allocations;
+    const int failing = failingRequest;
+    if (failing != 0 && (request == failing || (request > failing && allBehindFail)))
+        return nullptr;
+    return std::aligned_alloc(alignment, (size + alignment) / alignment * alignment);
+}
+
+void* AllocateOrThrow(size_t size)
+{
+    if (void* memory = Allocate(size, alignof(std::max_align_t)))
+        return memory;
+    throw std::bad_alloc();
+}
 }
 
 int AllocationCount()
@@ -20,22 +40,38 @@ void FailPlane(int number)
     planesUntilFailure = number;
 }
 
-// Most other forms of `new` call the first. Planes use the second, written out because a sanitiser's do not.
+void FailAllocation(int number, bool andAllBehind)
+{
+    failingRequest = number != 0 ? allocations + number : 0;
+    allBehindFail = andAllBehind;
+}
+
+// All forms that the program uses, written out because a sanitiser's do not call each other.
 void* operator new(size_t size)
 {
-    ++allocations;
-    if (void* memory = std::malloc(size != 0 ? size : 1))
-        return memory;
-    throw std::bad_alloc();
+    return AllocateOrThrow(size);
+}
+
+void* operator new[](size_t size)
+{
+    return AllocateOrThrow(size);
+}
+
+void* operator new(size_t size, const std::nothrow_t&) noexcept
+{
+    return Allocate(size, alignof(std::max_align_t));
+}
+
+void* operator new[](size_t size, const std::nothrow_t&) noexcept
+{
+    return Allocate(size, alignof(std::max_align_t));
 }
 
 void* operator new[](size_t size, std::align_val_t alignment, const std::nothrow_t&) noexcept
 {
-    ++allocations;
     if (planesUntilFailure > 0 && --planesUntilFailure == 0)
         return nullptr;
-    const auto unit = static_cast<size_t>(alignment);
-    return std::aligned_alloc(unit, (size + unit - 1) / unit * unit);
+    return Allocate(size, static_cast<size_t>(alignment));
 }
 
 void operator delete[](void* memory, std::align_val_t) noexcept
@@ -49,6 +85,16 @@ void operator delete(void* memory) noexcept
 }
 
 void operator delete(void* memory, size_t) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete[](void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete[](void* memory, size_t) noexcept
 {
     std::free(memory);
 }

@@ -1,9 +1,11 @@
 #include "platform/posix/kernel_object.h"
+#include "platform/posix/out_of_memory.h"
 #include "platform/posix/paths.h"
 
 #include <cerrno>
 #include <cstdint>
 #include <fcntl.h>
+#include <memory>
 #include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -13,10 +15,13 @@ namespace
 constexpr DWORD FAILED = 0xFFFFFFFF; ///< what sizes and positions are on failure
 
 struct OpenFile final : KernelObject {
-    explicit OpenFile(int openDescriptor) : descriptor(openDescriptor) {}
-    ~OpenFile() override { close(descriptor); }
+    ~OpenFile() override
+    {
+        if (descriptor >= 0)
+            close(descriptor);
+    }
 
-    const int descriptor;
+    int descriptor = -1;
 };
 
 /// Null, with the error set, when the handle is no open file.
@@ -62,26 +67,31 @@ std::optional<size_t> ReadFully(int descriptor, char* buffer, size_t size)
     }
     return done;
 }
+
+HANDLE FailToOpen(DWORD error)
+{
+    SetLastError(error);
+    return INVALID_HANDLE_VALUE;
+}
+
+HANDLE OpenExisting(LPCSTR path)
+{
+    auto file = std::make_unique<OpenFile>();
+    // Without blocking: a pipe that lies under a picture's name must not stop the game.
+    file->descriptor = open(ResolvePath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+    if (file->descriptor < 0)
+        return FailToOpen(OpenError());
+    if (!IsRegularFile(file->descriptor))
+        return FailToOpen(ERROR_ACCESS_DENIED);
+    return HandleOf(file.release());
+}
 }
 
 HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD, SECURITY_ATTRIBUTES*, DWORD disposition, DWORD, HANDLE)
 {
-    if (access != GENERIC_READ || disposition != OPEN_EXISTING) {
-        SetLastError(ERROR_ACCESS_DENIED);
-        return INVALID_HANDLE_VALUE;
-    }
-    // Without blocking: a pipe that lies under a picture's name must not stop the game.
-    const int descriptor = open(ResolvePath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
-    if (descriptor < 0) {
-        SetLastError(OpenError());
-        return INVALID_HANDLE_VALUE;
-    }
-    if (!IsRegularFile(descriptor)) {
-        close(descriptor);
-        SetLastError(ERROR_ACCESS_DENIED);
-        return INVALID_HANDLE_VALUE;
-    }
-    return HandleOf(new OpenFile(descriptor));
+    if (access != GENERIC_READ || disposition != OPEN_EXISTING)
+        return FailToOpen(ERROR_ACCESS_DENIED);
+    return OrOutOfMemory(INVALID_HANDLE_VALUE, [path] { return OpenExisting(path); });
 }
 
 BOOL ReadFile(HANDLE handle, LPVOID buffer, DWORD size, LPDWORD bytesRead, OVERLAPPED*)

@@ -1,9 +1,11 @@
 #include "platform/gdi.h"
 
 #include "platform/posix/font_face.h"
+#include "platform/posix/out_of_memory.h"
 
 #include <ft2build.h>
 #include <memory>
+#include <new>
 #include <utility>
 #include <vector>
 #include FT_FREETYPE_H
@@ -40,7 +42,12 @@ MemoryContext* ContextOf(HDC context)
 int stockBrush = BLACK_BRUSH;
 
 /// Fonts live until they are deleted or the process ends, so the table is never destroyed.
-std::vector<std::unique_ptr<FontFace>>& fonts = *new std::vector<std::unique_ptr<FontFace>>;
+union FontTable {
+    constexpr FontTable() : fonts() {}
+    ~FontTable() {}
+    std::vector<std::unique_ptr<FontFace>> fonts;
+};
+constinit FontTable table;
 
 DWORD RowBytes(const FT_Bitmap& bitmap)
 {
@@ -82,7 +89,7 @@ HGDIOBJ GetStockObject(int object)
 
 HDC CreateCompatibleDC(HDC)
 {
-    return reinterpret_cast<HDC>(new MemoryContext);
+    return reinterpret_cast<HDC>(new (std::nothrow) MemoryContext);
 }
 
 BOOL DeleteDC(HDC context)
@@ -101,7 +108,7 @@ HGDIOBJ SelectObject(HDC context, HGDIOBJ object)
 
 BOOL DeleteObject(HGDIOBJ object)
 {
-    std::erase_if(fonts, [object](const auto& font) { return font.get() == object; });
+    std::erase_if(table.fonts, [object](const auto& font) { return font.get() == object; });
     return object != nullptr;
 }
 
@@ -110,10 +117,12 @@ HFONT CreateFontA(int height, int width, int, int, int weight, DWORD, DWORD, DWO
 {
     if (height <= 0 || width < 0)
         return nullptr;
-    std::unique_ptr<FontFace> font = FontFace::Find(face, weight, height, width);
-    if (font == nullptr)
-        return nullptr;
-    return reinterpret_cast<HFONT>(fonts.emplace_back(std::move(font)).get());
+    return OrOutOfMemory<HFONT>(nullptr, [=]() -> HFONT {
+        std::unique_ptr<FontFace> font = FontFace::Find(face, weight, height, width);
+        if (font == nullptr)
+            return nullptr;
+        return reinterpret_cast<HFONT>(table.fonts.emplace_back(std::move(font)).get());
+    });
 }
 
 BOOL GetTextMetricsA(HDC context, TEXTMETRICA* metrics)

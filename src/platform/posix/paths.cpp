@@ -1,55 +1,49 @@
 #include "platform/posix/paths.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <string_view>
+#include <dirent.h>
+#include <memory>
 #include <strings.h>
-#include <system_error>
-
-namespace fs = std::filesystem;
+#include <unistd.h>
 
 namespace
 {
-bool Exists(const fs::path& path)
+struct FolderClose {
+    void operator()(DIR* folder) const { closedir(folder); }
+};
+
+bool Exists(const std::string& path)
 {
-    std::error_code error;
-    return fs::exists(path, error);
+    return access(path.c_str(), F_OK) == 0;
 }
 
 /// The entry of `folder` that is `name` but for letter case, the first in byte order; empty when there is none.
-std::string FindIgnoringCase(const fs::path& folder, const std::string& name)
+std::string FindIgnoringCase(const std::string& folder, const std::string& name)
 {
     std::string found;
-    std::error_code error;
-    fs::directory_iterator entries(folder.empty() ? fs::path(".") : folder, error);
-    for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
-        const std::string entry = entries->path().filename().string();
-        if (strcasecmp(entry.c_str(), name.c_str()) == 0 && (found.empty() || entry < found))
-            found = entry;
-    }
+    const std::unique_ptr<DIR, FolderClose> entries(opendir(folder.empty() ? "." : folder.c_str()));
+    while (const dirent* entry = entries ? readdir(entries.get()) : nullptr)
+        if (strcasecmp(entry->d_name, name.c_str()) == 0 && (found.empty() || found > entry->d_name))
+            found = entry->d_name;
     return found;
 }
 }
 
 std::string ResolvePath(const char* path)
 {
-    std::string written = path ? path : "";
-    if (Exists(written))
-        return written;
-    std::replace(written.begin(), written.end(), '\\', '/');
-    if (written.empty() || Exists(written))
-        return written;
-
-    fs::path resolved;
-    bool lost = false;
-    for (const fs::path& component : fs::path(written)) {
-        if (!lost && !Exists(resolved / component)) {
-            const std::string entry = FindIgnoringCase(resolved, component.string());
-            lost = entry.empty();
-            resolved /= lost ? component : fs::path(entry);
-        } else {
-            resolved /= component;
+    std::string resolved = path ? path : "";
+    if (Exists(resolved))
+        return resolved;
+    std::ranges::replace(resolved, '\\', '/');
+    for (size_t begin = 0; begin < resolved.size();) {
+        const size_t end = std::min(resolved.find('/', begin), resolved.size());
+        if (end > begin && !Exists(resolved.substr(0, end))) {
+            const std::string entry = FindIgnoringCase(resolved.substr(0, begin), resolved.substr(begin, end - begin));
+            if (entry.empty())
+                break;
+            resolved.replace(begin, entry.size(), entry); // of the same length
         }
+        begin = end + 1;
     }
-    return resolved.string();
+    return resolved;
 }

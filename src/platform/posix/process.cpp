@@ -1,4 +1,5 @@
 #include "platform/posix/kernel_object.h"
+#include "platform/posix/out_of_memory.h"
 #include "platform/posix/paths.h"
 
 #include <algorithm>
@@ -8,10 +9,12 @@
 
 BOOL SetCurrentDirectoryA(LPCSTR path)
 {
-    if (chdir(ResolvePath(path).c_str()) == 0)
-        return TRUE;
-    SetLastError(ERROR_FILE_NOT_FOUND);
-    return FALSE;
+    return OrOutOfMemory(FALSE, [path] {
+        if (chdir(ResolvePath(path).c_str()) == 0)
+            return TRUE;
+        SetLastError(ERROR_FILE_NOT_FOUND);
+        return FALSE;
+    });
 }
 
 void OutputDebugStringA(LPCSTR text)

@@ -1,5 +1,6 @@
 #include "platform/registry.h"
 
+#include "platform/posix/out_of_memory.h"
 #include "platform/posix/safe_file.h"
 #include "platform/posix/toml.h"
 #include "platform/posix/user_folders.h"
@@ -15,6 +16,7 @@ struct HKEY__ {
     std::string path;
     toml::table values;
     bool changed = false;
+    bool isWhole = true; ///< false: a value was lost for lack of memory, on its way in or out
 };
 
 namespace
@@ -144,12 +146,8 @@ LONG LoadValues(const std::string& path, toml::table& values)
     return Code(ERROR_SUCCESS);
 }
 
-}
-
-LONG RegCreateKeyExA(HKEY parent, LPCSTR subKey, DWORD, LPSTR, DWORD, DWORD, SECURITY_ATTRIBUTES*, HKEY* key, DWORD*)
+LONG OpenKey(LPCSTR subKey, HKEY* key)
 {
-    if (parent != HKEY_CURRENT_USER || key == nullptr)
-        return Code(ERROR_INVALID_HANDLE);
     const std::string folder = KeyFolder(subKey);
     if (folder.empty())
         return Code(ERROR_FILE_NOT_FOUND);
@@ -163,35 +161,61 @@ LONG RegCreateKeyExA(HKEY parent, LPCSTR subKey, DWORD, LPSTR, DWORD, DWORD, SEC
     return Code(ERROR_SUCCESS);
 }
 
-LONG RegQueryValueExA(HKEY key, LPCSTR name, DWORD*, DWORD* type, BYTE* data, DWORD* size)
+/// Hands a value out as the system does: only its size, or all of it.
+LONG CopyValue(const Value& value, DWORD* type, BYTE* data, DWORD* size)
 {
-    if (!IsOpenKey(key) || (data != nullptr && size == nullptr))
-        return Code(ERROR_INVALID_HANDLE);
-    const auto value = Fetch(key->values, name != nullptr ? name : "");
-    if (!value)
-        return Code(ERROR_FILE_NOT_FOUND);
     if (type != nullptr)
-        *type = value->type;
+        *type = value.type;
     if (size == nullptr)
         return Code(ERROR_SUCCESS);
     const DWORD room = *size;
-    *size = static_cast<DWORD>(value->bytes.size());
+    *size = static_cast<DWORD>(value.bytes.size());
     if (data == nullptr)
         return Code(ERROR_SUCCESS);
     if (room < *size)
         return Code(ERROR_MORE_DATA);
-    value->bytes.copy(reinterpret_cast<char*>(data), value->bytes.size());
+    value.bytes.copy(reinterpret_cast<char*>(data), value.bytes.size());
     return Code(ERROR_SUCCESS);
+}
+
+/// One access to an open key's values.
+template <class Access>
+LONG Guard(HKEY key, Access access)
+{
+    const LONG result = OrOutOfMemory(Code(ERROR_NOT_ENOUGH_MEMORY), access);
+    key->isWhole = key->isWhole && result != Code(ERROR_NOT_ENOUGH_MEMORY);
+    return result;
+}
+
+}
+
+LONG RegCreateKeyExA(HKEY parent, LPCSTR subKey, DWORD, LPSTR, DWORD, DWORD, SECURITY_ATTRIBUTES*, HKEY* key, DWORD*)
+{
+    if (parent != HKEY_CURRENT_USER || key == nullptr)
+        return Code(ERROR_INVALID_HANDLE);
+    return OrOutOfMemory(Code(ERROR_NOT_ENOUGH_MEMORY), [=] { return OpenKey(subKey, key); });
+}
+
+LONG RegQueryValueExA(HKEY key, LPCSTR name, DWORD*, DWORD* type, BYTE* data, DWORD* size)
+{
+    if (!IsOpenKey(key) || (data != nullptr && size == nullptr))
+        return Code(ERROR_INVALID_HANDLE);
+    return Guard(key, [=] {
+        const auto value = Fetch(key->values, name != nullptr ? name : "");
+        return value ? CopyValue(*value, type, data, size) : Code(ERROR_FILE_NOT_FOUND);
+    });
 }
 
 LONG RegSetValueExA(HKEY key, LPCSTR name, DWORD, DWORD type, const BYTE* data, DWORD size)
 {
     if (!IsOpenKey(key) || (data == nullptr && size != 0))
         return Code(ERROR_INVALID_HANDLE);
-    const std::string bytes = size != 0 ? std::string(reinterpret_cast<const char*>(data), size) : "";
-    Store(key->values, name != nullptr ? name : "", Value{ type, bytes });
-    key->changed = true;
-    return Code(ERROR_SUCCESS);
+    return Guard(key, [=] {
+        const std::string bytes = size != 0 ? std::string(reinterpret_cast<const char*>(data), size) : "";
+        Store(key->values, name != nullptr ? name : "", Value{ type, bytes });
+        key->changed = true;
+        return Code(ERROR_SUCCESS);
+    });
 }
 
 LONG RegCloseKey(HKEY key)
@@ -199,5 +223,9 @@ LONG RegCloseKey(HKEY key)
     if (!IsOpenKey(key))
         return Code(ERROR_INVALID_HANDLE);
     const std::unique_ptr<HKEY__> closing(key);
-    return closing->changed ? ReplaceSmallFile(closing->path, FormatToml(closing->values)) : Code(ERROR_SUCCESS);
+    if (!closing->isWhole)
+        return Code(ERROR_NOT_ENOUGH_MEMORY);
+    return OrOutOfMemory(Code(ERROR_NOT_ENOUGH_MEMORY), [&] {
+        return closing->changed ? ReplaceSmallFile(closing->path, FormatToml(closing->values)) : Code(ERROR_SUCCESS);
+    });
 }

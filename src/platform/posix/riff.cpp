@@ -1,4 +1,5 @@
 #include "platform/multimedia.h"
+#include "platform/posix/out_of_memory.h"
 #include "platform/posix/paths.h"
 
 #include <algorithm>
@@ -111,9 +112,11 @@ MMRESULT ReadChunkHeader(HMMIO file, MMCKINFO& chunk)
 
 HMMIO mmioOpenA(LPSTR path, MMIOINFO*, DWORD)
 {
-    auto file = std::make_unique<HMMIO__>();
-    file->descriptor = OpenFile(path);
-    return file->descriptor < 0 ? nullptr : file.release();
+    return OrOutOfMemory<HMMIO>(nullptr, [path] {
+        auto file = std::make_unique<HMMIO__>();
+        file->descriptor = OpenFile(path);
+        return file->descriptor < 0 ? nullptr : file.release();
+    });
 }
 
 MMRESULT mmioClose(HMMIO file, UINT)

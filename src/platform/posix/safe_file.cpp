@@ -3,9 +3,9 @@
 #include "platform/kernel.h"
 
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <fcntl.h>
-#include <filesystem>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -53,20 +53,6 @@ LONG LastCode(DWORD otherwise)
     }
 }
 
-/// The file itself where `path` is a link, also when it is not there yet.
-std::string ResolveLink(const std::string& path)
-{
-    std::filesystem::path file = path;
-    std::error_code error;
-    for (int i = 0; i < MAX_LINKS; ++i) {
-        const std::filesystem::path next = std::filesystem::read_symlink(file, error);
-        if (error)
-            break;
-        file = file.parent_path() / next;
-    }
-    return file.string();
-}
-
 /// One writer at a time. False where folders cannot be locked, or when another program keeps the lock: saving must not
 /// hold up the player for longer than a moment. The system drops the lock of a program that dies.
 bool LockFolder(int folder)
@@ -85,6 +71,21 @@ std::string FolderOf(const std::string& path)
 {
     const size_t slash = path.rfind('/');
     return slash == std::string::npos ? "." : path.substr(0, slash + 1);
+}
+
+/// The file itself where `path` is a link, also when it is not there yet.
+std::string ResolveLink(const std::string& path)
+{
+    std::string file = path;
+    char target[PATH_MAX];
+    for (int i = 0; i < MAX_LINKS; ++i) {
+        const ssize_t length = readlink(file.c_str(), target, sizeof target);
+        if (length < 0)
+            break;
+        const std::string next(target, static_cast<size_t>(length));
+        file = next.starts_with('/') ? next : FolderOf(file) + "/" + next;
+    }
+    return file;
 }
 
 bool WriteAll(int fd, const std::string& content)

@@ -1,5 +1,6 @@
 #include "platform/shell.h"
 
+#include "platform/posix/out_of_memory.h"
 #include "platform/posix/paths.h"
 
 #include <cerrno>
@@ -89,8 +90,10 @@ HINSTANCE ShellExecuteA(HWND, LPCSTR, LPCSTR file, LPCSTR, LPCSTR, int)
 {
     if (file == nullptr)
         return Result(SHELL_NO_FILE);
-    const std::string target = IsAddress(file) ? file : FullPath(file);
-    if (target.empty())
-        return Result(SHELL_NO_FILE);
-    return Result(StartOpener(target) ? SHELL_STARTED : SHELL_FAILED);
+    return OrOutOfMemory(Result(SHELL_FAILED), [file] {
+        const std::string target = IsAddress(file) ? file : FullPath(file);
+        if (target.empty())
+            return Result(SHELL_NO_FILE);
+        return Result(StartOpener(target) ? SHELL_STARTED : SHELL_FAILED);
+    });
 }

@@ -1,4 +1,5 @@
 #include "platform/directdraw.h"
+#include "platform/posix/out_of_memory.h"
 #include "platform/release.h"
 #include "platform/sdl/native_window.h"
 #include "platform/sdl/present.h"
@@ -30,6 +31,16 @@ public:
 private:
     ULONG references = 1;
 };
+
+/// The result of a call that makes an object.
+template <class Interface, class Make>
+HRESULT MakeObject(Interface** object, Make make)
+{
+    return OrOutOfMemory(DDERR_OUTOFMEMORY, [=] {
+        *object = make();
+        return DD_OK;
+    });
+}
 
 /// Frames always fill the window's screen, so there is nothing to clip.
 class CClipper final : public CCounted<IDirectDrawClipper>
@@ -152,8 +163,7 @@ public:
 
     HRESULT CreateClipper(DWORD, IDirectDrawClipper** clipper, IUnknown*) override
     {
-        *clipper = new CClipper;
-        return DD_OK;
+        return MakeObject(clipper, [] { return new CClipper; });
     }
 
     /// Only the screen with one back surface, in full screen.
@@ -162,8 +172,7 @@ public:
         const bool isScreen = description->ddsCaps.dwCaps & DDSCAPS_PRIMARYSURFACE;
         if (!isFullScreen || !isScreen || description->dwBackBufferCount != 1)
             return DDERR_GENERIC;
-        *surface = new CPrimarySurface(window, frameSize);
-        return DD_OK;
+        return MakeObject(surface, [this] { return new CPrimarySurface(window, frameSize); });
     }
 
     HRESULT RestoreDisplayMode() override
@@ -206,6 +215,5 @@ private:
 
 HRESULT DirectDrawCreate(GUID*, IDirectDraw** directDraw, IUnknown*)
 {
-    *directDraw = new CDirectDraw;
-    return DD_OK;
+    return MakeObject(directDraw, [] { return new CDirectDraw; });
 }

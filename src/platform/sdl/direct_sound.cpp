@@ -1,4 +1,5 @@
 #include "platform/directsound.h"
+#include "platform/posix/out_of_memory.h"
 #include "platform/sdl/sound_output.h"
 
 #include <memory>
@@ -134,11 +135,11 @@ HRESULT SoundDevice::CreateSoundBuffer(const DSBUFFERDESC* description, IDirectS
         return DSERR_INVALIDPARAM;
     *buffer = nullptr;
     if ((description->dwFlags & DSBCAPS_PRIMARYBUFFER) == 0)
-        return CreateStaticBuffer(*description, buffer);
+        return OrOutOfMemory(DSERR_OUTOFMEMORY, [=, this] { return CreateStaticBuffer(*description, buffer); });
     if (description->dwBufferBytes != 0 || description->lpwfxFormat)
         return DSERR_INVALIDPARAM;
-    *buffer = new PrimaryBuffer(output);
-    return DS_OK;
+    *buffer = new (std::nothrow) PrimaryBuffer(output);
+    return *buffer ? DS_OK : DSERR_OUTOFMEMORY;
 }
 
 HRESULT SoundDevice::CreateStaticBuffer(const DSBUFFERDESC& description, IDirectSoundBuffer** buffer)
@@ -163,15 +164,17 @@ HRESULT DirectSoundCreate(const GUID*, IDirectSound** directSound, IUnknown*)
 {
     if (!directSound)
         return DSERR_INVALIDPARAM;
-    const char* const hint = SDL_GetHint(SDL_HINT_AUDIODRIVER);
-    const std::string driver = hint ? hint : "";
-    if (driver == failedDriver)
-        return DSERR_NODRIVER;
-    auto output = std::make_shared<SoundOutput>();
-    if (!output->Open()) {
-        failedDriver = driver;
-        return DSERR_NODRIVER;
-    }
-    *directSound = new SoundDevice(std::move(output));
-    return DS_OK;
+    return OrOutOfMemory(DSERR_OUTOFMEMORY, [directSound] {
+        const char* const hint = SDL_GetHint(SDL_HINT_AUDIODRIVER);
+        const std::string driver = hint ? hint : "";
+        if (driver == failedDriver)
+            return DSERR_NODRIVER;
+        auto output = std::make_shared<SoundOutput>();
+        if (!output->Open()) {
+            failedDriver = driver;
+            return DSERR_NODRIVER;
+        }
+        *directSound = new SoundDevice(std::move(output));
+        return DS_OK;
+    });
 }

@@ -2,8 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
-#include <vector>
+#include <cstring>
 
 namespace
 {
@@ -62,8 +61,13 @@ bool CFrameView::SetFrameSize(SDL_Point newSize)
     if (!frame)
         return false;
     SDL_SetTextureScaleMode(frame, SDL_ScaleModeNearest);
-    const std::vector<uint16_t> black(static_cast<size_t>(size.x) * static_cast<size_t>(size.y));
-    return Update({ 0, 0, size.x, size.y }, black.data(), size.x * 2);
+    void* pixels = nullptr;
+    int rowBytes = 0;
+    if (SDL_LockTexture(frame, nullptr, &pixels, &rowBytes) != 0)
+        return false;
+    std::memset(pixels, 0, static_cast<size_t>(rowBytes) * static_cast<size_t>(size.y)); // black
+    SDL_UnlockTexture(frame);
+    return true;
 }
 
 bool CFrameView::Update(const SDL_Rect& area, const void* pixels, int rowBytes)
