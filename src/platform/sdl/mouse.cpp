@@ -31,6 +31,15 @@ LPARAM PositionWord(int x, int y)
     const POINT position = nativeWindow.view.FramePosition(x, y);
     return MAKELPARAM(position.x, position.y);
 }
+
+/// Posts the release of those of the buttons that are down.
+void ReleaseButtons(Uint32 mask)
+{
+    for (const ButtonMessages& row : buttonMessages)
+        if (heldButtons & mask & SDL_BUTTON(row.button))
+            PostToWindow(row.up, 0, lastPosition);
+    heldButtons &= ~mask;
+}
 }
 
 void HandleMotion(const SDL_MouseMotionEvent& event)
@@ -58,19 +67,20 @@ void HandleButton(const SDL_MouseButtonEvent& event)
 
 void ReleaseHeldButtons()
 {
-    for (const ButtonMessages& row : buttonMessages)
-        if (heldButtons & SDL_BUTTON(row.button))
-            PostToWindow(row.up, 0, lastPosition);
-    heldButtons = 0;
+    ReleaseButtons(heldButtons);
 }
 
 void FindMissedReleases()
 {
-    const Uint32 suspects = SDL_GetMouseState(nullptr, nullptr) & ~heldButtons & ~missedReleases;
-    if (suspects == 0 || (suspects & SDL_GetGlobalMouseState(nullptr, nullptr)))
+    const Uint32 heldForSdl = SDL_GetMouseState(nullptr, nullptr) & ~missedReleases;
+    const Uint32 missed = heldForSdl != 0 ? heldForSdl & ~SDL_GetGlobalMouseState(nullptr, nullptr) : 0;
+    if (missed == 0)
         return;
-    SDL_PumpEvents(); // the release may just be on its way
-    missedReleases |= suspects & SDL_GetMouseState(nullptr, nullptr);
+    SDL_PumpEvents();
+    if (SDL_HasEvents(SDL_MOUSEBUTTONDOWN, SDL_MOUSEBUTTONUP))
+        return; // the release was just on its way
+    missedReleases |= missed;
+    ReleaseButtons(missed);
 }
 
 HCURSOR LoadCursorA(HINSTANCE, LPCSTR name)

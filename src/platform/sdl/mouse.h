@@ -9,5 +9,5 @@ void HandleButton(const SDL_MouseButtonEvent& event);
 /// Posts the release of every button that is down, so that none stays held when the mouse goes elsewhere.
 void ReleaseHeldButtons();
 
-/// Notes the buttons that were let go where SDL did not see it; to be asked when all events have been handled.
+/// Releases the buttons that were let go where SDL did not see it; to be called when all events have been handled.
 void FindMissedReleases();
