@@ -91,6 +91,16 @@ lose_and_regain_focus() {
     await "the game stands still without the focus" rests
     kill $other
     await "the game goes on" plays
+    xdotool mousedown 1 windowminimize "$window"
+    await "the window is minimised" eval 'xprop -id "$window" WM_STATE | grep -q Iconic'
+    xdotool mouseup 1 # where the window does not hear of it
+    wmctrl -a Tervalis
+    await "the game goes on" plays
+    point_at 29 440
+    await "the button is no longer held" plays
+    xdotool click 1
+    await "the first click pauses" shows MessagePaused.jpg $PANEL
+    press space "the game goes on" plays
 }
 
 leave_game() {
