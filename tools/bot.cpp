@@ -21,11 +21,11 @@ constexpr int OWN_MARGIN = 1; ///< cells that a body may grow on the way
 constexpr int OTHER_MARGIN = 3;
 constexpr int FEARED_STEPS = 2; ///< how far ahead of the other's head it keeps
 
-int CourseOfKey(int player, int key)
+int DirectionOfKey(int player, int key)
 {
     const auto* keys = testKeys[player];
     const auto* found = std::find(keys, keys + 4, static_cast<uint32_t>(key));
-    return found == keys + 4 ? NO_COURSE : static_cast<int>(found - keys);
+    return found == keys + 4 ? NO_DIRECTION : static_cast<int>(found - keys);
 }
 
 /// The cell whose grid point a segment stands on or reaches next.
@@ -33,10 +33,10 @@ int CellAhead(const Segment& segment, int player)
 {
     int x = segment.x;
     int y = segment.y;
-    const int course = CourseOfKey(player, segment.dir);
-    if (course == NO_COURSE)
+    const int direction = DirectionOfKey(player, segment.dir);
+    if (direction == NO_DIRECTION)
         return NO_CELL;
-    if (courses[course].dx > 0 || courses[course].dy > 0) {
+    if (directions[direction].dx > 0 || directions[direction].dy > 0) {
         x += CELL_SIZE - 1;
         y += CELL_SIZE - 1;
     }
@@ -44,10 +44,10 @@ int CellAhead(const Segment& segment, int player)
 }
 }
 
-int Neighbour(int cell, int course)
+int Neighbour(int cell, int direction)
 {
-    const int column = (cell % CELL_COLUMNS + courses[course].dx + CELL_COLUMNS) % CELL_COLUMNS;
-    const int row = (cell / CELL_COLUMNS + courses[course].dy + CELL_ROWS) % CELL_ROWS;
+    const int column = (cell % CELL_COLUMNS + directions[direction].dx + CELL_COLUMNS) % CELL_COLUMNS;
+    const int row = (cell / CELL_COLUMNS + directions[direction].dy + CELL_ROWS) % CELL_ROWS;
     return row * CELL_COLUMNS + column;
 }
 
@@ -76,36 +76,36 @@ int Bot::KeyFor(int player, int frame)
         snake.turnCount > 0 || snake.startPressed)
         return 0;
     constexpr int CLOCKWISE[] = { 3, 2, 0, 1 };
-    const int course = CourseOfKey(player, snake.segments[0].dir);
-    if (course == NO_COURSE)
+    const int direction = DirectionOfKey(player, snake.segments[0].dir);
+    if (direction == NO_DIRECTION)
         return 0;
     const bool isReckless =
         (frame >= style.recklessFrom || pond.statusBar.level >= style.recklessLevel) && !snake.isWaiting;
-    int wanted = isReckless ? CLOCKWISE[course] : WantedCourse(player);
-    if (wanted == NO_COURSE)
-        wanted = course; // nowhere to go: a waiting snake starts nevertheless, it is safe at first
-    if (wanted == course && !snake.isWaiting)
+    int wanted = isReckless ? CLOCKWISE[direction] : WantedDirection(player);
+    if (wanted == NO_DIRECTION)
+        wanted = direction; // nowhere to go: a waiting snake starts nevertheless, it is safe at first
+    if (wanted == direction && !snake.isWaiting)
         return 0;
     return static_cast<int>(testKeys[player][wanted]);
 }
 
-int Bot::WantedCourse(int player)
+int Bot::WantedDirection(int player)
 {
     const CSnake& snake = pond.snake[player];
     const Segment& head = snake.segments[0];
     const int start = CellAhead(head, player);
-    const int course = CourseOfKey(player, head.dir);
-    const int behind = Neighbour(start, static_cast<int>(courses[course].reverse));
+    const int direction = DirectionOfKey(player, head.dir);
+    const int behind = Neighbour(start, static_cast<int>(directions[direction].reverse));
     Survey(player);
     SearchFrom(start, snake.isWaiting ? NO_CELL : behind);
     roomNeeded = snake.length + SPARE_ROOM;
     if (style.firesAtGold && snake.lastColour == ORANGE && snake.streak == STREAK_BEFORE_LASER) {
-        const int aimed = CourseToAim(start);
-        if (aimed != NO_COURSE)
+        const int aimed = DirectionToAim(start);
+        if (aimed != NO_DIRECTION)
             return aimed;
     }
     const int target = BestTarget(snake, start);
-    return target != NO_TARGET ? FirstCourseTo(target, start) : RoomiestCourse(start, behind);
+    return target != NO_TARGET ? FirstDirectionTo(target, start) : RoomiestDirection(start, behind);
 }
 
 void Bot::Survey(int player)
@@ -121,12 +121,12 @@ void Bot::Survey(int player)
     MarkBody(other, OTHER_MARGIN);
     int cell = CellAhead(other.segments[0], 1 - player);
     for (int step = 0; step < FEARED_STEPS && cell != NO_CELL; ++step) {
-        for (int course = 0; course < 4; ++course) {
-            int& from = freeFrom[static_cast<size_t>(Neighbour(cell, course))];
+        for (int direction = 0; direction < 4; ++direction) {
+            int& from = freeFrom[static_cast<size_t>(Neighbour(cell, direction))];
             from = std::max(from, FEARED_STEPS + 1);
         }
-        const int course = CourseOfKey(1 - player, other.segments[0].dir);
-        cell = Neighbour(cell, course);
+        const int direction = DirectionOfKey(1 - player, other.segments[0].dir);
+        cell = Neighbour(cell, direction);
     }
 }
 
@@ -152,8 +152,8 @@ void Bot::SearchFrom(int start, int forbiddenCell)
     for (size_t next = 0; next < open.size(); ++next) {
         const int cell = open[next];
         const int walked = distance[static_cast<size_t>(cell)] + 1;
-        for (int course = 0; course < 4; ++course) {
-            const auto to = static_cast<size_t>(Neighbour(cell, course));
+        for (int direction = 0; direction < 4; ++direction) {
+            const auto to = static_cast<size_t>(Neighbour(cell, direction));
             const bool isBehind = cell == start && static_cast<int>(to) == forbiddenCell;
             if (isBehind || distance[to] != UNREACHED || walked < freeFrom[to])
                 continue;
@@ -185,31 +185,31 @@ int Bot::BestTarget(const CSnake& snake, int start) const
     return targets.empty() ? NO_TARGET : targets.front().second;
 }
 
-int Bot::FirstCourseTo(int target, int start) const
+int Bot::FirstDirectionTo(int target, int start) const
 {
     int cell = target;
     while (cameFrom[static_cast<size_t>(cell)] != start)
         cell = cameFrom[static_cast<size_t>(cell)];
-    for (int course = 0; course < 4; ++course) {
-        if (Neighbour(start, course) == cell)
-            return course;
+    for (int direction = 0; direction < 4; ++direction) {
+        if (Neighbour(start, direction) == cell)
+            return direction;
     }
-    return NO_COURSE;
+    return NO_DIRECTION;
 }
 
-int Bot::RoomiestCourse(int start, int forbiddenCell) const
+int Bot::RoomiestDirection(int start, int forbiddenCell) const
 {
-    int best = NO_COURSE;
+    int best = NO_DIRECTION;
     int bestRoom = 0;
-    for (int course = 0; course < 4; ++course) {
-        const int cell = Neighbour(start, course);
+    for (int direction = 0; direction < 4; ++direction) {
+        const int cell = Neighbour(start, direction);
         if (cell == forbiddenCell || freeFrom[static_cast<size_t>(cell)] > 1)
             continue;
         std::array<bool, CELL_COUNT> taken{};
         taken[static_cast<size_t>(start)] = true;
         const int room = Room(cell, taken);
         if (room > bestRoom) {
-            best = course;
+            best = direction;
             bestRoom = room;
         }
     }
@@ -232,8 +232,8 @@ int Bot::Room(int start, std::array<bool, CELL_COUNT> taken) const
     taken[static_cast<size_t>(start)] = true;
     std::vector<int> open{ start };
     for (size_t next = 0; next < open.size() && open.size() < static_cast<size_t>(roomNeeded); ++next) {
-        for (int course = 0; course < 4; ++course) {
-            const auto to = static_cast<size_t>(Neighbour(open[next], course));
+        for (int direction = 0; direction < 4; ++direction) {
+            const auto to = static_cast<size_t>(Neighbour(open[next], direction));
             if (taken[to] || freeFrom[to] > 1)
                 continue;
             taken[to] = true;

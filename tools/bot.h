@@ -4,10 +4,10 @@
 
 #include <array>
 
-constexpr int NO_COURSE = -1; ///< else a row of `courses`
+constexpr int NO_DIRECTION = -1; ///< else a row of `directions`
 
 /// The cell beside, across the pond's edge too.
-int Neighbour(int cell, int course);
+int Neighbour(int cell, int direction);
 bool HasBerry(const Cell& cell);
 
 /// How the bot plays.
@@ -33,7 +33,7 @@ private:
     using CellNumbers = std::array<int, CELL_COUNT>;
 
     int KeyFor(int player, int frame);
-    int WantedCourse(int player);
+    int WantedDirection(int player);
     void Survey(int player);
     void MarkBody(const CSnake& snake, int margin);
     void SearchFrom(int start, int forbiddenCell);
@@ -44,10 +44,10 @@ private:
     int SparedColour(const CSnake& snake) const;
     bool HasFewBerries() const;
     int Supply(const CSnake& snake, int colour) const;
-    int FirstCourseTo(int target, int start) const;
-    int RoomiestCourse(int start, int forbiddenCell) const;
-    int CourseToAim(int start) const;
-    bool IsGoldAhead(int cell, int course) const;
+    int FirstDirectionTo(int target, int start) const;
+    int RoomiestDirection(int start, int forbiddenCell) const;
+    int DirectionToAim(int start) const;
+    bool IsGoldAhead(int cell, int direction) const;
     int RoomBeyond(int end, int start) const;
     int Room(int start, std::array<bool, CELL_COUNT> taken) const;
 

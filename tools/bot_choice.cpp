@@ -17,33 +17,33 @@ constexpr int FEW_BERRIES = 10;
 }
 
 /// Toward an orange berry from the side from which the laser that it sets off will strike a golden one.
-int Bot::CourseToAim(int start) const
+int Bot::DirectionToAim(int start) const
 {
-    int best = NO_COURSE;
+    int best = NO_DIRECTION;
     int bestDistance = UNREACHED;
     for (int i = 0; i < CELL_COUNT * 4; ++i) {
-        const int course = i % 4;
+        const int direction = i % 4;
         const int berry = i / 4;
-        if (!pond.cells[berry].IsRipeBerry() || pond.cells[berry].colour != ORANGE || !IsGoldAhead(berry, course))
+        if (!pond.cells[berry].IsRipeBerry() || pond.cells[berry].colour != ORANGE || !IsGoldAhead(berry, direction))
             continue;
-        const int approach = Neighbour(berry, static_cast<int>(courses[course].reverse));
+        const int approach = Neighbour(berry, static_cast<int>(directions[direction].reverse));
         const int walked = distance[static_cast<size_t>(approach)];
         if (walked >= bestDistance)
             continue;
-        best = approach == start ? course : FirstCourseTo(approach, start);
+        best = approach == start ? direction : FirstDirectionTo(approach, start);
         bestDistance = walked;
     }
     return best;
 }
 
 /// The first thing that a laser from that cell would strike is a golden berry.
-bool Bot::IsGoldAhead(int cell, int course) const
+bool Bot::IsGoldAhead(int cell, int direction) const
 {
     int x = pond.cells[cell].x;
     int y = pond.cells[cell].y;
     while (true) {
-        x += courses[course].dx * CELL_SIZE;
-        y += courses[course].dy * CELL_SIZE;
+        x += directions[direction].dx * CELL_SIZE;
+        y += directions[direction].dy * CELL_SIZE;
         if (x < 0 || x >= POND_SIZE || y < 0 || y >= POND_SIZE)
             return false;
         const Cell& next = pond.cells[CellAt(x, y)];

@@ -13,7 +13,7 @@ class CPond;
 struct Segment {
     int32_t x = 0; ///< top-left corner, pond pixels
     int32_t y = 0;
-    int32_t dir = 0; ///< where it goes: one of the player's four key codes
+    int32_t dir = 0; ///< its direction, as one of the player's four key codes
 };
 
 constexpr int MAX_SEGMENTS = 25;

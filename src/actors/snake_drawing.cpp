@@ -11,7 +11,8 @@ constexpr int BLINK_PERIOD = 25;     ///< frames
 constexpr int BLINK_SHOWN = 20;
 constexpr int EXPRESSIONS = 6;
 
-/// Which head image shows an expression in a direction: up, down, left, right.
+/// Which head image shows an expression, by Direction. Expressions tell the snake's own left and right, the pictures of
+/// a head that goes down are numbered as on the screen.
 constexpr int headImages[][EXPRESSIONS] = {
     { 0, 1, 2, 3, 4, 5 },
     { 6, 7, 10, 11, 8, 9 },

@@ -54,9 +54,9 @@ void CSnake::StepSegment(Segment& segment) const
     const Direction direction = DirectionOf(segment.dir);
     if (direction == Direction::NONE)
         return;
-    const Course& course = CourseOf(direction);
-    segment.x = Wrap(segment.x + course.dx * speed);
-    segment.y = Wrap(segment.y + course.dy * speed);
+    const DirectionRow& row = RowOf(direction);
+    segment.x = Wrap(segment.x + row.dx * speed);
+    segment.y = Wrap(segment.y + row.dy * speed);
 }
 
 /// From the tail to the head, so that each segment sees its predecessor where it was a frame ago.

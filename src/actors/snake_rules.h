@@ -8,7 +8,7 @@ constexpr int FAST_SPEED = 4;
 constexpr int NO_COLOUR = -1; ///< no streak
 constexpr int NO_EFFECT = -1;
 
-// The rain's course, in frames left.
+// The rain, in frames left.
 constexpr int RAIN_FRAMES = 375; ///< thunder first
 constexpr int RAIN_FALLS = 350;  ///< below it, it rains
 

@@ -21,13 +21,13 @@ Direction CSnake::DirectionOf(int key) const
 int CSnake::Heading() const
 {
     const Direction direction = DirectionOf(segments[0].dir);
-    return direction == Direction::NONE ? HEADING_NONE : CourseOf(direction).heading;
+    return direction == Direction::NONE ? HEADING_NONE : RowOf(direction).heading;
 }
 
 /// `key` must be one of the player's.
 bool CSnake::IsReverse(int key, int otherKey) const
 {
-    return CourseOf(DirectionOf(key)).reverse == DirectionOf(otherKey);
+    return RowOf(DirectionOf(key)).reverse == DirectionOf(otherKey);
 }
 
 bool CSnake::AcceptsKey(int key) const

@@ -13,7 +13,7 @@ public:
     virtual ~CGame();
 
     /// Start-up once the window exists: folder, random seed, log, display, sound, global images. False when the
-    /// display mode or an image cannot be had; `lastError` says why.
+    /// display mode cannot be set or an image not be made; `lastError` says why.
     bool Create();
     /// The end, run from the window's destroy message.
     void Destroy();

@@ -32,7 +32,8 @@ bool CSectionLoad::SectionBegin()
 {
     sectionMenu.SettingsLoad();
     SetCursor(LoadCursorA(nullptr, IDC_ARROW));
-    OpenPack("Dat\\Image.xpf"); // without a pack every picture must be a loose file; loading tells
+    OpenPack("Dat\\Image.xpf"); // without a pack the pictures may be loose files; if not, the first step that misses
+                                // one fails
     WriteLog("CSectionLoad::SectionBegin");
     return true;
 }

@@ -22,7 +22,7 @@ constexpr bool IsCell(int cell)
     return cell >= 0 && cell < CELL_COUNT;
 }
 
-/// A heading between snake and pond, whatever keys steer: the arrow keys' virtual-key codes.
+/// A direction as snake and pond tell it each other, whatever keys steer: the arrow keys' virtual-key codes.
 enum Heading : int {
     HEADING_NONE = 0,
     HEADING_LEFT = 37,
@@ -31,27 +31,27 @@ enum Heading : int {
     HEADING_DOWN = 40,
 };
 
-/// A row of the tables that depend on a direction.
+/// The ways to go. A row of every table that depends on one.
 enum class Direction : int { NONE = -1, UP = 0, DOWN = 1, LEFT = 2, RIGHT = 3 };
 
 /// What a direction means on the pond.
-struct Course {
+struct DirectionRow {
     int dx;
     int dy;
     int heading;
     Direction reverse;
 };
 /// By Direction.
-constexpr Course courses[] = {
+constexpr DirectionRow directions[] = {
     { 0, -1, HEADING_UP, Direction::DOWN },
     { 0, 1, HEADING_DOWN, Direction::UP },
     { -1, 0, HEADING_LEFT, Direction::RIGHT },
     { 1, 0, HEADING_RIGHT, Direction::LEFT },
 };
 /// `direction` must not be NONE.
-constexpr const Course& CourseOf(Direction direction)
+constexpr const DirectionRow& RowOf(Direction direction)
 {
-    return courses[static_cast<int>(direction)];
+    return directions[static_cast<int>(direction)];
 }
 
 /// Berry colours. Golden berries only arise from lasers.

@@ -15,11 +15,11 @@ constexpr int RING_STEP = 3; ///< pixels a frame
 
 void MoveLaser(Laser& laser)
 {
-    const Course* course = std::ranges::find(courses, laser.heading, &Course::heading);
-    if (course == std::end(courses))
+    const DirectionRow* row = std::ranges::find(directions, laser.heading, &DirectionRow::heading);
+    if (row == std::end(directions))
         return;
-    laser.x += course->dx * CELL_SIZE;
-    laser.y += course->dy * CELL_SIZE;
+    laser.x += row->dx * CELL_SIZE;
+    laser.y += row->dy * CELL_SIZE;
 }
 
 struct RingPoint {

@@ -133,7 +133,7 @@ bool CImage::Copy(CImage& source)
         return true;
     if (!alpha && !CreateAlpha())
         return false;
-    // Whole rows with their padding, which decides over the copying of each row's last group.
+    // Whole rows with their padding: a group of pixels is copied, not blended, if all its values, padding too, are 31.
     for (int row = 0; row < height; ++row)
         std::memcpy(AlphaRow(row), source.AlphaRow(row), static_cast<size_t>(pitch / 2));
     blit = source.blit;

@@ -42,8 +42,8 @@ bool ReserveBits(CGlyph& glyph, uint32_t bytes)
     return glyph.bits != nullptr;
 }
 
-/// Fills the glyph from the font selected into `dc`. One that cannot be had is left without extent, so that a later
-/// hit on its slot draws nothing.
+/// Fills the glyph from the font selected into `dc`. After a failure it has no extent, so that a later hit on its slot
+/// draws nothing.
 bool RenderGlyph(CGlyph& glyph, HDC dc, uint32_t code, int ascent)
 {
     glyph.width = glyph.height = glyph.advance = 0;

@@ -45,7 +45,7 @@ public:
     /// `font` stays the caller's. False: ENGINE_CREATE_FONT, and the text image draws nothing.
     bool TextImageCreate(HFONT font, int greyLevels, int slots);
     void TextImageFree();
-    /// The character's glyph, rendered when it is not cached; null when it cannot be had.
+    /// The character's glyph, rendered when it is not cached; null when that fails.
     CGlyph* GetGlyph(uint32_t code);
     /// What the blit layer draws; false: ENGINE_CREATE_CHAR.
     bool GetGlyphView(uint32_t code, uint16_t colour, GlyphView& view);

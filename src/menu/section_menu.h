@@ -24,7 +24,7 @@ public:
     bool SectionEnd() override;
     bool SectionProcess() override;
 
-    /// One loading step a call, until `done` is set. False when a font or a picture cannot be had.
+    /// One loading step a call, until `done` is set. False when a font or a picture cannot be loaded.
     bool DataLoad(bool& done);
     void UnDataLoad();
 

@@ -35,6 +35,6 @@ constexpr std::array<uint32_t, KEY_BINDINGS> DefaultKeys()
     return keys;
 }
 
-/// Sets the display to a window or to full screen, if it is not in that mode. A mode that cannot be had leaves the
+/// Sets the display to a window or to full screen, if it is not in that mode. A mode that cannot be set leaves the
 /// display in the one it had.
 void ApplyDisplayMode(bool windowed);

@@ -25,7 +25,7 @@ bool ReadBytes(HANDLE file, uint8_t* bytes, DWORD size)
     return ReadFile(file, bytes, size, &bytesRead, nullptr) != 0;
 }
 
-/// Null when the index cannot be had. What a file that is cut short lacks reads as zeros.
+/// Null when the index is too large or cannot be read. What a file that is cut short lacks reads as zeros.
 std::unique_ptr<PackEntry[]> ReadIndex(HANDLE file, uint32_t count)
 {
     if (count > MAX_ENTRIES)
