@@ -67,7 +67,7 @@ template <typename Item>
 void AddBoxes(const std::string& file, std::span<const Item> items)
 {
     for (const Item& item : items)
-        AddLine("box", file, item.x, item.y, item.width, item.height);
+        AddLine("box", file, item.box.x, item.box.y, item.box.width, item.box.height);
 }
 
 void AddPanel(const CMenu& panel, const CImage* images, std::span<const PictureRow> rows)

@@ -82,7 +82,7 @@ bool CStatusBar::CreatePanel(const PanelRow& row)
             return false;
         ++picture;
         for (const PanelButton& button : row.buttons)
-            if (!panel.AddHotArea(button.id, button.box))
+            if (!panel.AddButton({ .id = button.id, .box = button.box }))
                 return false;
     }
     return true;
@@ -100,8 +100,12 @@ bool CStatusBar::AddLevelTexts()
 {
     constexpr int DIGITS = 6; // of a level or a target
     const auto add = [this](int id, int top) {
-        return nextLevelPanel.AddText(id, 4, top, 152, 14, nullptr, &font, 0xFFFF, 0x0000, ALIGN_CENTRE, TEXT_ENTRY,
-                                      DIGITS);
+        return nextLevelPanel.AddText({ .id = id,
+                                        .box = { 4, top, 152, 14 },
+                                        .font = &font,
+                                        .colour = 0xFFFF,
+                                        .maxLength = DIGITS,
+                                        .align = ALIGN_CENTRE });
     };
     return add(TEXT_LEVEL, 25) && add(TEXT_TARGET, 70);
 }

@@ -16,10 +16,10 @@ constexpr MenuBox tabBoxes[HELP_PAGES] = {
 
 bool AddHelpButtons(CMenu& panel, int firstId, int page)
 {
-    bool ok = panel.AddHotArea(HelpCloseId(firstId, page), closeBox);
+    bool ok = panel.AddButton({ .id = HelpCloseId(firstId, page), .box = closeBox });
     for (int other = 0; other < HELP_PAGES; ++other) {
         if (other != page)
-            ok = ok && panel.AddHotArea(HelpTabId(firstId, page, other), tabBoxes[other]);
+            ok = ok && panel.AddButton({ .id = HelpTabId(firstId, page, other), .box = tabBoxes[other] });
     }
     return ok;
 }

@@ -1,9 +1,9 @@
 #include "menu/menu.h"
 
 #include "gfx/error.h"
-#include "sound/sound.h"
 
 #include <new>
+#include <utility>
 
 namespace
 {
@@ -45,69 +45,30 @@ void CMenu::MenuFree()
     textCount = 0;
 }
 
-bool CMenu::AddButton(int id, int boxX, int boxY, int boxWidth, int boxHeight, CImage* image, CImage* hoverImage,
-                      CImage* pressedImage, int hoverSound, int clickSound)
+bool CMenu::AddButton(const MenuButton& button)
 {
     if (buttons == nullptr || buttonCount == MAX_BUTTONS)
         return false;
-    buttons[buttonCount++] = { .id = id,
-                               .x = boxX,
-                               .y = boxY,
-                               .width = boxWidth,
-                               .height = boxHeight,
-                               .image = image,
-                               .hoverImage = hoverImage,
-                               .pressedImage = pressedImage,
-                               .hoverSound = hoverSound,
-                               .clickSound = clickSound };
+    buttons[buttonCount++] = button;
     return true;
 }
 
-bool CMenu::AddHotArea(int id, const MenuBox& box)
-{
-    return AddButton(id, box.x, box.y, box.width, box.height, nullptr, nullptr, nullptr, SOUND_NONE, SOUND_NONE);
-}
-
-bool CMenu::AddToggle(int id, int group, int boxX, int boxY, int boxWidth, int boxHeight, CImage* image,
-                      CImage* hoverImage, CImage* checkedImage, int hoverSound, int clickSound)
+bool CMenu::AddToggle(const MenuToggle& toggle)
 {
     if (toggles == nullptr || toggleCount == MAX_TOGGLES)
         return false;
-    toggles[toggleCount++] = { .id = id,
-                               .group = group,
-                               .x = boxX,
-                               .y = boxY,
-                               .width = boxWidth,
-                               .height = boxHeight,
-                               .image = image,
-                               .hoverImage = hoverImage,
-                               .checkedImage = checkedImage,
-                               .hoverSound = hoverSound,
-                               .clickSound = clickSound };
+    toggles[toggleCount++] = toggle;
     return true;
 }
 
-bool CMenu::AddText(int id, int boxX, int boxY, int boxWidth, int boxHeight, CImage* image, CTextImage* font,
-                    uint16_t colour, uint16_t focusColour, int align, int mode, int maxLength)
+bool CMenu::AddText(MenuText text)
 {
     if (texts == nullptr || textCount == MAX_TEXTS)
         return false;
-    std::unique_ptr<char[]> buffer(new (std::nothrow) char[MENU_TEXT_SIZE]());
-    if (buffer == nullptr)
+    text.text.reset(new (std::nothrow) char[MENU_TEXT_SIZE]());
+    if (text.text == nullptr)
         return FailWith(ENGINE_ALLOCATE_MEMORY);
-    texts[textCount++] = { .id = id,
-                           .x = boxX,
-                           .y = boxY,
-                           .width = boxWidth,
-                           .height = boxHeight,
-                           .image = image,
-                           .font = font,
-                           .colour = colour,
-                           .focusColour = focusColour,
-                           .text = std::move(buffer),
-                           .maxLength = maxLength,
-                           .align = align,
-                           .mode = mode };
+    texts[textCount++] = std::move(text);
     return true;
 }
 

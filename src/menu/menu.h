@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <memory>
 
-/// Pixels, relative to the menu.
+/// Where an item is, in pixels relative to the menu.
 struct MenuBox {
     int x;
     int y;
@@ -14,13 +14,10 @@ struct MenuBox {
     int height;
 };
 
-/// A click area with up to three pictures. Boxes are relative to the menu.
+/// A click area with up to three pictures; one without any lies over a button that is part of the background.
 struct MenuButton {
     int32_t id = 0;
-    int32_t x = 0;
-    int32_t y = 0;
-    int32_t width = 0;
-    int32_t height = 0;
+    MenuBox box = {};
     CImage* image = nullptr;        ///< pictures are not owned; null = none
     CImage* hoverImage = nullptr;   ///< over it while the mouse is on the box
     CImage* pressedImage = nullptr; ///< instead, with the left button down
@@ -35,10 +32,7 @@ struct MenuButton {
 struct MenuToggle {
     int32_t id = 0;
     int32_t group = 0;
-    int32_t x = 0;
-    int32_t y = 0;
-    int32_t width = 0;
-    int32_t height = 0;
+    MenuBox box = {};
     CImage* image = nullptr;
     CImage* hoverImage = nullptr;
     CImage* checkedImage = nullptr; ///< instead of `image` while checked
@@ -56,18 +50,15 @@ constexpr int MENU_TEXT_SIZE = 256;
 /// A label, text-entry field or key-capture field.
 struct MenuText {
     int32_t id = 0;
-    int32_t x = 0;
-    int32_t y = 0;
-    int32_t width = 0;
-    int32_t height = 0;
+    MenuBox box = {};
     CImage* image = nullptr;
-    CTextImage* font = nullptr;   ///< not owned
-    uint16_t colour = 0;          ///< RGB565
-    uint16_t focusColour = 0;     ///< of text and cursor while focused
-    std::unique_ptr<char[]> text; ///< MENU_TEXT_SIZE bytes, zero-terminated; the owner may write it
-    int32_t key = 0;              ///< in key capture: the virtual-key code captured last
-    int32_t maxLength = 0;        ///< of typed text
-    int32_t room = 0;             ///< width around the box's middle beyond which nothing is drawn; 0 = any
+    CTextImage* font = nullptr;             ///< not owned
+    uint16_t colour = 0;                    ///< RGB565
+    uint16_t focusColour = 0;               ///< of text and cursor while focused
+    std::unique_ptr<char[]> text = nullptr; ///< MENU_TEXT_SIZE bytes, zero-terminated; the owner may write it
+    int32_t key = 0;                        ///< in key capture: the virtual-key code captured last
+    int32_t maxLength = 0;                  ///< of typed text
+    int32_t room = 0;                       ///< width around the box's middle beyond which nothing is drawn; 0 = any
     int32_t align = ALIGN_LEFT;
     int32_t mode = TEXT_ENTRY;
     bool focused = false; ///< takes the keyboard; set and cleared by the owner
@@ -93,15 +84,11 @@ public:
     /// Position, background (not owned, may be null) and room for the items. False when memory runs out.
     bool MenuCreate(int menuX, int menuY, CImage* picture);
     void MenuFree();
-    /// The Add operations answer false when their list is full.
-    bool AddButton(int id, int boxX, int boxY, int boxWidth, int boxHeight, CImage* image, CImage* hoverImage,
-                   CImage* pressedImage, int hoverSound, int clickSound);
-    /// A button without pictures and sounds, over one that is part of the background.
-    bool AddHotArea(int id, const MenuBox& box);
-    bool AddToggle(int id, int group, int boxX, int boxY, int boxWidth, int boxHeight, CImage* image,
-                   CImage* hoverImage, CImage* checkedImage, int hoverSound, int clickSound);
-    bool AddText(int id, int boxX, int boxY, int boxWidth, int boxHeight, CImage* image, CTextImage* font,
-                 uint16_t colour, uint16_t focusColour, int align, int mode, int maxLength);
+    /// The Add operations append a copy and answer false when their list is full.
+    bool AddButton(const MenuButton& button);
+    bool AddToggle(const MenuToggle& toggle);
+    /// Gives the text its buffer; false also when memory runs out.
+    bool AddText(MenuText text);
     /// The first item with that id, or null.
     MenuButton* FindButton(int id);
     MenuToggle* FindToggle(int id);

@@ -4,7 +4,10 @@
 
 /// What the menu scene's pages are made of: ids of items.
 
-enum MenuItem : int {
+/// Ids of the pages' items; those of other panels have a scope of their own.
+namespace menu_items
+{
+enum Id : int {
     BUTTON_HOME_PAGE = 0,
     BUTTON_ONE_PLAYER = 1,
     BUTTON_TWO_PLAYERS = 2,
@@ -28,6 +31,7 @@ enum MenuItem : int {
     FIELD_SCORE_FIRST = 35, ///< ten places
     BUTTON_HELP_FIRST = 45, ///< those of the help pages
 };
+}
 
 // Text colours, RGB565.
 constexpr uint16_t TEXT_WHITE = 0xFFFF;

@@ -6,6 +6,8 @@
 #include "menu/section_menu.h"
 #include "sound/sound.h"
 
+using namespace menu_items;
+
 namespace
 {
 
@@ -156,8 +158,11 @@ bool CSectionMenu::BuildMainMenu()
 {
     const bool created = mainMenu.MenuCreate(0, 0, &images[PICTURE_MAIN_MENU]);
     for (const auto& [id, box, hoverPicture] : mainButtons)
-        mainMenu.AddButton(id, box.x, box.y, box.width, box.height, nullptr, &images[hoverPicture], nullptr,
-                           SOUND_MENU_HOVER, SOUND_MENU_CLICK);
+        mainMenu.AddButton({ .id = id,
+                             .box = box,
+                             .hoverImage = &images[hoverPicture],
+                             .hoverSound = SOUND_MENU_HOVER,
+                             .clickSound = SOUND_MENU_CLICK });
     return created;
 }
 
@@ -165,29 +170,35 @@ bool CSectionMenu::BuildOptionsPage()
 {
     bool created = CreateCentred(optionsMenu, images[PICTURE_OPTIONS]);
     for (const auto& [id, group, box, checkedPicture] : optionsToggles)
-        optionsMenu.AddToggle(id, group, box.x, box.y, box.width, box.height, nullptr, nullptr, &images[checkedPicture],
-                              SOUND_NONE, SOUND_NONE);
+        optionsMenu.AddToggle({ .id = id, .group = group, .box = box, .checkedImage = &images[checkedPicture] });
     for (const KeyBinding& binding : keyBindings)
-        created = created &&
-                  optionsMenu.AddText(binding.field, binding.x, binding.y, KEY_FIELD_SIZE, KEY_FIELD_SIZE, nullptr,
-                                      &largeFont, TEXT_WHITE, TEXT_YELLOW, ALIGN_CENTRE, KEY_CAPTURE, KEY_NAME_LENGTH);
+        created = created && optionsMenu.AddText({ .id = binding.field,
+                                                   .box = { binding.x, binding.y, KEY_FIELD_SIZE, KEY_FIELD_SIZE },
+                                                   .font = &largeFont,
+                                                   .colour = TEXT_WHITE,
+                                                   .focusColour = TEXT_YELLOW,
+                                                   .maxLength = KEY_NAME_LENGTH,
+                                                   .align = ALIGN_CENTRE,
+                                                   .mode = KEY_CAPTURE });
     return created;
 }
 
 bool CSectionMenu::BuildRankingPage()
 {
-    if (!CreateCentred(rankingMenu, images[PICTURE_RANKING]))
-        return false;
+    bool created = CreateCentred(rankingMenu, images[PICTURE_RANKING]);
     for (const auto& [firstId, top, room] : rankingColumns) {
-        for (int place = 0; place < RANKING_PLACES; ++place) {
-            if (!rankingMenu.AddText(firstId + place, top.x, top.y + RANKING_ROW_HEIGHT * place, top.width, top.height,
-                                     nullptr, &smallFont, TEXT_WHITE, TEXT_YELLOW, ALIGN_CENTRE, TEXT_ENTRY,
-                                     PLAYER_NAME_LENGTH))
-                return false;
-            rankingMenu.FindText(firstId + place)->room = room;
-        }
+        for (int place = 0; place < RANKING_PLACES; ++place)
+            created = created &&
+                      rankingMenu.AddText({ .id = firstId + place,
+                                            .box = { top.x, top.y + RANKING_ROW_HEIGHT * place, top.width, top.height },
+                                            .font = &smallFont,
+                                            .colour = TEXT_WHITE,
+                                            .focusColour = TEXT_YELLOW,
+                                            .maxLength = PLAYER_NAME_LENGTH,
+                                            .room = room,
+                                            .align = ALIGN_CENTRE });
     }
-    return true;
+    return created;
 }
 
 bool CSectionMenu::BuildHelpPages()
@@ -203,7 +214,7 @@ bool CSectionMenu::BuildHelpPages()
 void CSectionMenu::BuildFootButtons()
 {
     for (const auto& [page, id, box] : footButtons)
-        (this->*page).AddHotArea(id, box);
+        (this->*page).AddButton({ .id = id, .box = box });
 }
 
 bool CSectionMenu::BuildPages()

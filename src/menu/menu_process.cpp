@@ -19,17 +19,17 @@ std::span<Item> ItemsOf(const std::unique_ptr<Item[]>& items, int count)
 template <typename Item>
 bool IsUnderMouse(const CMenu& menu, const Item& item)
 {
-    const int left = menu.x + item.x;
-    const int top = menu.y + item.y;
-    return input.mouseX >= left && input.mouseX <= left + item.width && input.mouseY >= top &&
-           input.mouseY <= top + item.height;
+    const int left = menu.x + item.box.x;
+    const int top = menu.y + item.box.y;
+    return input.mouseX >= left && input.mouseX <= left + item.box.width && input.mouseY >= top &&
+           input.mouseY <= top + item.box.height;
 }
 
 template <typename Item>
 void DrawAt(CImage& target, const CMenu& menu, const Item& item, CImage* image)
 {
     if (image != nullptr)
-        image->Draw(target, menu.x + item.x, menu.y + item.y);
+        image->Draw(target, menu.x + item.box.x, menu.y + item.box.y);
 }
 
 /// A stopped sound keeps its position: one that still plays goes on from there, one that has ended starts again.

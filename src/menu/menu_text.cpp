@@ -96,7 +96,7 @@ void TypeText(MenuText& item)
 
 int RoomLeft(const CMenu& menu, const MenuText& item)
 {
-    return menu.x + item.x + (item.width - item.room) / 2;
+    return menu.x + item.box.x + (item.box.width - item.room) / 2;
 }
 
 void DrawLine(CImage& target, const MenuText& item, POINT place, uint16_t colour, bool hasCursor)
@@ -112,11 +112,11 @@ void DrawLine(CImage& target, const MenuText& item, POINT place, uint16_t colour
 int CMenu::TextLeft(const MenuText& item) const
 {
     const int textWidth = item.font->TextWidth(item.text.get());
-    int left = x + item.x;
+    int left = x + item.box.x;
     if (item.align == ALIGN_CENTRE)
-        left += (item.width - textWidth) / 2;
+        left += (item.box.width - textWidth) / 2;
     else if (item.align != ALIGN_LEFT)
-        left += item.width - textWidth;
+        left += item.box.width - textWidth;
     if (item.room == 0)
         return left;
     const int roomLeft = RoomLeft(*this, item);
@@ -128,7 +128,7 @@ int CMenu::TextLeft(const MenuText& item) const
 void CMenu::DrawTextItem(CImage& target, const MenuText& item, uint16_t colour, bool hasCursor) const
 {
     const int left = TextLeft(item);
-    const int top = y + item.y + (item.height - item.font->height) / 2;
+    const int top = y + item.box.y + (item.box.height - item.font->height) / 2;
     if (item.room == 0) {
         DrawLine(target, item, { left, top }, colour, hasCursor);
         return;
@@ -146,7 +146,7 @@ void CMenu::DrawTexts(CImage& target) const
         if (!item.isVisible)
             continue;
         if (item.image != nullptr)
-            item.image->Draw(target, x + item.x, y + item.y);
+            item.image->Draw(target, x + item.box.x, y + item.box.y);
         if (item.mode != TEXT_ENTRY)
             ShowKey(item, item.key);
         if (!TakesKeyboard(item))

@@ -5,6 +5,8 @@
 #include "platform/window.h"
 #include "sound/sound.h"
 
+using namespace menu_items;
+
 MenuText& CSectionMenu::KeyField(int binding)
 {
     return *optionsMenu.FindText(keyBindings[binding].field);

@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <cstring>
 
+using namespace menu_items;
+
 namespace
 {
 

@@ -16,6 +16,8 @@
 #include <algorithm>
 #include <iterator>
 
+using namespace menu_items;
+
 namespace
 {
 

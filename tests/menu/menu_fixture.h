@@ -23,8 +23,8 @@ protected:
     template <typename Item>
     void Click(const CMenu& page, const Item* item)
     {
-        input.mouseX = page.x + item->x + item->width / 2;
-        input.mouseY = page.y + item->y + item->height / 2;
+        input.mouseX = page.x + item->box.x + item->box.width / 2;
+        input.mouseY = page.y + item->box.y + item->box.height / 2;
         input.mouseLeftDown = true;
         Press(0);
         input.mouseLeftDown = false;

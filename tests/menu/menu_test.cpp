@@ -43,15 +43,20 @@ protected:
     }
     void AddButton(int id, int x)
     {
-        ASSERT_TRUE(menu.AddButton(id, x, 30, 10, 10, &image, &hover, &pressed, SOUND_NONE, SOUND_NONE));
+        ASSERT_TRUE(menu.AddButton({ id, { x, 30, 10, 10 }, &image, &hover, &pressed, SOUND_NONE, SOUND_NONE }));
     }
     void AddToggle(int id, int group, int x)
     {
-        ASSERT_TRUE(menu.AddToggle(id, group, x, 30, 10, 10, &image, &hover, &pressed, SOUND_NONE, SOUND_NONE));
+        ASSERT_TRUE(menu.AddToggle({ id, group, { x, 30, 10, 10 }, &image, &hover, &pressed, SOUND_NONE, SOUND_NONE }));
     }
     MenuText& AddText(int mode, int maxLength)
     {
-        EXPECT_TRUE(menu.AddText(0, 5, 40, 80, 20, nullptr, &text, 1, 2, ALIGN_LEFT, mode, maxLength));
+        EXPECT_TRUE(menu.AddText({ .box = { 5, 40, 80, 20 },
+                                   .font = &text,
+                                   .colour = 1,
+                                   .focusColour = 2,
+                                   .maxLength = maxLength,
+                                   .mode = mode }));
         return *menu.FindText(0);
     }
     /// A frame with the mouse there; the colour in the middle of the item at (x, 30).

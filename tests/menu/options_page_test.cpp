@@ -4,6 +4,8 @@
 #include "menu/menu_fixture.h"
 #include "sound/sound.h"
 
+using namespace menu_items;
+
 namespace
 {
 class OptionsPageTest : public MenuFixture

@@ -3,6 +3,8 @@
 
 #include <vector>
 
+using namespace menu_items;
+
 namespace
 {
 using SectionMenuTest = MenuFixture;
