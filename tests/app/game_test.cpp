@@ -139,6 +139,7 @@ TEST_F(GameTest, StoresInputMessages)
     Send(WM_SETFOCUS);
     EXPECT_TRUE(input.hasFocus);
     EXPECT_EQ(Send(WM_ERASEBKGND), 1);
+    EXPECT_EQ(Send(WM_SETCURSOR), 0);
 }
 
 TEST_F(GameTest, AStartThatFailsLeavesNoWindow)
