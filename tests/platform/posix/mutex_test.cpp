@@ -49,44 +49,45 @@ protected:
     TempFolder folder;
 };
 
-/// Another process that has made the mutex and lives until it is killed, and a child of it that lives some longer, as
-/// the one that shows a message box. Both are under way when this returns.
-pid_t StartOwner()
+/// Another process that has made the mutex and lives until it is killed, and a child of it that lives longer, as the
+/// one that shows a message box, until `end` is closed. Both are under way when this returns.
+pid_t StartOwner(int& end)
 {
     int ready[2] = {};
-    if (pipe(ready) != 0)
+    int over[2] = {};
+    if (pipe(ready) != 0 || pipe(over) != 0)
         return -1;
     const pid_t owner = fork();
+    char byte = 'y';
     if (owner == 0) {
-        const char made = CreateMutexA(nullptr, FALSE, "Test") ? 'y' : 'n';
-        if (fork() == 0) {
-            if (write(ready[1], &made, 1) == 1)
-                sleep(1);
-            _exit(0);
-        }
-        if (write(ready[1], &made, 1) == 1)
+        byte = CreateMutexA(nullptr, FALSE, "Test") ? 'y' : 'n';
+        const bool isChild = fork() == 0;
+        close(over[1]);
+        if (write(ready[1], &byte, 1) == 1 && !isChild)
             pause();
-        _exit(1);
+        _exit(static_cast<int>(read(over[0], &byte, 1)));
     }
-    char made[2] = {};
-    const bool answered = read(ready[0], &made[0], 1) == 1 && read(ready[0], &made[1], 1) == 1;
-    close(ready[0]);
-    close(ready[1]);
-    return answered && made[0] == 'y' && made[1] == 'y' ? owner : -1;
+    bool isMade = true;
+    for (int i = 0; i < 2; ++i)
+        isMade = read(ready[0], &byte, 1) == 1 && byte == 'y' && isMade;
+    end = over[1];
+    return isMade ? owner : -1;
 }
 }
 
 TEST_F(MutexTest, IsKnownToEverySessionUntilItsOwnerDies)
 {
     EXPECT_EQ(Try(), ERROR_SUCCESS);
-    const pid_t owner = StartOwner();
+    int boxEnd = -1;
+    const pid_t owner = StartOwner(boxEnd);
     ASSERT_GT(owner, 0);
     UseFolder("XDG_RUNTIME_DIR", "run2");
     EXPECT_EQ(Try(), ERROR_ALREADY_EXISTS);
     EXPECT_EQ(Try(), ERROR_ALREADY_EXISTS) << "a copy that gave up takes nothing with it";
     kill(owner, SIGKILL);
     waitpid(owner, nullptr, 0);
-    EXPECT_EQ(Try(), ERROR_SUCCESS) << "its message box may still be open";
+    EXPECT_EQ(Try(), ERROR_SUCCESS) << "its message box is still open";
+    close(boxEnd);
 }
 
 TEST_F(MutexTest, GoesWhereALockCanBeMade)

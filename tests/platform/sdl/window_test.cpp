@@ -1,6 +1,5 @@
 #include "platform/sdl/native_window.h"
 #include "platform/sdl/window_fixture.h"
-#include "platform/sdl/window_state.h"
 
 #include <cstdlib>
 
