@@ -68,11 +68,5 @@ TEST(Files, RefusesWhatIsNoFile)
     EXPECT_EQ(OpenForReading("pipe"), INVALID_HANDLE_VALUE) << "a pipe, at which opening would wait";
     EXPECT_EQ(OpenForReading("none"), INVALID_HANDLE_VALUE);
     EXPECT_EQ(GetLastError(), ERROR_FILE_NOT_FOUND);
-
-    char byte = 0;
-    DWORD bytes = 99;
-    EXPECT_FALSE(ReadFile(INVALID_HANDLE_VALUE, &byte, 1, &bytes, nullptr));
-    EXPECT_EQ(bytes, 0u);
-    EXPECT_FALSE(CloseHandle(INVALID_HANDLE_VALUE));
 }
 }

@@ -42,10 +42,10 @@ LONG Open(HKEY& key)
                            nullptr);
 }
 
-LONG Set(HKEY key, const char* name, const Stored& value)
+void Set(HKEY key, const char* name, const Stored& value)
 {
-    return RegSetValueExA(key, name, 0, value.type, reinterpret_cast<const BYTE*>(value.bytes.data()),
-                          static_cast<DWORD>(value.bytes.size()));
+    RegSetValueExA(key, name, 0, value.type, reinterpret_cast<const BYTE*>(value.bytes.data()),
+                   static_cast<DWORD>(value.bytes.size()));
 }
 
 /// One save of one value; the code of the step that failed.
@@ -58,25 +58,19 @@ LONG Save(const char* name, const Stored& value)
     return RegCloseKey(key);
 }
 
-std::optional<Stored> Get(HKEY key, const char* name)
-{
-    BYTE data[4096];
-    DWORD size = sizeof data;
-    DWORD type = 0;
-    if (RegQueryValueExA(key, name, nullptr, &type, data, &size) != 0)
-        return std::nullopt;
-    return Stored{ type, std::string(reinterpret_cast<char*>(data), size) };
-}
-
 /// One value of a key opened for it.
 std::optional<Stored> Load(const char* name)
 {
     HKEY key = nullptr;
     if (Open(key) != 0)
         return std::nullopt;
-    const auto value = Get(key, name);
+    BYTE data[4096];
+    DWORD size = sizeof data;
+    Stored value;
+    const bool isThere = RegQueryValueExA(key, name, nullptr, &value.type, data, &size) == 0;
     RegCloseKey(key);
-    return value;
+    value.bytes.assign(data, data + (isThere ? size : 0));
+    return isThere ? std::optional(value) : std::nullopt;
 }
 
 /// Runs `action` in a child; its result is 0 to 255.
@@ -122,15 +116,10 @@ TEST_F(RegistryTest, EveryValueComesBackByteForByte)
         { REG_SZ, "{ hex = \"41\" }" },
         { 3, allBytes }, // a type the game does not use
     };
-    HKEY key = nullptr;
-    ASSERT_EQ(Open(key), 0);
     for (size_t i = 0; i < std::size(values); ++i)
-        ASSERT_EQ(Set(key, std::to_string(i).c_str(), values[i]), 0);
-    ASSERT_EQ(RegCloseKey(key), 0);
-    ASSERT_EQ(Open(key), 0);
+        ASSERT_EQ(Save(std::to_string(i).c_str(), values[i]), 0);
     for (size_t i = 0; i < std::size(values); ++i)
-        EXPECT_EQ(Get(key, std::to_string(i).c_str()), values[i]) << "value " << i;
-    RegCloseKey(key);
+        EXPECT_EQ(Load(std::to_string(i).c_str()), values[i]) << "value " << i;
 }
 
 TEST_F(RegistryTest, ReadsWhatAHandMayHaveWrittenAndKeepsIt)
@@ -191,20 +180,18 @@ TEST(Toml, SurvivesAnyDamage)
 
 TEST_F(RegistryTest, LeavesWhatItMayNotReadOrReplace)
 {
-    struct Case {
-        mode_t folderMode;
-        mode_t fileMode;
+    const struct {
+        mode_t folderMode, fileMode;
         const char* content;
         const char* reason;
-    };
-    const Case cases[] = {
+    } cases[] = {
         { 0777, 0000, "v = 1\n", "unreadable" },
         { 0555, 0666, "v = 1\n", "in a read-only folder" },
         { 0777, 0444, "v = 1\n", "write-protected" },
         { 0555, 0666, "v = =\n", "damaged and cannot be moved" },
     };
     chmod(folder.Path().c_str(), 0777);
-    for (const Case& row : cases) {
+    for (const auto& row : cases) {
         folder.Write(FILE_NAME, row.content);
         chmod(FILE_NAME, row.fileMode);
         chmod("config/Tervalis", row.folderMode);

@@ -120,9 +120,9 @@ TEST_F(DirectSoundTest, PutsOutTheSamplesItWasGiven)
     EXPECT_EQ(buffer->Play(0, 0, 0), DS_OK);
     WaitForFrames(2 * samples.size());
     buffer->Release();
+    samples.push_back(0); // and silence
     std::vector<int16_t> played = CloseAndRead();
-    ASSERT_GT(played.size(), samples.size());
-    EXPECT_EQ(played[samples.size()], 0);
+    ASSERT_GE(played.size(), samples.size());
     played.resize(samples.size());
     EXPECT_EQ(played, samples);
 }

@@ -19,21 +19,6 @@ protected:
 };
 }
 
-TEST_F(WindowTest, SizesAndPlacesTheClientAreaInsideTheFrame)
-{
-    RECT outer = { 0, 0, 500, 300 };
-    AdjustWindowRectEx(&outer, static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE)), FALSE, 0);
-    SetWindowPos(window, nullptr, 100 + outer.left, 200 + outer.top, outer.right - outer.left, outer.bottom - outer.top,
-                 SWP_NOZORDER);
-    int x = 0;
-    int y = 0;
-    SDL_GetWindowPosition(nativeWindow.handle, &x, &y);
-    EXPECT_EQ(ClientSize().x, 500);
-    EXPECT_EQ(ClientSize().y, 300);
-    EXPECT_EQ(x, 100);
-    EXPECT_EQ(y, 200);
-}
-
 TEST_F(WindowTest, UndoesWhatTheBorderDoesUnlessTheWindowManagerInsists)
 {
     const auto userResizes = [this](int width, int height) {
@@ -81,12 +66,10 @@ TEST_F(WindowTest, WritesMessageBoxesOutWhereNobodySeesThem)
 
 TEST_F(WindowTest, CannotBeMadeWithoutADisplay)
 {
-    DestroyWindow(window);
-    RunMessages();
+    TearDown();
     setenv("SDL_VIDEODRIVER", "no such driver", 1);
     testing::internal::CaptureStderr();
-    EXPECT_EQ(CreateWindowExA(0, "Test", "Test", WS_CAPTION, 0, 0, 640, 480, nullptr, nullptr, nullptr, nullptr),
-              nullptr);
+    EXPECT_EQ(CreateWindowExA(0, "Test", "Test", 0, 0, 0, 640, 480, nullptr, nullptr, nullptr, nullptr), nullptr);
     const std::string said = testing::internal::GetCapturedStderr();
     EXPECT_EQ(said.find("Test: cannot open the display (tried: no such driver): "), 0u) << said;
 }
