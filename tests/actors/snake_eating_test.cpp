@@ -37,14 +37,4 @@ TEST_F(SnakeEating, ScoresBerries)
     }
 }
 
-TEST_F(SnakeEating, StonesKillOnlyAfterFiftyMovedFrames)
-{
-    for (const int moved : { 50, 51 }) {
-        PutSnake(240, 32 + snake.speed); // its head comes onto a grid point
-        pond.TurnToStone(240, 32);
-        snake.movedFrames = moved - 1;
-        SnakeFrame();
-        EXPECT_EQ(snake.isDying, moved > 50);
-    }
-}
 }

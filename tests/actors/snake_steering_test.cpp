@@ -1,9 +1,5 @@
 #include "support/test_game.h"
 
-#include "app/frame_images.h"
-
-#include "game/water.h"
-
 #include <vector>
 
 namespace
@@ -45,30 +41,4 @@ TEST_F(SnakeSteering, QueuesOrRefusesKeys)
     }
 }
 
-struct WakeCase {
-    int speed;
-    int y; ///< of the head
-    int key;
-    bool isWaiting;
-    bool splashes;
-    const char* why;
-};
-
-TEST_F(SnakeSteering, SplashesWhenFastOrTurningAtAnEvenPlace)
-{
-    constexpr WakeCase cases[] = {
-        { 2, 242, 0, false, false, "straight on" },     { 2, 242, VK_LEFT, false, true, "a turn is queued" },
-        { 2, 241, VK_LEFT, false, false, "odd place" }, { 4, 241, 0, false, true, "fast" },
-        { 4, 242, VK_LEFT, true, false, "it waits" },
-    };
-    for (const WakeCase& given : cases) {
-        PutSnake(240, given.y);
-        snake.speed = given.speed;
-        snake.isWaiting = given.isWaiting;
-        snake.turnCount = 0;
-        WaterInit(waterBufferA, waterBufferB, 5, 3);
-        SnakeFrame(given.key);
-        EXPECT_EQ(water.current[(given.y + 8) * POND_SIZE + 248] != 0, given.splashes) << given.why;
-    }
-}
 }

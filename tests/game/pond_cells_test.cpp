@@ -82,26 +82,4 @@ TEST_F(PondCells, LookAtBerriesBesideTheHead)
     }
 }
 
-TEST_F(PondCells, FadeTheOldestStonesFirst)
-{
-    for (const int cell : { 500, 20, 300 })
-        MakeStone(pond.cells[cell]);
-    pond.cells[600].age = 9;
-    pond.PlaceBerry(RED, 600); // still growing, and older stones than it may follow
-    MakeStone(pond.cells[700]);
-    EXPECT_EQ(pond.cells[700].age, 10);
-
-    pond.cells[500].splashed = true; // by the berry it was
-    pond.FadeStones(0);
-    EXPECT_EQ(pond.CountStones(), 4);
-    pond.FadeStones(1);
-    EXPECT_TRUE(pond.cells[500].IsRipeBerry());
-    EXPECT_FALSE(pond.cells[500].splashed);
-    pond.cells[20].age = pond.cells[300].age;
-    pond.FadeStones(1);
-    EXPECT_TRUE(pond.cells[20].IsRipeBerry()) << "the lower cell wins a tie";
-    pond.FadeStones(5);
-    EXPECT_EQ(pond.CountStones(), 0);
-    EXPECT_EQ(pond.cells[600].growth, 28) << "growing berries are no stones";
-}
 }

@@ -1,14 +1,22 @@
-#include "doubles/directx.h"
-#include "gfx/display.h"
-#include "gfx/error.h"
-#include "menu/menu_fixture.h"
-#include "sound/sound.h"
+#include "menu/section_menu.h"
+#include "support/settings_store.h"
+
+#include <gtest/gtest.h>
 
 #include <cstring>
 
 namespace
 {
-using SettingsTest = MenuFixture;
+class SettingsTest : public testing::Test
+{
+protected:
+    SettingsTest() { UseFreshSettings(folder); }
+    ~SettingsTest() override { UseNoSettings(); }
+    std::string Stored() const { return folder.ReadText(SETTINGS_FILE); }
+
+    TempFolder folder;
+    CSectionMenu menu;
+};
 }
 
 TEST_F(SettingsTest, TakesValuesAsBytesWhateverTheirType)
@@ -34,7 +42,7 @@ TEST_F(SettingsTest, TakesValuesAsBytesWhateverTheirType)
         { "damaged = = ", 38, "", 0 },
     };
     for (const Case& row : cases) {
-        pictures.folder.Write(SETTINGS_FILE, row.line);
+        folder.Write(SETTINGS_FILE, row.line);
         menu.keys[0] = 1;
         strcpy(menu.rankNames[0], "before");
         menu.rankScores[0] = 1;
@@ -45,33 +53,6 @@ TEST_F(SettingsTest, TakesValuesAsBytesWhateverTheirType)
     }
 }
 
-TEST_F(SettingsTest, AppliesTheStoredDisplayMode)
-{
-    struct Case {
-        const char* stored;
-        bool fails;
-        bool windowed; ///< afterwards
-        const char* logged;
-    };
-    const Case cases[] = {
-        { "Windowed = 1", false, true, "" },
-        { "Windowed = 0", true, true, "Windowed -> Full Screen\n" },
-        { "Windowed = 0", false, false, "Windowed -> Full Screen\n" },
-        { "Windowed = 0", false, false, "" },
-        { "Windowed = 2", false, true, "Full Screen -> Windowed\n" },
-    };
-    for (const Case& row : cases) {
-        pictures.folder.Write(SETTINGS_FILE, row.stored);
-        directX.Fail("DirectDrawCreate", row.fails);
-        const std::string log = Log();
-        EXPECT_EQ(menu.SettingsLoad(), 0);
-        EXPECT_EQ(Log().substr(log.size()), row.logged) << row.stored;
-        EXPECT_EQ(isWindowed, row.windowed) << row.stored;
-        EXPECT_EQ(directX.fullScreen, !row.windowed) << row.stored;
-    }
-    lastError = ENGINE_NO_ERROR;
-}
-
 TEST_F(SettingsTest, WhatCouldNotBeReadIsNeverReplaced)
 {
     UseNoSettings();
@@ -80,8 +61,8 @@ TEST_F(SettingsTest, WhatCouldNotBeReadIsNeverReplaced)
     EXPECT_NE(other.SettingsLoad(), 0);
     EXPECT_EQ(other.keys[0], uint32_t{ 'Q' });
 
-    UseFreshSettings(pictures.folder); // they can be had again
-    pictures.folder.Write(SETTINGS_FILE, "\"Rank 1\" = 5000");
+    UseFreshSettings(folder); // they can be had again
+    folder.Write(SETTINGS_FILE, "\"Rank 1\" = 5000");
     EXPECT_NE(other.SettingsSave(), 0);
     EXPECT_EQ(Stored(), "\"Rank 1\" = 5000");
     EXPECT_EQ(other.SettingsLoad(), 0);

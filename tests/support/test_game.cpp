@@ -5,7 +5,6 @@
 #include "app/random.h"
 #include "app/scenes.h"
 #include "game/water.h"
-#include "gfx/blit.h"
 
 namespace
 {
@@ -76,10 +75,4 @@ void PondTest::MakeRipe(Cell& cell, int colour)
     cell.occupied = cell.ripe = cell.splashed = true;
     cell.growth = 0;
     cell.colour = colour;
-}
-
-void PondTest::Paint(CImage& image, int colour)
-{
-    image.Fill(static_cast<uint16_t>(colour));
-    image.blit = BlitCopy;
 }

@@ -27,8 +27,6 @@ protected:
     static void MakeRipe(Cell& cell, int colour);
     Cell& CellIn(int column, int row) { return pond.cells[row * CELL_COLUMNS + column]; }
     void MakeStone(const Cell& cell) { pond.TurnToStone(cell.x, cell.y); }
-    /// Makes a picture plain, so that a pixel tells whether it was drawn.
-    static void Paint(CImage& image, int colour);
 
     TestPictures pictures;
     CPond pond;
