@@ -1,5 +1,5 @@
 # The platform layer: on Windows the system's own libraries, elsewhere ours on SDL2, FreeType and fontconfig.
-# tervalis_platform_base needs neither window nor sound device; the tests' fake platform stands on it too.
+# tervalis_platform_base needs neither window nor sound device.
 if(WIN32)
     include(cmake/windows.cmake)
     return()
@@ -13,7 +13,7 @@ pkg_check_modules(TURBOJPEG REQUIRED IMPORTED_TARGET libturbojpeg)
 find_path(TOMLPLUSPLUS_INCLUDE_DIR toml++/toml.h REQUIRED) # its headers only: see src/platform/posix/toml.h
 
 pkg_check_modules(HWY REQUIRED IMPORTED_TARGET libhwy)
-target_link_libraries(tervalis_game PUBLIC PkgConfig::TURBOJPEG PkgConfig::HWY)
+target_link_libraries(tervalis_common INTERFACE PkgConfig::TURBOJPEG PkgConfig::HWY)
 
 file(GLOB BASE_SOURCES CONFIGURE_DEPENDS src/platform/posix/*.cpp)
 add_library(tervalis_platform_base STATIC ${BASE_SOURCES})

@@ -6,8 +6,8 @@ include(cmake/windows_libraries.cmake)
 # On 64-bit Windows GCC aligns the stack to 16 bytes, yet moves vectors of 32 and 64 bytes as if it were aligned to them.
 add_compile_options(-Wa,-muse-unaligned-vector-move)
 
-target_compile_definitions(tervalis_game PUBLIC NOMINMAX WIN32_LEAN_AND_MEAN)
-target_link_libraries(tervalis_game PUBLIC turbojpeg hwy)
+target_compile_definitions(tervalis_common INTERFACE NOMINMAX WIN32_LEAN_AND_MEAN)
+target_link_libraries(tervalis_common INTERFACE turbojpeg hwy)
 
 add_library(tervalis_platform_base INTERFACE)
 target_link_libraries(tervalis_platform_base INTERFACE user32 gdi32 ddraw dsound winmm advapi32 shell32)
