@@ -115,17 +115,15 @@ private:
         Stretch& stretch = recording.stretches.emplace_back();
         stretch.frame = frame;
         std::map<std::string, std::string> now;
+        for (const StateField& field : session.Fields())
+            if (field.Value() != NOTHING)
+                now[field.name] = field.Value();
         Checksum sum;
-        for (const StateField& field : session.Fields()) {
-            const std::string value = field.Value();
-            if (value == NOTHING)
-                continue;
-            sum.Add(field.name + " " + value);
-            now[field.name] = value;
-        }
-        for (const auto& [name, value] : now)
+        for (const auto& [name, value] : now) {
+            sum.Add(name + ' ' + value);
             if (const auto old = before.find(name); old == before.end() || old->second != value)
                 stretch.changes[name] = value;
+        }
         for (const auto& [name, value] : before)
             if (!now.contains(name))
                 stretch.changes.emplace(name, NOTHING);

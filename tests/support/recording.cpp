@@ -10,7 +10,7 @@
 //   seed 17
 //   players 1                     not when it begins with the program's start
 //   frames 250
-//   key 61:37 83:38 ...           frame and virtual-key code
+//   at 61 key 37
 //   at 90 set snake[0].score 495
 //   shows snake[0].isDying = 1, snake[1].isDying = 1
 //   stretch 100 1c0f.. 87aa.. 00f1..
@@ -18,7 +18,6 @@
 
 namespace
 {
-constexpr int KEYS_PER_LINE = 12;
 constexpr char ABSENT[] = "0"; ///< the value of a field that is not mentioned
 
 std::string Rest(std::istream& line)
@@ -26,13 +25,6 @@ std::string Rest(std::istream& line)
     std::string rest;
     std::getline(line >> std::ws, rest);
     return rest;
-}
-
-void ReadKeys(std::istream& line, Recording& recording)
-{
-    std::string press;
-    while (line >> press)
-        recording.actions.push_back({ std::stoi(press), "key", press.substr(press.find(':') + 1) });
 }
 
 void ReadAction(std::istream& line, Recording& recording)
@@ -64,8 +56,6 @@ void ReadLine(const std::string& text, Recording& recording)
         line >> recording.players;
     else if (word == "frames")
         line >> recording.frames;
-    else if (word == "key")
-        ReadKeys(line, recording);
     else if (word == "at")
         ReadAction(line, recording);
     else if (word == "shows")
@@ -75,20 +65,6 @@ void ReadLine(const std::string& text, Recording& recording)
         line >> stretch.frame >> std::hex >> stretch.state >> stretch.picture >> stretch.sounds;
     } else
         throw std::runtime_error("not a line of a recording: " + text);
-}
-
-void WriteActions(const Recording& recording, std::ostream& file)
-{
-    int keysInLine = 0;
-    for (const Action& action : recording.actions) {
-        if (action.verb != "key") {
-            file << "\nat " << action.frame << ' ' << action.verb << ' ' << action.arguments;
-            keysInLine = 0;
-            continue;
-        }
-        file << (keysInLine % KEYS_PER_LINE == 0 ? "\nkey " : " ") << action.frame << ':' << action.arguments;
-        ++keysInLine;
-    }
 }
 
 std::string StretchName(const Stretch& stretch, int before)
@@ -148,7 +124,8 @@ void WriteRecording(const Recording& recording, const std::string& path)
     if (recording.players != Recording::FROM_START)
         file << "\nplayers " << recording.players;
     file << "\nframes " << recording.frames;
-    WriteActions(recording, file);
+    for (const Action& action : recording.actions)
+        file << "\nat " << action.frame << ' ' << action.verb << ' ' << action.arguments;
     for (const std::string& condition : recording.shows)
         file << "\nshows " << condition;
     for (const Stretch& stretch : recording.stretches) {

@@ -180,6 +180,8 @@ void Session::Frame()
     nextFrameTime = 0; // due
     game.FrameTick();
     HearSounds();
+    if (!IsRunning())
+        input = InputState{}; // what a window is told while it goes differs between systems
     for (const Action& release : std::exchange(releases, {})) {
         if (release.verb == "key")
             Send(WM_KEYUP, static_cast<WPARAM>(std::stoi(release.arguments)));
@@ -212,6 +214,7 @@ void Session::Close()
     while (GetMessageA(&message, nullptr, 0, 0))
         ; // up to the one that ends the program
     isOpen = false;
+    input = InputState{}; // as in Frame
     Rebuild(game);
     instanceMutex = nullptr;
     packTable[0].Close(); // or its file could not be removed on every system

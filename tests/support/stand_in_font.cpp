@@ -102,3 +102,17 @@ DWORD WINAPI GetGlyphOutlineA(HDC context, UINT character, UINT, GLYPHMETRICS* m
         target[i] = i % rowBytes < width ? Coverage(character, i % rowBytes, i / rowBytes) : BYTE{ 0 };
     return rowBytes * height;
 }
+
+#ifdef _WIN32
+// What is compiled for functions of a library calls them through pointers of these names.
+extern "C" {
+decltype(&CreateFontA) importCreateFontA asm("__imp_CreateFontA") = CreateFontA;
+decltype(&CreateCompatibleDC) importCreateCompatibleDC asm("__imp_CreateCompatibleDC") = CreateCompatibleDC;
+decltype(&SelectObject) importSelectObject asm("__imp_SelectObject") = SelectObject;
+decltype(&DeleteDC) importDeleteDC asm("__imp_DeleteDC") = DeleteDC;
+decltype(&DeleteObject) importDeleteObject asm("__imp_DeleteObject") = DeleteObject;
+decltype(&GetStockObject) importGetStockObject asm("__imp_GetStockObject") = GetStockObject;
+decltype(&GetTextMetricsA) importGetTextMetricsA asm("__imp_GetTextMetricsA") = GetTextMetricsA;
+decltype(&GetGlyphOutlineA) importGetGlyphOutlineA asm("__imp_GetGlyphOutlineA") = GetGlyphOutlineA;
+}
+#endif

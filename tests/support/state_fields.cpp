@@ -29,6 +29,12 @@ struct Target {
     int32_t* number = nullptr;
 };
 
+/// A row of FieldList::Add, named after the field.
+#define FIELD(owner, field)                                                                                            \
+    {                                                                                                                  \
+#field, owner.field                                                                                            \
+    }
+
 class FieldList
 {
 public:
@@ -54,41 +60,19 @@ void AddProgram(FieldList& list)
     list.Add("windowed", isWindowed);
     list.Add("lastError", lastError);
     list.Add("captureScreen", captureScreen);
-    list.Add("input", { { "mouseX", input.mouseX },
-                        { "mouseY", input.mouseY },
-                        { "mouseLeftDown", input.mouseLeftDown },
-                        { "mouseRightDown", input.mouseRightDown },
-                        { "lastKeyDown", input.lastKeyDown },
-                        { "lastKeyUp", input.lastKeyUp },
-                        { "hasFocus", input.hasFocus } });
+    list.Add("input",
+             { FIELD(input, mouseX), FIELD(input, mouseY), FIELD(input, mouseLeftDown), FIELD(input, mouseRightDown),
+               FIELD(input, lastKeyDown), FIELD(input, lastKeyUp), FIELD(input, hasFocus) });
 }
 
 void AddSnake(FieldList& list, const std::string& name, CSnake& s)
 {
-    list.Add(name, { { "isOut", s.isOut },
-                     { "isPaused", s.isPaused },
-                     { "isWaiting", s.isWaiting },
-                     { "startPressed", s.startPressed },
-                     { "slowDownPending", s.slowDownPending },
-                     { "isActive", s.isActive },
-                     { "length", s.length },
-                     { "arrowBlink", s.arrowBlink },
-                     { "eyeFrame", s.eyeFrame },
-                     { "isDying", s.isDying },
-                     { "deathFrames", s.deathFrames },
-                     { "movedFrames", s.movedFrames },
-                     { "lives", s.lives },
-                     { "lastColour", s.lastColour },
-                     { "streak", s.streak },
-                     { "pendingEffect", s.pendingEffect },
-                     { "score", s.score },
-                     { "rainTimer", s.rainTimer },
-                     { "shrinkCount", s.shrinkCount },
-                     { "speedUpTimer", s.speedUpTimer },
-                     { "turnCount", s.turnCount },
-                     { "speed", s.speed },
-                     { "frameCount", s.frameCount },
-                     { "player", s.player } });
+    list.Add(name, { FIELD(s, isOut),           FIELD(s, isPaused),   FIELD(s, isWaiting),   FIELD(s, startPressed),
+                     FIELD(s, slowDownPending), FIELD(s, isActive),   FIELD(s, length),      FIELD(s, arrowBlink),
+                     FIELD(s, eyeFrame),        FIELD(s, isDying),    FIELD(s, deathFrames), FIELD(s, movedFrames),
+                     FIELD(s, lives),           FIELD(s, lastColour), FIELD(s, streak),      FIELD(s, pendingEffect),
+                     FIELD(s, score),           FIELD(s, rainTimer),  FIELD(s, shrinkCount), FIELD(s, speedUpTimer),
+                     FIELD(s, turnCount),       FIELD(s, speed),      FIELD(s, frameCount),  FIELD(s, player) });
     for (int i = 0; i < s.length; ++i) {
         list.Add(At(name + ".x", i), s.segments[i].x);
         list.Add(At(name + ".y", i), s.segments[i].y);
@@ -102,13 +86,8 @@ void AddSnake(FieldList& list, const std::string& name, CSnake& s)
 
 void AddMenu(FieldList& list, const std::string& name, CMenu& menu)
 {
-    list.Add(name, { { "x", menu.x },
-                     { "y", menu.y },
-                     { "isVisible", menu.isVisible },
-                     { "isActive", menu.isActive },
-                     { "hoveredButton", menu.hoveredButton },
-                     { "hoveredToggle", menu.hoveredToggle },
-                     { "cursorBlink", menu.cursorBlink } });
+    list.Add(name, { FIELD(menu, x), FIELD(menu, y), FIELD(menu, isVisible), FIELD(menu, isActive),
+                     FIELD(menu, hoveredButton), FIELD(menu, hoveredToggle), FIELD(menu, cursorBlink) });
     for (int i = 0; i < menu.toggleCount; ++i)
         list.Add(At(name + ".checked", menu.toggles[i].id), menu.toggles[i].checked);
     for (int i = 0; i < menu.textCount; ++i) {
@@ -122,15 +101,10 @@ void AddMenu(FieldList& list, const std::string& name, CMenu& menu)
 
 void AddStatusBar(FieldList& list, CStatusBar& bar)
 {
-    list.Add("bar", { { "level", bar.level },
-                      { "target", bar.target },
-                      { "prevTarget", bar.prevTarget },
-                      { "coilWait", bar.coilWait },
-                      { "countUp", bar.countUp },
-                      { "panelOpen", bar.panelOpen },
-                      { "berryCountdown", bar.berryCountdown },
-                      { "lifeMark[0]", bar.lifeMark[0] },
-                      { "lifeMark[1]", bar.lifeMark[1] } });
+    list.Add("bar", { FIELD(bar, level), FIELD(bar, target), FIELD(bar, prevTarget), FIELD(bar, coilWait),
+                      FIELD(bar, countUp), FIELD(bar, panelOpen), FIELD(bar, berryCountdown) });
+    for (int i = 0; i < 2; ++i)
+        list.Add(At("bar.lifeMark", i), bar.lifeMark[i]);
     AddMenu(list, "leftPanel", bar.leftPanel);
     AddMenu(list, "pausedPanel", bar.pausedPanel);
     AddMenu(list, "confirmPanel", bar.confirmPanel);
@@ -145,29 +119,18 @@ void AddObjects(FieldList& list, CPond& pond)
 {
     for (int i = 0; i < CELL_COUNT; ++i) {
         Cell& cell = pond.cells[i];
-        list.Add(At("cell", i), { { "occupied", cell.occupied },
-                                  { "ripe", cell.ripe },
-                                  { "colour", cell.colour },
-                                  { "age", cell.age },
-                                  { "growth", cell.growth },
-                                  { "splashed", cell.splashed } });
+        list.Add(At("cell", i), { FIELD(cell, occupied), FIELD(cell, ripe), FIELD(cell, colour), FIELD(cell, age),
+                                  FIELD(cell, growth), FIELD(cell, splashed) });
     }
     for (int i = 0; i < static_cast<int>(std::size(pond.lasers)); ++i) {
         Laser& laser = pond.lasers[i];
-        list.Add(At("laser", i), { { "active", laser.active },
-                                   { "x", laser.x },
-                                   { "y", laser.y },
-                                   { "heading", laser.heading },
-                                   { "frame", laser.frame },
-                                   { "hit", laser.hit } });
+        list.Add(At("laser", i), { FIELD(laser, active), FIELD(laser, x), FIELD(laser, y), FIELD(laser, heading),
+                                   FIELD(laser, frame), FIELD(laser, hit) });
     }
     for (int i = 0; i < static_cast<int>(std::size(pond.popups)); ++i) {
         Popup& popup = pond.popups[i];
-        list.Add(At("popup", i), { { "active", popup.active },
-                                   { "x", popup.x },
-                                   { "y", popup.y },
-                                   { "kind", popup.kind },
-                                   { "opacity", popup.opacity } });
+        list.Add(At("popup", i),
+                 { FIELD(popup, active), FIELD(popup, x), FIELD(popup, y), FIELD(popup, kind), FIELD(popup, opacity) });
     }
     for (int i = 0; i < HIGHLIGHTS; ++i)
         list.Add(At("highlight", i), pond.highlight[i]);
@@ -175,21 +138,12 @@ void AddObjects(FieldList& list, CPond& pond)
 
 void AddPond(FieldList& list, CPond& pond)
 {
-    list.Add("pond", { { "players", pond.players },
-                       { "gameOver", pond.gameOver },
-                       { "fadeOut", pond.fadeOut },
-                       { "isDay", pond.isDay },
-                       { "transition", pond.transition },
-                       { "dayTimer", pond.dayTimer },
-                       { "introFrames", pond.introFrames },
-                       { "highlightNext", pond.highlightNext },
-                       { "blinkCounter", blinkCounter },
-                       { "moonToggle", scenery.moonToggle },
-                       { "moonY", scenery.moonY } });
-    list.Add("shockwave", { { "x", pond.shockwave.x },
-                            { "y", pond.shockwave.y },
-                            { "radius", pond.shockwave.radius },
-                            { "maxRadius", pond.shockwave.maxRadius } });
+    list.Add("pond", { FIELD(pond, players), FIELD(pond, gameOver), FIELD(pond, fadeOut), FIELD(pond, isDay),
+                       FIELD(pond, transition), FIELD(pond, dayTimer), FIELD(pond, introFrames),
+                       FIELD(pond, highlightNext), FIELD(scenery, moonToggle), FIELD(scenery, moonY) });
+    list.Add("pond.blinkCounter", blinkCounter);
+    list.Add("shockwave", { FIELD(pond.shockwave, x), FIELD(pond.shockwave, y), FIELD(pond.shockwave, radius),
+                            FIELD(pond.shockwave, maxRadius) });
     for (int i = 0; i < 2; ++i)
         list.AddText(At("moon", i), std::to_string(pond.moonImages[i].opacity));
     AddSnake(list, "snake[0]", pond.snake[0]);
@@ -217,9 +171,7 @@ void AddMenuScene(FieldList& list)
     AddMenu(list, "rankingMenu", menu.rankingMenu);
     for (int page = 0; page < HELP_PAGES; ++page)
         AddMenu(list, At("helpMenu", page), menu.helpMenus[page]);
-    list.Add("menu", { { "twoPlayers", menu.twoPlayers },
-                       { "rankEntryPending", menu.rankEntryPending },
-                       { "keyConflict", menu.keyConflict } });
+    list.Add("menu", { FIELD(menu, twoPlayers), FIELD(menu, rankEntryPending), FIELD(menu, keyConflict) });
     for (int i = 0; i < KEY_BINDINGS; ++i)
         list.Add(At("menu.key", i), menu.keys[static_cast<size_t>(i)]);
     for (int i = 0; i < RANKING_PLACES; ++i) {
