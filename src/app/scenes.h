@@ -7,7 +7,8 @@ class CSection;
 extern CSection* requestedSection; ///< scene asked for; never null while the program runs
 extern CSection* currentSection;
 
-// What scenes ask of each other. None of them needs to know another; a scene asked for begins at the next tick.
+// What scenes ask of each other, so that none of them needs to know another (scene_requests.cpp does). A scene asked
+// for begins at the next tick.
 
 void RequestMenu();
 void RequestGame();

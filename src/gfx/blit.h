@@ -1,8 +1,8 @@
 #pragma once
 
-#include "gfx/image.h"
-
 #include <cstdint>
+
+class CImage;
 
 // The blit routines. The source's top-left pixel lands at (target.x - source.x, target.y - source.y); what lies
 // outside the target is clipped away.

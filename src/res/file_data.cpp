@@ -34,11 +34,6 @@ void SeekTo(HANDLE file, uint32_t position)
 }
 }
 
-HANDLE OpenForReading(const char* path)
-{
-    return CreateFileA(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-}
-
 bool CFileData::Load(const char* path)
 {
     const LooseFile loose(path);

@@ -5,9 +5,6 @@
 #include <cstdint>
 #include <memory>
 
-/// An existing file on disk, for CloseHandle; INVALID_HANDLE_VALUE on failure.
-HANDLE OpenForReading(const char* path);
-
 /// The bytes of one file, loose on disk or, failing that, a member of the pack.
 class CFileData
 {

@@ -1,7 +1,6 @@
 #include "res/pack_file.h"
 
 #include "gfx/error.h"
-#include "res/file_data.h"
 #include "res/file_report.h"
 #include "res/little_endian.h"
 
@@ -41,6 +40,11 @@ std::unique_ptr<PackEntry[]> ReadIndex(HANDLE file, uint32_t count)
     }
     return entries;
 }
+}
+
+HANDLE OpenForReading(const char* path)
+{
+    return CreateFileA(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
 CPackFile::~CPackFile()

@@ -39,6 +39,9 @@ private:
 constexpr int PACK_SLOTS = 32;
 extern CPackFile packTable[PACK_SLOTS];
 
+/// An existing file on disk, for CloseHandle; INVALID_HANDLE_VALUE on failure.
+HANDLE OpenForReading(const char* path);
+
 /// Opens a pack into the table; does nothing when the first slot is taken. False: an ENGINE_ code is stored.
 bool OpenPack(const char* path);
 
