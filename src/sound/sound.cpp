@@ -97,18 +97,24 @@ bool FillBuffer(IDirectSoundBuffer& buffer, HMMIO file, MMCKINFO& data)
     return read;
 }
 
-bool LoadWave(int id, const char* path)
-{
+/// Closed at the end of its scope, also when memory runs out meanwhile.
+struct OpenWave {
+    OpenWave() = default;
+    ~OpenWave() { WaveClose(&file, &format); }
+    OpenWave(const OpenWave&) = delete;
+    OpenWave& operator=(const OpenWave&) = delete;
+
     HMMIO file = nullptr;
     WAVEFORMATEX* format = nullptr;
+};
+
+bool LoadWave(int id, const char* path)
+{
+    OpenWave wave;
     MMCKINFO riff{};
     MMCKINFO data{};
-    if (WaveOpen(path, &file, &format, &riff) != 0)
-        return false;
-    const bool loaded = WaveSeekData(file, &data, &riff) == 0 && SoundCreate(id, format, data.cksize) &&
-                        FillBuffer(*FindBuffer(id), file, data);
-    WaveClose(&file, &format);
-    return loaded;
+    return WaveOpen(path, &wave.file, &wave.format, &riff) == 0 && WaveSeekData(wave.file, &data, &riff) == 0 &&
+           SoundCreate(id, wave.format, data.cksize) && FillBuffer(*FindBuffer(id), wave.file, data);
 }
 }
 
