@@ -48,37 +48,29 @@ protected:
     TempFolder folder;
 };
 
-/// Another process that has made the mutex and lives until it is killed, and a child of it that lives longer, as the
-/// one that shows a message box, until `end` is closed. Both are under way when this returns.
-pid_t StartOwner(int& end)
+/// Another process that has made the mutex, and a child of it, as the one that shows a message box. Both are in a group
+/// of their own, under way, and live until they are killed. Negative where that cannot be.
+pid_t StartOwner()
 {
     int ready[2] = {};
-    int over[2] = {};
-    if (pipe(ready) != 0 || pipe(over) != 0)
-        return -1;
+    char made = pipe(ready) == 0 ? 'y' : 'n';
     const pid_t owner = fork();
-    char byte = 'y';
     if (owner == 0) {
-        byte = CreateMutexA(nullptr, FALSE, "Test") ? 'y' : 'n';
-        const bool isChild = fork() == 0;
-        close(over[1]);
-        if (write(ready[1], &byte, 1) == 1 && !isChild)
-            pause();
-        _exit(static_cast<int>(read(over[0], &byte, 1)));
+        setpgid(0, 0);
+        made = CreateMutexA(nullptr, FALSE, "Test") ? 'y' : 'n';
+        fork();
+        _exit(write(ready[1], &made, 1) == 1 ? pause() : 1);
     }
-    bool isMade = true;
     for (int i = 0; i < 2; ++i)
-        isMade = read(ready[0], &byte, 1) == 1 && byte == 'y' && isMade;
-    end = over[1];
-    return isMade ? owner : -1;
+        if (read(ready[0], &made, 1) != 1 || made != 'y')
+            return -1;
+    return owner;
 }
 }
 
 TEST_F(MutexTest, IsKnownToEverySessionUntilItsOwnerDies)
 {
-    EXPECT_EQ(Try(), ERROR_SUCCESS);
-    int boxEnd = -1;
-    const pid_t owner = StartOwner(boxEnd);
+    const pid_t owner = StartOwner();
     ASSERT_GT(owner, 0);
     UseFolder("XDG_RUNTIME_DIR", "run2");
     EXPECT_EQ(Try(), ERROR_ALREADY_EXISTS);
@@ -86,7 +78,7 @@ TEST_F(MutexTest, IsKnownToEverySessionUntilItsOwnerDies)
     kill(owner, SIGKILL);
     waitpid(owner, nullptr, 0);
     EXPECT_EQ(Try(), ERROR_SUCCESS) << "its message box is still open";
-    close(boxEnd);
+    kill(-owner, SIGKILL);
 }
 
 TEST_F(MutexTest, GoesWhereALockCanBeMade)

@@ -2,36 +2,48 @@
 #include "platform/sdl/messages.h"
 #include "platform/sdl/window_fixture.h"
 
+#include <iterator>
+#include <map>
 #include <sstream>
 #include <string>
 
 namespace
 {
-/// Events, and what the game sees of them frame by frame. "L+5", "L-5": the left button at x = 5; "M9": a move there;
-/// "w+", "w*", "w-": a key with its character goes down, repeats, goes up; "F": the focus goes.
-/// Seen are the mouse's place where it was heard of, "L" while the button is down, the last key and character, and
-/// "-W" for a key that was let go.
-struct PacingCase {
+/// Events, and what the game is given of them frame by frame. "L+5", "L-5": the left button at x = 5; "M9": a move
+/// there; "+W", "*W", "-W": a key goes down, repeats, goes up, "w" its character; "F": the focus goes.
+const struct {
     const char* events;
-    std::vector<std::string> seen;
+    std::vector<std::string> frames;
     const char* why;
+} cases[] = {
+    { "M5 +A L+6 -A L-6", { "M5+AaL+6", "-AL-6" }, "nothing waits where nothing collides" },
+    { "L+5 L-5", { "L+5", "L-5" }, "a click shorter than a frame" },
+    { "L+5 M9 L-9", { "L+5", "M9L-9" }, "a click acts where it was made" },
+    { "L+5 L-5 L+7 L-7", { "L+5", "L-5L+7", "L-7" }, "a double click" },
+    { "+W +L -W -L", { "+Ww", "+Ll-W", "-L" }, "two players in one frame" },
+    { "+A +B -A +C -B -C", { "+Aa", "+Bb-A", "+Cc-B", "-C" }, "no letter of a name is lost" },
+    { "+W *W +L *W -L -W", { "+Ww", "+Ll", "-L-W" }, "auto-repeat does not wait" },
+    { "+A +B +C +D +E +F +G -A -B -C -D -E -F -G",
+      { "+Aa", "+Dd", "+Ee", "+Ff", "+Gg-A-B-C-D-E-F", "-G" },
+      "after a stall the oldest of many go" },
+    { "L+5 +W F", { "L+5+Ww", "-WL-5F" }, "the focus goes after what happened before" },
 };
 
-class PacingTable : public WindowFixture, public testing::WithParamInterface<PacingCase>
+class PacingTest : public WindowFixture
 {
 protected:
     static void Push(const std::string& event)
     {
-        const char what = event[0];
-        if (what == 'L')
-            return PushButton(event[1] == '+', event[2] - '0', 0);
-        if (what == 'M')
-            return PushMotion(event[1] - '0', 0);
-        if (what == 'F')
+        if (event == "F")
             return PushWindowEvent(SDL_WINDOWEVENT_FOCUS_LOST);
-        PushKey(event[1] != '-', static_cast<SDL_Scancode>(SDL_SCANCODE_A + what - 'a'), what);
-        if (event[1] != '-')
-            PushText(event.substr(0, 1).c_str());
+        if (event[0] == 'L')
+            return PushButton(event[1] == '+', event[2] - '0', 0);
+        if (event[0] == 'M')
+            return PushMotion(event[1] - '0', 0);
+        const char letter = static_cast<char>(event[1] - 'A' + 'a');
+        PushKey(event[0] != '-', static_cast<SDL_Scancode>(SDL_SCANCODE_A + letter - 'a'), letter);
+        if (event[0] != '-')
+            PushText(std::string(1, letter).c_str());
     }
 
     void Poll()
@@ -40,63 +52,39 @@ protected:
             DispatchMessageA(message);
     }
 
-    /// What the frame sees, as the game keeps it; then the frame has been shown.
+    /// What the frame was given; then it has been shown.
     std::string ShowFrame()
     {
-        std::string place;
-        std::string key;
-        std::string character;
-        std::string rest;
+        const std::map<UINT, std::string> signs = { { WM_KEYDOWN, "+" },      { WM_CHAR, "" },
+                                                    { WM_KEYUP, "-" },        { WM_MOUSEMOVE, "M" },
+                                                    { WM_LBUTTONDOWN, "L+" }, { WM_LBUTTONUP, "L-" } };
+        std::string given;
         for (const Received& one : received) {
-            if (one.message >= WM_MOUSEMOVE)
-                place = std::to_string(LOWORD(one.lParam));
-            if (one.message == WM_LBUTTONDOWN || one.message == WM_LBUTTONUP)
-                isLeftDown = one.message == WM_LBUTTONDOWN;
-            if (one.message == WM_KEYDOWN)
-                key = static_cast<char>(one.wParam);
-            if (one.message == WM_CHAR)
-                character = static_cast<char>(one.wParam);
-            if (one.message == WM_KILLFOCUS)
-                rest += "F";
-            if (one.message == WM_KEYUP)
-                rest += { '-', static_cast<char>(one.wParam) };
+            const bool isMouse = one.message >= WM_MOUSEMOVE;
+            const int what = isMouse ? '0' + LOWORD(one.lParam) : static_cast<int>(one.wParam);
+            given += one.message == WM_KILLFOCUS ? "F" : signs.at(one.message) + static_cast<char>(what);
         }
         received.clear();
         EndFrameOfMessages();
-        return place + (isLeftDown ? "L" : "") + key + character + rest;
+        return given;
     }
-
-    bool isLeftDown = false;
 };
 }
 
-TEST_P(PacingTable, ShowsEachPressToOneFrame)
+TEST_F(PacingTest, ShowsEachPressToOneFrame)
 {
     constexpr int TIMES = 1000;
-    for (int i = 0; i < TIMES; ++i) {
-        std::istringstream events(GetParam().events);
+    for (int i = 0; i < TIMES * static_cast<int>(std::size(cases)); ++i) {
+        const auto& row = cases[i / TIMES];
+        std::istringstream events(row.events);
         for (std::string event; events >> event;) {
             Push(event);
             for (int polls = i % 6; polls > 0; --polls) // up to 5 ms apart, or all at once
                 Poll();
         }
-        for (const std::string& seen : GetParam().seen) {
+        for (const std::string& frame : row.frames) {
             Poll();
-            ASSERT_EQ(ShowFrame(), seen) << GetParam().why << ", time " << i;
+            ASSERT_EQ(ShowFrame(), frame) << row.why << ", time " << i;
         }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Events, PacingTable,
-    testing::Values(PacingCase{ "M5 a+ L+6 a- L-6", { "6LAa", "6-A" }, "nothing waits where nothing collides" },
-                    PacingCase{ "L+5 L-5", { "5L", "5" }, "a click shorter than a frame" },
-                    PacingCase{ "L+5 M9 L-9", { "5L", "9" }, "a click acts where it was made" },
-                    PacingCase{ "L+5 L-5 L+7 L-7", { "5L", "7L", "7" }, "a double click" },
-                    PacingCase{ "w+ l+ w- l-", { "Ww", "Ll-W", "-L" }, "two players in one frame" },
-                    PacingCase{ "a+ b+ a- c+ b- c-", { "Aa", "Bb-A", "Cc-B", "-C" }, "no letter of a name is lost" },
-                    PacingCase{ "w+ w* l+ w* l- w-", { "Ww", "Ll", "-L-W" }, "auto-repeat does not wait" },
-                    PacingCase{ "a+ b+ c+ d+ e+ f+ g+ a- b- c- d- e- f- g-",
-                                { "Aa", "Dd", "Ee", "Ff", "Gg-A-B-C-D-E-F", "-G" },
-                                "after a stall the oldest of many go" },
-                    PacingCase{ "L+5 w+ F", { "5LWw", "5-WF" }, "the focus goes after what happened before" }));

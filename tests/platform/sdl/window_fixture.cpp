@@ -1,7 +1,7 @@
 #include "platform/sdl/window_fixture.h"
 
+#include "gfx/display.h"
 #include "platform/sdl/messages.h"
-#include "platform/sdl/native_window.h"
 
 #include <cstdlib>
 
@@ -15,7 +15,7 @@ LRESULT WindowFixture::Procedure(HWND target, UINT message, WPARAM wParam, LPARA
     receiver->push_back({ message, wParam, lParam });
     if (message != WM_DESTROY)
         return DefWindowProcA(target, message, wParam, lParam);
-    PostQuitMessage(7);
+    PostQuitMessage(0);
     return 0;
 }
 
@@ -26,45 +26,31 @@ void WindowFixture::SetUp()
     receiver = &received;
     WNDCLASSA windowClass = {};
     windowClass.lpfnWndProc = Procedure;
-    windowClass.lpszClassName = "Test";
     RegisterClassA(&windowClass);
-    const DWORD style = WS_CAPTION | WS_SYSMENU;
-    RECT outer = { 0, 0, 640, 480 };
-    AdjustWindowRectEx(&outer, style, FALSE, 0);
-    window = CreateWindowExA(0, "Test", "Test", style, 0, 0, outer.right - outer.left, outer.bottom - outer.top,
-                             nullptr, nullptr, nullptr, nullptr);
-    ASSERT_NE(window, nullptr);
-    SetWindowPos(window, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_SHOWWINDOW);
+    window = CreateWindowExA(0, "Test", "Test", 0, 0, 0, 640, 480, nullptr, nullptr, nullptr, nullptr);
+    ASSERT_TRUE(DisplaySetMode(window, 640, 480, true));
     RunMessages();
     received.clear();
 }
 
 void WindowFixture::TearDown()
 {
+    DisplayRelease();
     DestroyWindow(window);
     RunMessages();
 }
 
 bool WindowFixture::RunMessages()
 {
-    for (size_t before = received.size() + 1; before != received.size();) {
-        before = received.size();
-        if (RunFrame())
-            return true;
-    }
-    return false;
-}
-
-bool WindowFixture::RunFrame()
-{
     MSG message = {};
-    while (PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE)) {
-        if (!GetMessageA(&message, nullptr, 0, 0))
-            return true;
-        TranslateMessage(&message);
-        DispatchMessageA(&message);
+    for (size_t before = received.size() + 1; before != received.size(); EndFrameOfMessages()) {
+        before = received.size();
+        while (PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE)) {
+            if (!GetMessageA(&message, nullptr, 0, 0))
+                return true;
+            DispatchMessageA(&message);
+        }
     }
-    EndFrameOfMessages();
     return false;
 }
 
@@ -118,12 +104,4 @@ void WindowFixture::PushButton(bool down, int x, int y)
     event.button.x = x;
     event.button.y = y;
     SDL_PushEvent(&event);
-}
-
-uint32_t WindowFixture::ScreenPixel(int x, int y)
-{
-    const SDL_Rect place = { x, y, 1, 1 };
-    uint32_t pixel = 0;
-    SDL_RenderReadPixels(SDL_GetRenderer(nativeWindow.handle), &place, SDL_PIXELFORMAT_ARGB8888, &pixel, 4);
-    return pixel & 0xF8F8F8;
 }

@@ -24,8 +24,6 @@ protected:
 
     /// Gives the window all that waits for it, in as many frames as that takes; true when the quit message was in it.
     bool RunMessages();
-    /// Gives the window what is due in one frame.
-    bool RunFrame();
     /// The messages received so far, in order, without their words.
     std::vector<UINT> Messages() const;
 
@@ -35,9 +33,6 @@ protected:
     static void PushMotion(int x, int y);
     /// The left mouse button.
     static void PushButton(bool down, int x, int y);
-
-    /// A screen pixel as 0xRRGGBB, each channel in the five bits that every conversion keeps.
-    static uint32_t ScreenPixel(int x, int y);
 
     HWND window = nullptr;
     std::vector<Received> received;
