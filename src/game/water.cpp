@@ -4,25 +4,33 @@
 #include "game/water_rows.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 WaterState water{};
 
 namespace
 {
-/// The part of the picture that is shown, and where: field samples and target pixels.
-struct ShownPart {
+/// A rectangle of the field.
+struct Block {
     int x;
     int y;
     int width;
     int height;
-    uint16_t* target; ///< pixel of the part's top-left corner
-    ptrdiff_t targetStride;
-
-    uint16_t* TargetRow(int fieldRow) const { return target + (fieldRow - y) * targetStride; }
-    bool ContainsRow(int fieldRow) const { return fieldRow >= y && fieldRow < y + height; }
 };
+
+/// The picture, and where its pixels are shown.
+struct View {
+    const uint16_t* picture;
+    uint16_t* target; ///< of the field's top-left sample, were it shown
+    ptrdiff_t stride; ///< of the target
+
+    uint16_t* TargetAt(int x, int y) const { return target + y * stride + x; }
+};
+
+ptrdiff_t SampleAt(int x, int y)
+{
+    return static_cast<ptrdiff_t>(y) * water.fieldWidth + x;
+}
 
 /// A processor's packed shift treats larger counts as 15: nothing but the sign is left.
 int ClampShift(int shift)
@@ -30,39 +38,53 @@ int ClampShift(int shift)
     return static_cast<int>(std::min(static_cast<uint32_t>(shift), 15U));
 }
 
-/// The height left of a row's first sample is the end of the row before, but calm for the first row stepped.
-int16_t LeftOf(const int16_t* current, int x, int y)
+WaterRows RowsOf(const Block& block)
 {
-    return x == 0 && y == 1 ? int16_t{ 0 } : current[-1];
+    const ptrdiff_t start = SampleAt(block.x, block.y);
+    return { water.current + start, water.previous + start, water.fieldWidth,
+             block.width,           block.height,           ClampShift(water.dampingShift) };
 }
 
-void CopyPart(const uint16_t* source, const ShownPart& part)
+void StepBlock(const Block& block)
 {
-    for (int y = part.y; y < part.y + part.height; ++y) {
-        const uint16_t* row = source + static_cast<ptrdiff_t>(y) * water.fieldWidth + part.x;
-        std::memcpy(part.TargetRow(y), row, static_cast<size_t>(part.width) * sizeof(uint16_t));
-    }
+    BestWaterKernels().stepRows(RowsOf(block));
 }
 
-void StepRow(const WaterKernels& kernels, int y)
+void ShowBlock(const View& view, const Block& block)
 {
-    const ptrdiff_t start = static_cast<ptrdiff_t>(y) * water.fieldWidth;
-    const int16_t* current = water.current + start;
-    kernels.stepRow(current, water.previous + start, water.fieldWidth, LeftOf(current, 0, y),
-                    ClampShift(water.dampingShift));
+    BestWaterKernels().showRows(RowsOf(block),
+                                { view.picture, water.fieldWidth * water.fieldHeight,
+                                  static_cast<int>(SampleAt(block.x, block.y)), ClampShift(water.refractionShift),
+                                  view.TargetAt(block.x, block.y), view.stride });
 }
 
-/// Displaces the whole groups of four samples of that row that lie in the part.
-void RefractRow(const WaterKernels& kernels, const uint16_t* source, const ShownPart& part, int y)
+/// Shows the picture as it is.
+void CopyBlock(const View& view, const Block& block)
 {
-    const int first = (part.x + 3) / 4 * 4;
-    const int end = (part.x + part.width) / 4 * 4;
-    if (!part.ContainsRow(y) || first >= end)
-        return;
-    const int16_t* current = water.current + static_cast<ptrdiff_t>(y) * water.fieldWidth + first;
-    const WaterSource picture = { source, water.fieldWidth, water.fieldHeight };
-    kernels.refractRow(current, picture, first, y, end - first, LeftOf(current, first, y),
-                       ClampShift(water.refractionShift), part.TargetRow(y) + (first - part.x));
+    for (int y = block.y; y < block.y + block.height; ++y)
+        std::copy_n(view.picture + SampleAt(block.x, y), block.width, view.TargetAt(block.x, y));
+}
+
+/// The whole groups of four samples in the block, but for those of the field's first and last row, which stay calm.
+Block WavesIn(const Block& block)
+{
+    const int left = std::min((block.x + 3) / 4 * 4, block.x + block.width);
+    const int right = std::max(left, (block.x + block.width) / 4 * 4);
+    const int top = std::min(std::max(block.y, 1), block.y + block.height);
+    const int bottom = std::max(top, std::min(block.y + block.height, water.fieldHeight - 1));
+    return { left, top, right - left, bottom - top };
+}
+
+/// Does what lies around `inner` in `outer`.
+template <class Work>
+void ForBlocksAround(const Block& inner, const Block& outer, Work work)
+{
+    const int right = inner.x + inner.width;
+    const int bottom = inner.y + inner.height;
+    work({ outer.x, outer.y, outer.width, inner.y - outer.y });
+    work({ outer.x, inner.y, inner.x - outer.x, inner.height });
+    work({ right, inner.y, outer.x + outer.width - right, inner.height });
+    work({ outer.x, bottom, outer.width, outer.y + outer.height - bottom });
 }
 }
 
@@ -102,12 +124,11 @@ void WaterFrame(const uint16_t* source, int x0, int y0, int width, int height, u
                 int targetY, int targetPitch)
 {
     const ptrdiff_t stride = targetPitch / static_cast<ptrdiff_t>(sizeof(uint16_t));
-    const ShownPart part = { x0, y0, width, height, target + targetY * stride + targetX, stride };
-    const WaterKernels& kernels = BestWaterKernels();
-    CopyPart(source, part);
-    for (int y = 1; y < water.fieldHeight - 1; ++y) {
-        StepRow(kernels, y);
-        RefractRow(kernels, source, part, y);
-    }
+    const View view = { source, target + (targetY - y0) * stride + targetX - x0, stride };
+    const Block shown = { x0, y0, width, height };
+    const Block waves = WavesIn(shown);
+    ForBlocksAround(waves, shown, [&](const Block& block) { CopyBlock(view, block); });
+    ForBlocksAround(waves, WavesIn({ 0, 0, water.fieldWidth, water.fieldHeight }), StepBlock);
+    ShowBlock(view, waves);
     std::swap(water.current, water.previous);
 }

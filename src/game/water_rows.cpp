@@ -1,11 +1,12 @@
-// Compiled once per instruction set. Vectors begin where a group of four samples does, so that a lane's number modulo
-// four is its place in its group.
+// Compiled once per instruction set. Vectors begin where a group of four samples does. Inlining is asked for where a
+// rule's constants would otherwise be loaded anew for each vector.
 #include "game/water_rows.h"
 
 #include "game/water_rules.h"
 
 #include <algorithm>
-#include <cstddef>
+#include <bit>
+#include <cstring>
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "game/water_rows.cpp"
@@ -19,139 +20,192 @@ namespace
 {
 namespace HWY_NAMESPACE
 {
-/// One row of heights among its neighbours.
-struct HeightRow {
-    const int16_t* samples;
-    int width;    ///< samples from row to row
-    int16_t left; ///< of the first sample
+constexpr size_t MOST_LANES = 16; ///< in wider vectors each load of a neighbour would lie across two cache lines
+constexpr size_t EIGHT = 8;
+
+// Which lanes are the first of their group of four, the last, or one of both.
+alignas(64) constexpr int16_t FIRST[MOST_LANES] = { -1, 0, 0, 0, -1, 0, 0, 0, -1, 0, 0, 0, -1, 0, 0, 0 };
+alignas(64) constexpr int16_t LAST[MOST_LANES] = { 0, 0, 0, -1, 0, 0, 0, -1, 0, 0, 0, -1, 0, 0, 0, -1 };
+alignas(64) constexpr int16_t OUTER[MOST_LANES] = { -1, 0, 0, -1, -1, 0, 0, -1, -1, 0, 0, -1, -1, 0, 0, -1 };
+alignas(64) constexpr int32_t LANE_NUMBERS[MOST_LANES] = { 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15 };
+
+struct StepRule {
+    static constexpr size_t LEAST_LANES = WATER_GROUP;
+
+    const int16_t* current;
+    int16_t* previous;
+    ptrdiff_t width;
+    int dampingShift;
 
     WaterNeighbours Around(size_t x) const
     {
-        const int16_t* sample = samples + x;
-        return { sample[-width], sample[width], x == 0 ? left : sample[-1], sample[1] };
+        const int16_t* sample = current + x;
+        return { sample[-width], sample[width], sample[-1], sample[1] };
     }
-    const int16_t* Above(size_t x) const { return samples + x - width; }
-    const int16_t* Below(size_t x) const { return samples + x + width; }
-};
-
-struct StepRule {
-    HeightRow current;
-    int16_t* previous;
-    int dampingShift;
 
     void Sample(size_t x) const
     {
         const int place = static_cast<int>(x % WATER_GROUP);
-        previous[x] = NextHeight(NeighbourSum(current.Around(x), place), previous[x], dampingShift);
+        previous[x] = NextHeight(NeighbourSum(Around(x), place), previous[x], dampingShift);
     }
 
     template <class Lanes>
-    void Vector(Lanes lanes, size_t x) const
+    HWY_INLINE void Vector(Lanes lanes, size_t x) const
     {
-        const int16_t* first = current.samples + x;
-        const auto sum = NeighbourSums(lanes, hn::LoadU(lanes, current.Above(x)), hn::LoadU(lanes, current.Below(x)),
-                                       hn::LoadU(lanes, first - 1), hn::LoadU(lanes, first + 1));
-        const auto next = hn::SaturatedSub(hn::ShiftRight<1>(sum), hn::LoadU(lanes, previous + x));
+        const int16_t* first = current + x;
+        Step(lanes, x, hn::LoadU(lanes, first - width), hn::LoadU(lanes, first + width), hn::LoadU(lanes, first - 1),
+             hn::LoadU(lanes, first + 1));
+    }
+
+    template <class Lanes, class V>
+    HWY_INLINE void Step(Lanes lanes, size_t x, V up, V down, V left, V right) const
+    {
+        const V sum = NeighbourSums(lanes, up, down, left, right);
+        const V next = hn::SaturatedSub(hn::ShiftRight<1>(sum), hn::LoadU(lanes, previous + x));
         hn::StoreU(hn::SaturatedSub(next, hn::ShiftRightSame(next, dampingShift)), lanes, previous + x);
     }
 
     template <class Lanes, class V>
-    static V NeighbourSums(Lanes lanes, V up, V down, V left, V right)
+    static HWY_INLINE V NeighbourSums(Lanes lanes, V up, V down, V left, V right)
     {
-        const V upAndDown = hn::SaturatedAdd(up, down);
-        const V first = hn::SaturatedAdd(hn::SaturatedAdd(hn::SaturatedAdd(left, up), down), right);
-        const V middle = hn::SaturatedAdd(hn::SaturatedAdd(upAndDown, right), left);
-        const V last = hn::SaturatedAdd(hn::SaturatedAdd(upAndDown, left), right);
-        const V place = hn::And(hn::Iota(lanes, 0), hn::Set(lanes, WATER_GROUP - 1));
-        const V firstOrMiddle = hn::IfThenElse(hn::Eq(place, hn::Zero(lanes)), first, middle);
-        return hn::IfThenElse(hn::Eq(place, hn::Set(lanes, WATER_GROUP - 1)), last, firstOrMiddle);
+        const auto isFirst = hn::MaskFromVec(hn::Load(lanes, FIRST));
+        const auto isLast = hn::MaskFromVec(hn::Load(lanes, LAST));
+        const auto isOuter = hn::MaskFromVec(hn::Load(lanes, OUTER));
+        const V pair = hn::SaturatedAdd(up, hn::IfThenElse(isFirst, left, down));
+        const V third = hn::IfThenElse(isFirst, down, hn::IfThenElse(isLast, left, right));
+        const V fourth = hn::IfThenElse(isOuter, right, left);
+        return hn::SaturatedAdd(hn::SaturatedAdd(pair, third), fourth);
     }
 };
 
-struct RefractRule {
-    HeightRow current;
-    WaterSource source;
-    int firstPixel; ///< of the source, below the row's first sample
-    int refractionShift;
-    uint16_t* target;
+/// Eights of displaced pixels, and where in the picture these are. They are copied when a stretch of a row has been
+/// worked out: a load that follows the store of its own address waits for it.
+struct DisplacedEights {
+    static constexpr size_t MOST = 64;
 
-    int PixelCount() const { return source.width * source.height; }
+    alignas(64) int32_t places[MOST * EIGHT];
+    uint16_t* targets[MOST];
+    size_t count = 0;
+
+    /// The loads are what takes the time, so places come two at a time and eight pixels go in one store.
+    void CopyFrom(const uint16_t* picture)
+    {
+        static_assert(std::endian::native == std::endian::little);
+        for (size_t i = 0; i < count; ++i) {
+            uint64_t pairs[EIGHT / 2];
+            std::memcpy(pairs, places + EIGHT * i, sizeof(pairs));
+            const auto even = [&](size_t pair) { return picture[static_cast<uint32_t>(pairs[pair])]; };
+            const auto odd = [&](size_t pair) { return picture[pairs[pair] >> 32]; };
+            const uint16_t pixels[EIGHT] = { even(0), odd(0), even(1), odd(1), even(2), odd(2), even(3), odd(3) };
+            std::memcpy(targets[i], pixels, sizeof(pixels));
+        }
+        count = 0;
+    }
+};
+
+/// Shows the picture displaced by the slopes before the step, and steps.
+struct ShowRule {
+    static constexpr size_t LEAST_LANES = EIGHT;
+
+    StepRule step;
+    ShownRows shown;
+    DisplacedEights& displaced;
 
     void Sample(size_t x) const
     {
-        const auto [rows, columns] = DisplacementAt(current.Around(x), refractionShift);
-        const ptrdiff_t displaced = firstPixel + static_cast<ptrdiff_t>(x) + ptrdiff_t{ rows } * source.width + columns;
-        if (displaced >= 0 && displaced < PixelCount())
-            target[x] = source.pixels[displaced];
+        const auto [rows, columns] = DisplacementAt(step.Around(x), shown.refractionShift);
+        const ptrdiff_t plain = shown.firstPixel + static_cast<ptrdiff_t>(x);
+        const ptrdiff_t place = plain + rows * step.width + columns;
+        shown.target[x] = shown.picture[place >= 0 && place < shown.pixelCount ? place : plain];
+        step.Sample(x);
     }
 
     template <class Lanes>
-    void Vector(Lanes lanes, size_t x) const
+    HWY_INLINE void Vector(Lanes lanes, size_t x) const
     {
-        const int16_t* first = current.samples + x;
-        const auto rows = Slopes(hn::LoadU(lanes, current.Above(x)), hn::LoadU(lanes, current.Below(x)));
-        const auto columns = hn::ShiftRight<1>(Slopes(hn::LoadU(lanes, first - 1), hn::LoadU(lanes, first + 1)));
-        if (hn::AllTrue(lanes, hn::Eq(hn::Or(rows, columns), hn::Zero(lanes))))
-            return;
+        const int16_t* first = step.current + x;
+        const auto up = hn::LoadU(lanes, first - step.width);
+        const auto down = hn::LoadU(lanes, first + step.width);
+        const auto left = hn::LoadU(lanes, first - 1);
+        const auto right = hn::LoadU(lanes, first + 1);
+        step.Step(lanes, x, up, down, left, right);
+        const int halfShift = std::min(shown.refractionShift + 1, 15);
+        const auto rows = hn::ShiftRightSame(hn::SaturatedSub(up, down), shown.refractionShift);
+        const auto columns = hn::ShiftRightSame(hn::SaturatedSub(left, right), halfShift);
+        if (!hn::AllTrue(lanes, hn::Eq(hn::Or(rows, columns), hn::Zero(lanes))))
+            return FindPlaces(lanes, x, rows, columns);
+        const hn::RebindToUnsigned<Lanes> pixels;
+        hn::StoreU(hn::LoadU(pixels, shown.picture + shown.firstPixel + x), pixels, shown.target + x);
+    }
+
+    template <class Lanes, class V>
+    HWY_INLINE void FindPlaces(Lanes lanes, size_t x, V rows, V columns) const
+    {
         HWY_ALIGN int16_t rowsAt[hn::MaxLanes(lanes)];
         HWY_ALIGN int16_t columnsAt[hn::MaxLanes(lanes)];
         hn::Store(rows, lanes, rowsAt);
         hn::Store(columns, lanes, columnsAt);
         const hn::RepartitionToWide<Lanes> wide;
-        const size_t step = hn::Lanes(wide);
-        for (size_t lane = 0; lane < 2 * step; lane += step)
-            Displace(wide, x + lane, rowsAt + lane, columnsAt + lane);
+        const size_t count = hn::Lanes(wide);
+        const auto start = hn::Set(wide, shown.firstPixel + static_cast<int>(x));
+        int32_t* places = displaced.places + EIGHT * displaced.count;
+        for (size_t lane = 0; lane < 2 * count; lane += count) {
+            const auto plain = hn::Add(start, hn::LoadU(wide, LANE_NUMBERS + lane));
+            FindPlacesOfHalf(wide, plain, rowsAt + lane, columnsAt + lane, places + lane);
+        }
+        for (size_t lane = 0; lane < 2 * count; lane += EIGHT)
+            displaced.targets[displaced.count++] = shown.target + x + lane;
     }
 
-    template <class V>
-    V Slopes(V before, V after) const
-    {
-        return hn::ShiftRightSame(hn::SaturatedSub(before, after), refractionShift);
-    }
-
-    template <class Wide>
-    void Displace(Wide wide, size_t x, const int16_t* rowsAt, const int16_t* columnsAt) const
+    template <class Wide, class V>
+    HWY_INLINE void FindPlacesOfHalf(Wide wide, V plain, const int16_t* rowsAt, const int16_t* columnsAt,
+                                     int32_t* places) const
     {
         const hn::Rebind<int16_t, Wide> narrow;
+        const hn::RebindToUnsigned<Wide> offsets; // as one of these, a place before the picture is behind it
         const auto rows = hn::PromoteTo(wide, hn::Load(narrow, rowsAt));
         const auto columns = hn::PromoteTo(wide, hn::Load(narrow, columnsAt));
-        const auto plain = hn::Iota(wide, firstPixel + static_cast<int>(x));
-        const auto displaced = hn::Add(hn::Add(plain, columns), hn::Mul(rows, hn::Set(wide, source.width)));
-        const auto isBefore = hn::Lt(displaced, hn::Zero(wide));
-        const auto isBehind = hn::Gt(displaced, hn::Set(wide, PixelCount() - 1));
-        HWY_ALIGN int32_t shown[hn::MaxLanes(wide)];
-        hn::Store(hn::IfThenElse(hn::Or(isBefore, isBehind), plain, displaced), wide, shown);
-        for (size_t lane = 0; lane < hn::Lanes(wide); ++lane)
-            target[x + lane] = source.pixels[shown[lane]];
+        const auto down = hn::Mul(rows, hn::Set(wide, static_cast<int>(step.width)));
+        const auto place = hn::Add(hn::Add(plain, columns), down);
+        const auto end = hn::Set(offsets, static_cast<uint32_t>(shown.pixelCount));
+        const auto isInside = hn::RebindMask(wide, hn::Lt(hn::BitCast(offsets, place), end));
+        hn::StoreU(hn::IfThenElse(isInside, place, plain), wide, places);
     }
 };
 
-template <class Rule>
-void ApplyToHeights(const Rule& rule, int count)
+constexpr hn::CappedTag<int16_t, MOST_LANES> widest;
+
+/// The rule for that many rows further down.
+StepRule RuleOfRow(const WaterRows& water, int row)
 {
-    // Vectors take what the run of samples has left of the first one.
-    const bool isRun = rule.current.left == rule.current.samples[-1];
-    const int plain = isRun ? 0 : std::min(WATER_GROUP, count);
-    for (int x = 0; x < plain; ++x)
-        rule.Sample(static_cast<size_t>(x));
-    ApplyToRow<int16_t>(rule, static_cast<size_t>(plain), static_cast<size_t>(count));
+    const ptrdiff_t start = ptrdiff_t{ row } * water.width;
+    return { water.current + start, water.previous + start, water.width, water.dampingShift };
 }
 
-void StepRow(const int16_t* current, int16_t* previous, int width, int16_t left, int dampingShift)
+void StepRows(const WaterRows& water)
 {
-    ApplyToHeights(StepRule{ { current, width, left }, previous, dampingShift }, width / WATER_GROUP * WATER_GROUP);
+    for (int row = 0; row < water.rows; ++row)
+        ApplyToRow(widest, RuleOfRow(water, row), 0, static_cast<size_t>(water.count));
 }
 
-void RefractRow(const int16_t* current, const WaterSource& source, int x, int y, int count, int16_t left,
-                int refractionShift, uint16_t* target)
+void ShowRows(const WaterRows& water, const ShownRows& shown)
 {
-    const int firstPixel = y * source.width + x;
-    ApplyToHeights(RefractRule{ { current, source.width, left }, source, firstPixel, refractionShift, target }, count);
+    DisplacedEights displaced;
+    const size_t count = static_cast<size_t>(water.count);
+    for (int row = 0; row < water.rows; ++row) {
+        ShowRule rule{ RuleOfRow(water, row), shown, displaced };
+        rule.shown.firstPixel += row * water.width;
+        rule.shown.target += row * shown.targetStride;
+        for (size_t first = 0; first < count; first += DisplacedEights::MOST * EIGHT) {
+            ApplyToRow(widest, rule, first, std::min(first + DisplacedEights::MOST * EIGHT, count));
+            displaced.CopyFrom(shown.picture);
+        }
+    }
 }
 
 const WaterKernels& Kernels()
 {
-    static constexpr WaterKernels kernels = { .stepRow = StepRow, .refractRow = RefractRow };
+    static constexpr WaterKernels kernels = { .stepRows = StepRows, .showRows = ShowRows };
     return kernels;
 }
 }

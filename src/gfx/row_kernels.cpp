@@ -18,11 +18,14 @@ namespace
 {
 namespace HWY_NAMESPACE
 {
+constexpr size_t GROUP = 4; ///< pixels whose alpha values are looked at together
 constexpr uint8_t OPAQUE_ALPHA = 31;
 
 /// A rule for pixels together with the row that they replace.
 template <class PixelRule>
 struct TargetRule {
+    static constexpr size_t LEAST_LANES = GROUP;
+
     PixelRule rule;
     uint16_t* target;
 
@@ -38,7 +41,7 @@ struct TargetRule {
 template <class PixelRule>
 void MapRow(const PixelRule& rule, uint16_t* target, size_t count)
 {
-    ApplyToRow<uint16_t>(TargetRule<PixelRule>{ rule, target }, 0, count);
+    ApplyToRow(hn::ScalableTag<uint16_t>(), TargetRule<PixelRule>{ rule, target }, 0, count);
 }
 
 /// Pixels from vectors that each have one channel in its place; blue has nothing beside it.
@@ -142,13 +145,13 @@ struct AlphaRule {
     {
         // Not the same as blending by 31, which keeps 1/32 of the target. An empty group needs no such care: blending
         // by 0 leaves the target exactly.
-        return IsOpaqueGroup(i / ROW_GROUP * ROW_GROUP) ? source[i] : AlphaPixel(source[i], target, alpha[i]);
+        return IsOpaqueGroup(i / GROUP * GROUP) ? source[i] : AlphaPixel(source[i], target, alpha[i]);
     }
 
     bool IsOpaqueGroup(size_t first) const
     {
-        constexpr uint8_t opaque[ROW_GROUP] = { OPAQUE_ALPHA, OPAQUE_ALPHA, OPAQUE_ALPHA, OPAQUE_ALPHA };
-        return std::memcmp(alpha + first, opaque, ROW_GROUP) == 0;
+        constexpr uint8_t opaque[GROUP] = { OPAQUE_ALPHA, OPAQUE_ALPHA, OPAQUE_ALPHA, OPAQUE_ALPHA };
+        return std::memcmp(alpha + first, opaque, GROUP) == 0;
     }
 
     template <class Lanes, class V>
@@ -157,7 +160,7 @@ struct AlphaRule {
         const V values = LoadBytes(lanes, alpha + i);
         if (hn::AllTrue(lanes, hn::Eq(values, hn::Zero(lanes))))
             return target;
-        const hn::Repartition<uint64_t, Lanes> groups; // ROW_GROUP lanes in each
+        const hn::Repartition<uint64_t, Lanes> groups; // GROUP lanes in each
         const auto opaque = hn::Eq(hn::BitCast(groups, hn::Set(lanes, OPAQUE_ALPHA)), hn::BitCast(groups, values));
         const V pixels = hn::LoadU(lanes, source + i);
         if (hn::AllTrue(groups, opaque))

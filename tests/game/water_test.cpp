@@ -30,7 +30,7 @@ struct ReferenceWater {
     int At(int i) const { return current[static_cast<size_t>(i)]; }
     int Up(int i) const { return At(i - width); }
     int Down(int i) const { return At(i + width); }
-    int Left(int i) const { return i == width ? 0 : At(i - 1); }
+    int Left(int i) const { return At(i - 1); }
     int Right(int i) const { return At(i + 1); }
 
     int Next(int i) const
@@ -118,8 +118,11 @@ void CompareFrames(const FrameCase& given)
     std::vector<uint16_t> source(static_cast<size_t>(given.width * HEIGHT));
     for (size_t i = 0; i < source.size(); ++i) {
         source[i] = static_cast<uint16_t>(random());
+        const size_t row = i / static_cast<size_t>(given.width);
         for (int16_t* heights : { water.current, water.previous })
-            heights[i] = static_cast<int16_t>(std::uniform_int_distribution(-given.amplitude, given.amplitude)(random));
+            if (row > 0 && row < HEIGHT - 1) // the others stay calm
+                heights[i] =
+                    static_cast<int16_t>(std::uniform_int_distribution(-given.amplitude, given.amplitude)(random));
     }
     const auto counted = [](int shift) { return shift < 0 || shift > 15 ? 15 : shift; };
     ReferenceWater reference = { given.width, counted(given.damping), counted(given.refraction), Heights(water.current),
