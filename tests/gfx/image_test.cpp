@@ -1,9 +1,11 @@
+#include "gfx/image.h"
+
 #include "gfx/blit.h"
 #include "gfx/error.h"
-#include "gfx/image.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 #include <numeric>
 
@@ -22,29 +24,17 @@ void MakeNumbered(CImage& image, int width, int height)
 
 TEST(Image, FailsToBeMadeInImpossibleSizesAndThenDrawsNothing)
 {
-    constexpr struct {
-        int width, height;
-        EngineError error;
-    } sizes[] = {
-        { 0, 7, ENGINE_NO_ERROR },
-        { 7, 0, ENGINE_NO_ERROR },
-        { 5, -1, ENGINE_ALLOCATE_MEMORY },
-        { -3, -3, ENGINE_ALLOCATE_MEMORY },
-        { HUGE_SIZE, 0, ENGINE_ALLOCATE_MEMORY },
-        { 1, HUGE_SIZE, ENGINE_ALLOCATE_MEMORY },
-        { 65536, 65536, ENGINE_ALLOCATE_MEMORY },
-    };
+    constexpr int sizes[][2] = { { 5, -1 }, { -3, -3 }, { HUGE_SIZE, 0 }, { 1, HUGE_SIZE }, { 65536, 65536 } };
     CImage target;
     ASSERT_TRUE(target.Create(4, 4));
-    for (const auto& [width, height, error] : sizes) {
+    for (const auto& [width, height] : sizes) {
         CImage image;
         ASSERT_TRUE(image.Create(2, 2)); // a failure must not leave the old size without a plane
         lastError = ENGINE_NO_ERROR;
-        EXPECT_EQ(image.Create(width, height), error == ENGINE_NO_ERROR) << width << " x " << height;
-        EXPECT_EQ(lastError, error);
+        EXPECT_FALSE(image.Create(width, height)) << width << " x " << height;
+        EXPECT_EQ(lastError, ENGINE_ALLOCATE_MEMORY);
         image.Draw(target, 0, 0);
         image.Fill(1);
-        EXPECT_TRUE(image.CreateAlpha());
     }
 }
 
@@ -55,12 +45,10 @@ TEST(Image, ViewsAreCutToTheirParentAndShareItsPlanes)
         int anchorX, anchorY, seenWidth, seenHeight; ///< width 0: there is nothing to see
     } views[] = {
         { 10, 20, 30, 40, 0, 0, 30, 40 },
-        { -10, 5, 20, 20, -10, 0, 10, 20 },
-        { -10, -10, 200, 200, -10, -10, 100, 100 },
+        { -10, -20, 200, 200, -10, -20, 100, 100 },
         { 50, 50, HUGE_SIZE, HUGE_SIZE, 0, 0, 50, 50 },
         { 0, 100, 1, 1, 0, 0, 0, 0 },
         { -20, 0, 20, 20, 0, 0, 0, 0 },
-        { 10, 10, 0, 5, 0, 0, 0, 0 },
         { -HUGE_SIZE - 1, 0, 5, 5, 0, 0, 0, 0 },
     };
     CImage parent;
@@ -74,9 +62,8 @@ TEST(Image, ViewsAreCutToTheirParentAndShareItsPlanes)
         if (seenWidth == 0)
             continue;
         const int lastRow = y - anchorY + seenHeight - 1;
-        EXPECT_EQ(view.Row(seenHeight - 1)[0], lastRow * 100 + x - anchorX);
-        view.AlphaRow(seenHeight - 1)[0] = 31;
-        EXPECT_EQ(parent.AlphaRow(lastRow)[x - anchorX], 31);
+        EXPECT_EQ(view.Row(seenHeight - 1), parent.Row(lastRow) + x - anchorX);
+        EXPECT_EQ(view.AlphaRow(seenHeight - 1), parent.AlphaRow(lastRow) + x - anchorX);
         ASSERT_TRUE(view.Create(5, 5)); // its own plane from now on
         view.Fill(0x1111);
         EXPECT_EQ(parent.Row(lastRow)[x - anchorX], lastRow * 100 + x - anchorX);
@@ -91,18 +78,22 @@ TEST(Image, DrawUsesItsArgumentsForTheCallOnlyAndNeverMoreThanThereIs)
     MakeNumbered(source, 6, 6);
     target.x = 1;
     source.x = 9;
-    source.y = 1;
-    source.Draw(target, KEEP, 5, 2, KEEP, 4, 2);
-    // Left 1 - 2, top 5 - 1: columns 1 to 3 and rows 0 and 1 of the source remain.
-    EXPECT_EQ(target.Row(4)[0], 1);
-    EXPECT_EQ(target.Row(5)[2], 6 + 3);
-    EXPECT_TRUE(target.Row(5)[3] == 0 && target.Row(6)[0] == 0);
+    source.Draw(target, 0, 2, 0, 1, 40, 40); // a picture smaller than expected
+    EXPECT_TRUE(target.Row(1)[0] == 0 && target.Row(6)[5] == 35);
+    EXPECT_TRUE(target.Row(6)[6] == 0 && target.Row(7)[0] == 0);
     EXPECT_TRUE(target.x == 1 && target.y == 0);
-    EXPECT_TRUE(source.x == 9 && source.y == 1 && source.width == 6 && source.height == 6);
+    EXPECT_TRUE(source.x == 9 && source.y == 0 && source.width == 6 && source.height == 6);
+}
 
-    source.Draw(target, 0, 0, 0, 0, 40, 40); // a picture smaller than expected
-    EXPECT_EQ(target.Row(5)[5], 35);
-    EXPECT_TRUE(target.Row(5)[6] == 0 && target.Row(6)[0] == 0);
+TEST(Image, CopyAlphaCoversTheOverlapOnly)
+{
+    CImage mask;
+    CImage image;
+    MakeNumbered(mask, 3, 9);
+    ASSERT_TRUE(image.Create(9, 3));
+    std::fill_n(mask.alpha, mask.pitch / 2 * mask.height, uint8_t{ 20 });
+    image.CopyAlpha(mask);
+    EXPECT_TRUE(image.AlphaRow(2)[2] == 20 && image.AlphaRow(2)[3] == 0);
 }
 
 TEST(Image, DrawReplacesAlphaRoutinesForGoodWhereThereIsNoAlphaPlane)
@@ -115,43 +106,4 @@ TEST(Image, DrawReplacesAlphaRoutinesForGoodWhereThereIsNoAlphaPlane)
         image.Draw(image);
         EXPECT_EQ(image.blit, used);
     }
-}
-
-TEST(Image, CopyIsIndependentAndTakesTheRoutineOnlyWithAlpha)
-{
-    CImage parent;
-    MakeNumbered(parent, 12, 6);
-    parent.AlphaRow(3)[7] = 17;
-    CImage view; // its pitch is wider than the copy's
-    ASSERT_TRUE(view.CreateView(parent, 3, 2, 5, 3));
-    view.x = 7;
-    view.y = 8;
-    view.opacity = 99;
-    view.blit = BlitAdd;
-    CImage copy;
-    ASSERT_TRUE(copy.Copy(view));
-    parent.Fill(0);
-    parent.AlphaRow(3)[7] = 0;
-    EXPECT_TRUE(copy.x == 7 && copy.y == 8 && copy.pitch == 16 && copy.opacity == 99);
-    EXPECT_TRUE(copy.Row(0)[0] == 2 * 12 + 3 && copy.Row(2)[4] == 4 * 12 + 7);
-    EXPECT_EQ(copy.AlphaRow(1)[4], 17);
-    EXPECT_TRUE(copy.blit == BlitAdd && view.blit == BlitAdd);
-
-    CImage plain;
-    ASSERT_TRUE(plain.Create(5, 3));
-    copy.blit = BlitSub;
-    ASSERT_TRUE(copy.Copy(plain));
-    EXPECT_EQ(copy.blit, BlitSub);
-    EXPECT_EQ(copy.AlphaRow(1)[4], 17) << "the alpha plane stays";
-}
-
-TEST(Image, CopyAlphaCoversTheOverlapOnly)
-{
-    CImage mask;
-    CImage image;
-    MakeNumbered(mask, 3, 9);
-    ASSERT_TRUE(image.Create(9, 3));
-    std::fill_n(mask.alpha, mask.pitch / 2 * mask.height, uint8_t{ 20 });
-    image.CopyAlpha(mask);
-    EXPECT_TRUE(image.AlphaRow(2)[2] == 20 && image.AlphaRow(2)[3] == 0);
 }
