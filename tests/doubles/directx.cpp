@@ -16,9 +16,11 @@ std::string DirectXDouble::TakeCalls()
     return std::exchange(calls, "");
 }
 
-HRESULT DirectXDouble::Step(const std::string& call, const std::string& numbers)
+HRESULT DirectXDouble::Step(const std::string& call, std::initializer_list<DWORD> numbers)
 {
-    calls += (calls.empty() ? "" : ", ") + call + (numbers.empty() ? "" : " " + numbers);
+    calls += (calls.empty() ? "" : ", ") + call;
+    for (const DWORD number : numbers)
+        calls += " " + std::to_string(number);
     return call == failing && failures-- > 0 ? failure : DD_OK;
 }
 
@@ -94,28 +96,24 @@ struct DirectDraw : Counted<IDirectDraw> {
     }
     HRESULT CreateSurface(DDSURFACEDESC* description, IDirectDrawSurface** surface, IUnknown*) override
     {
-        return Make<Surface>(surface, directX.Step("CreateSurface", std::to_string(description->dwBackBufferCount)));
+        return Make<Surface>(surface, directX.Step("CreateSurface", { description->dwBackBufferCount }));
     }
     HRESULT RestoreDisplayMode() override
     {
         directX.fullScreen = false;
         return directX.Step("RestoreDisplayMode");
     }
-    HRESULT SetCooperativeLevel(HWND, DWORD level) override
-    {
-        return directX.Step("SetCooperativeLevel", std::to_string(level));
-    }
+    HRESULT SetCooperativeLevel(HWND, DWORD level) override { return directX.Step("SetCooperativeLevel", { level }); }
     HRESULT SetDisplayMode(DWORD width, DWORD height, DWORD bits) override
     {
-        const HRESULT result = directX.Step("SetDisplayMode", std::to_string(width) + " " + std::to_string(height) +
-                                                                  " " + std::to_string(bits));
+        const HRESULT result = directX.Step("SetDisplayMode", { width, height, bits });
         directX.fullScreen = result == DD_OK;
         return result;
     }
 };
 
 struct SoundBuffer : Counted<IDirectSoundBuffer>, SoundBufferDouble {
-    explicit SoundBuffer(const DSBUFFERDESC& description) : number(directX.buffers.size())
+    explicit SoundBuffer(const DSBUFFERDESC& description) : number(static_cast<DWORD>(directX.buffers.size()))
     {
         bytes.resize(description.dwBufferBytes);
         if ((description.dwFlags & DSBCAPS_PRIMARYBUFFER) == 0)
@@ -131,38 +129,30 @@ struct SoundBuffer : Counted<IDirectSoundBuffer>, SoundBufferDouble {
     HRESULT Play(DWORD, DWORD, DWORD flags) override
     {
         playing = true;
-        looping = flags == DSBPLAY_LOOPING;
-        return directX.Step("Play", std::to_string(number) + " " + std::to_string(flags));
+        return directX.Step("Play", { number, flags });
     }
-    HRESULT SetCurrentPosition(DWORD position) override
-    {
-        return directX.Step("SetCurrentPosition", std::to_string(position));
-    }
+    HRESULT SetCurrentPosition(DWORD position) override { return directX.Step("SetCurrentPosition", { position }); }
     HRESULT SetFormat(const WAVEFORMATEX* format) override
     {
-        return directX.Step("SetFormat", std::to_string(format->nSamplesPerSec));
+        return directX.Step("SetFormat", { format->nSamplesPerSec });
     }
     HRESULT Stop() override
     {
         playing = false;
-        return directX.Step("Stop", std::to_string(number));
+        return directX.Step("Stop", { number });
     }
     HRESULT Unlock(LPVOID, DWORD, LPVOID, DWORD) override { return directX.Step("UnlockSound"); }
     HRESULT Restore() override { return directX.Step("RestoreSound"); }
 
-    size_t number; ///< in order of creation
+    DWORD number; ///< in order of creation
 };
 
 struct SoundDevice : Counted<IDirectSound> {
     HRESULT CreateSoundBuffer(const DSBUFFERDESC* description, IDirectSoundBuffer** buffer, IUnknown*) override
     {
-        return Make<SoundBuffer>(buffer, directX.Step("CreateSoundBuffer", std::to_string(description->dwFlags)),
-                                 *description);
+        return Make<SoundBuffer>(buffer, directX.Step("CreateSoundBuffer", { description->dwFlags }), *description);
     }
-    HRESULT SetCooperativeLevel(HWND, DWORD level) override
-    {
-        return directX.Step("SetSoundLevel", std::to_string(level));
-    }
+    HRESULT SetCooperativeLevel(HWND, DWORD level) override { return directX.Step("SetSoundLevel", { level }); }
 };
 }
 

@@ -4,6 +4,7 @@
 #include "platform/directsound.h"
 
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -11,7 +12,6 @@
 struct SoundBufferDouble {
     std::string bytes;
     bool playing = false;
-    bool looping = false;
 };
 
 /// Stands for DirectDraw and DirectSound in unit_tests: each of their steps is recorded and can be made to fail, which
@@ -31,7 +31,7 @@ struct DirectXDouble {
     std::vector<uint16_t> screen; ///< pixels of the last frame that was shown
 
     // For the double itself
-    HRESULT Step(const std::string& call, const std::string& numbers = "");
+    HRESULT Step(const std::string& call, std::initializer_list<DWORD> numbers = {});
     std::string calls;
     std::string failing;
     int failures = 0;

@@ -29,7 +29,6 @@ inline std::string Wave(const std::string& chunks)
 /// The data of a format chunk: 16 bytes, mono at 22050 frames per second.
 inline std::string Format(uint16_t tag = 1, uint16_t bits = 16)
 {
-    const auto frameBytes = static_cast<uint16_t>(bits / 8);
-    return Bytes(tag) + Bytes<uint16_t>(1) + Bytes<uint32_t>(22050) + Bytes<uint32_t>(22050u * frameBytes) +
-           Bytes(frameBytes) + Bytes(bits);
+    return Bytes(tag) + Bytes<uint16_t>(1) + Bytes<uint32_t>(22050) + Bytes<uint32_t>(22050u * bits / 8) +
+           Bytes<uint16_t>(bits / 8) + Bytes(bits);
 }
