@@ -98,12 +98,12 @@ TEST(Image, CopyAlphaCoversTheOverlapOnly)
 
 TEST(Image, DrawReplacesAlphaRoutinesForGoodWhereThereIsNoAlphaPlane)
 {
-    constexpr BlitRoutine routines[][2] = { { BlitAlpha, BlitColorKey }, { BlitAlphaOpacity, BlitOpacityColorKey } };
-    for (const auto& [wanted, used] : routines) {
-        CImage image;
-        ASSERT_TRUE(image.Create(4, 4));
-        image.blit = wanted;
-        image.Draw(image);
-        EXPECT_EQ(image.blit, used);
-    }
+    CImage image;
+    ASSERT_TRUE(image.Create(4, 4));
+    image.blit = BlitAlpha;
+    image.Draw(image);
+    EXPECT_EQ(image.blit, BlitColorKey);
+    image.blit = BlitAlphaOpacity;
+    image.Draw(image);
+    EXPECT_EQ(image.blit, BlitOpacityColorKey);
 }
