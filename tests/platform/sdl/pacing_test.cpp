@@ -40,10 +40,9 @@ protected:
             return PushButton(event[1] == '+', event[2] - '0', 0);
         if (event[0] == 'M')
             return PushMotion(event[1] - '0', 0);
-        const char letter = static_cast<char>(event[1] - 'A' + 'a');
-        PushKey(event[0] != '-', static_cast<SDL_Scancode>(SDL_SCANCODE_A + letter - 'a'), letter);
+        PushKey(event[0] != '-', static_cast<SDL_Scancode>(SDL_SCANCODE_A + event[1] - 'A'));
         if (event[0] != '-')
-            PushText(std::string(1, letter).c_str());
+            PushText(std::string(1, static_cast<char>(event[1] - 'A' + 'a')).c_str());
     }
 
     void Poll()

@@ -5,14 +5,9 @@
 
 #include <cstdlib>
 
-namespace
-{
-std::vector<Received>* receiver = nullptr;
-}
-
 LRESULT WindowFixture::Procedure(HWND target, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    receiver->push_back({ message, wParam, lParam });
+    received.push_back({ message, wParam, lParam });
     if (message != WM_DESTROY)
         return DefWindowProcA(target, message, wParam, lParam);
     PostQuitMessage(0);
@@ -23,7 +18,6 @@ void WindowFixture::SetUp()
 {
     setenv("SDL_VIDEODRIVER", "dummy", 1);
     setenv("SDL_RENDER_DRIVER", "software", 1);
-    receiver = &received;
     WNDCLASSA windowClass = {};
     windowClass.lpfnWndProc = Procedure;
     RegisterClassA(&windowClass);
@@ -54,7 +48,7 @@ bool WindowFixture::RunMessages()
     return false;
 }
 
-std::vector<UINT> WindowFixture::Messages() const
+std::vector<UINT> WindowFixture::Messages()
 {
     std::vector<UINT> messages;
     for (const Received& one : received)
@@ -62,11 +56,11 @@ std::vector<UINT> WindowFixture::Messages() const
     return messages;
 }
 
-void WindowFixture::PushKey(bool down, SDL_Scancode position, SDL_Keycode symbol, int modifiers)
+void WindowFixture::PushKey(bool down, SDL_Scancode position, int modifiers)
 {
     SDL_Event event = {};
     event.key.type = down ? SDL_KEYDOWN : SDL_KEYUP;
-    event.key.keysym = { position, symbol, static_cast<Uint16>(modifiers), 0 };
+    event.key.keysym = { position, SDL_GetKeyFromScancode(position), static_cast<Uint16>(modifiers), 0 };
     SDL_PushEvent(&event);
 }
 

@@ -25,9 +25,10 @@ protected:
     /// Gives the window all that waits for it, in as many frames as that takes; true when the quit message was in it.
     bool RunMessages();
     /// The messages received so far, in order, without their words.
-    std::vector<UINT> Messages() const;
+    static std::vector<UINT> Messages();
 
-    static void PushKey(bool down, SDL_Scancode position, SDL_Keycode symbol, int modifiers = 0);
+    /// On a keyboard of the United States.
+    static void PushKey(bool down, SDL_Scancode position, int modifiers = 0);
     static void PushText(const char* text);
     static void PushWindowEvent(SDL_WindowEventID id);
     static void PushMotion(int x, int y);
@@ -35,7 +36,7 @@ protected:
     static void PushButton(bool down, int x, int y);
 
     HWND window = nullptr;
-    std::vector<Received> received;
+    inline static std::vector<Received> received;
 
 private:
     static LRESULT Procedure(HWND target, UINT message, WPARAM wParam, LPARAM lParam);
