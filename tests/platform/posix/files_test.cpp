@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <utility>
 
 namespace
 {
@@ -38,14 +37,12 @@ TEST(Files, AreNeitherFoldersNorPipes)
     const TempFolder folder;
     folder.Write("Dat/x", "");
     ASSERT_EQ(mkfifo("pipe", 0600), 0);
-    const std::pair<const char*, DWORD> cases[] = {
-        { "Dat", ERROR_ACCESS_DENIED },
-        { "pipe", ERROR_ACCESS_DENIED }, // at which opening would wait
-        { "none", ERROR_FILE_NOT_FOUND },
-    };
-    for (const auto& [path, error] : cases) {
+    const auto errorOf = [](const char* path) {
         EXPECT_EQ(CreateFileA(path, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr), INVALID_HANDLE_VALUE) << path;
-        EXPECT_EQ(GetLastError(), error) << path;
-    }
+        return GetLastError();
+    };
+    EXPECT_EQ(errorOf("Dat"), ERROR_ACCESS_DENIED);
+    EXPECT_EQ(errorOf("pipe"), ERROR_ACCESS_DENIED) << "opening would wait";
+    EXPECT_EQ(errorOf("none"), ERROR_FILE_NOT_FOUND);
 }
 }

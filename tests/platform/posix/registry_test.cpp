@@ -1,6 +1,6 @@
 #include "platform/registry.h"
 
-#include "support/temp_folder.h"
+#include "support/settings_store.h"
 
 #include <gtest/gtest.h>
 
@@ -22,9 +22,6 @@ using namespace std::string_literals;
 
 namespace
 {
-constexpr char FILE_NAME[] = "config/Tervalis/settings.toml";
-constexpr char DAMAGED_NAME[] = "config/Tervalis/settings.toml.damaged";
-
 struct Stored {
     DWORD type = 0;
     std::string bytes;
@@ -82,8 +79,8 @@ int SaveInChild(rlim_t mostBytes)
 class RegistryTest : public testing::Test
 {
 protected:
-    void SetUp() override { setenv("XDG_CONFIG_HOME", (folder.Path() + "/config").c_str(), 1); }
-    void TearDown() override { setenv("XDG_CONFIG_HOME", "/dev/null", 1); }
+    void SetUp() override { UseFreshSettings(folder); }
+    void TearDown() override { UseNoSettings(); }
     static auto FileCount() { return std::distance(fs::directory_iterator("config/Tervalis"), {}); }
 
     TempFolder folder;
@@ -127,10 +124,10 @@ TEST_F(RegistryTest, ReadsWhatAHandMayHaveWrittenAndKeepsIt)
         { "v = { hex = \"0a41\", type = 1 }", Stored{ REG_SZ, "\nA" } },
     };
     for (const auto& [line, value] : lines) {
-        folder.Write(FILE_NAME, line);
+        folder.Write(SETTINGS_FILE, line);
         EXPECT_EQ(Load("v"), value) << line;
         EXPECT_EQ(Save({ "other" }, { REG_SZ, "new" }), 0);
-        EXPECT_NE(folder.Read(FILE_NAME).find(line), std::string::npos) << folder.Read(FILE_NAME);
+        EXPECT_NE(folder.Read(SETTINGS_FILE).find(line), std::string::npos) << folder.Read(SETTINGS_FILE);
     }
 }
 
@@ -139,18 +136,18 @@ TEST_F(RegistryTest, SetsADamagedFileAsideUnderANewName)
     std::string deep = "a";
     for (int i = 0; i < 30000; ++i)
         deep += ".a"; // more calls within each other than the stack holds
-    const std::string damages[] = { "v = = 1",       "v = \"\xFF\"",          "v = 1\0"s, "v = 1\nv = 2", "[\\u00 = 1",
-                                    "v\xC5\xBF = 1", std::string(70000, '#'), deep };
-    int number = 0;
+    const std::vector<std::string> damages = {
+        "v = = 1",       "v = \"\xFF\"",          "v = 1\0"s, "v = 1\nv = 2", "[\\u00 = 1",
+        "v\xC5\xBF = 1", std::string(70000, '#'), deep
+    };
     for (const std::string& damage : damages) {
-        folder.Write(FILE_NAME, damage);
+        folder.Write(SETTINGS_FILE, damage);
         EXPECT_EQ(Load("v"), std::nullopt) << damage.substr(0, 20);
-        ++number;
-        const std::string aside = DAMAGED_NAME + (number == 1 ? "" : "." + std::to_string(number));
-        EXPECT_TRUE(folder.Read(aside) == damage) << aside;
         EXPECT_EQ(Save({ "v" }, { REG_SZ, "new" }), 0);
     }
-    EXPECT_EQ(folder.Read(DAMAGED_NAME), damages[0]);
+    EXPECT_EQ(FileCount(), 1 + std::ssize(damages));
+    EXPECT_EQ(folder.Read(SETTINGS_FILE + ".damaged"s), damages[0]);
+    EXPECT_EQ(folder.Read(SETTINGS_FILE + ".damaged.2"s), damages[1]);
 }
 
 TEST_F(RegistryTest, LeavesWhatItMayNotReadOrReplace)
@@ -170,13 +167,13 @@ TEST_F(RegistryTest, LeavesWhatItMayNotReadOrReplace)
     };
     chmod(folder.Path().c_str(), 0777);
     for (const auto& row : cases) {
-        folder.Write(FILE_NAME, row.content);
-        chmod(FILE_NAME, row.fileMode);
+        folder.Write(SETTINGS_FILE, row.content);
+        chmod(SETTINGS_FILE, row.fileMode);
         chmod("config/Tervalis", row.folderMode);
         EXPECT_EQ(SaveInChild(row.mostBytes), static_cast<int>(row.code)) << row.reason;
         chmod("config/Tervalis", 0777);
-        chmod(FILE_NAME, 0666);
-        EXPECT_EQ(folder.Read(FILE_NAME), row.content) << row.reason;
+        chmod(SETTINGS_FILE, 0666);
+        EXPECT_EQ(folder.Read(SETTINGS_FILE), row.content) << row.reason;
         EXPECT_EQ(FileCount(), 1) << row.reason;
     }
 }
@@ -214,6 +211,6 @@ TEST_F(RegistryTest, KeepsALinkToTheFileInTheHomeFolder)
         EXPECT_TRUE(fs::is_symlink(".config/Tervalis/settings.toml"));
         EXPECT_EQ(folder.Read("dotfiles/own.toml"), "v = \""s + config + "\"\n");
     }
-    setenv("XDG_CONFIG_HOME", "/dev/null", 1);
+    UseNoSettings();
     EXPECT_NE(Save({ "v" }, { REG_SZ, "new" }), 0) << "no folder can be made there";
 }

@@ -37,9 +37,9 @@ protected:
         if (event == "F")
             return PushWindowEvent(SDL_WINDOWEVENT_FOCUS_LOST);
         if (event[0] == 'L')
-            return PushButton(event[1] == '+', event[2] - '0', 0);
+            return PushMouse(event[1] == '+' ? SDL_MOUSEBUTTONDOWN : SDL_MOUSEBUTTONUP, event[2] - '0', 0);
         if (event[0] == 'M')
-            return PushMotion(event[1] - '0', 0);
+            return PushMouse(SDL_MOUSEMOTION, event[1] - '0', 0);
         PushKey(event[0] != '-', static_cast<SDL_Scancode>(SDL_SCANCODE_A + event[1] - 'A'));
         if (event[0] != '-')
             PushText(std::string(1, static_cast<char>(event[1] - 'A' + 'a')).c_str());

@@ -80,22 +80,12 @@ void WindowFixture::PushWindowEvent(SDL_WindowEventID id)
     SDL_PushEvent(&event);
 }
 
-void WindowFixture::PushMotion(int x, int y)
+void WindowFixture::PushMouse(SDL_EventType type, int x, int y)
 {
     SDL_Event event = {};
-    event.motion.type = SDL_MOUSEMOTION;
-    event.motion.x = x;
-    event.motion.y = y;
-    SDL_PushEvent(&event);
-}
-
-void WindowFixture::PushButton(bool down, int x, int y)
-{
-    SDL_Event event = {};
-    event.button.type = down ? SDL_MOUSEBUTTONDOWN : SDL_MOUSEBUTTONUP;
-    event.button.button = SDL_BUTTON_LEFT;
-    event.button.state = down ? SDL_PRESSED : SDL_RELEASED;
-    event.button.x = x;
-    event.button.y = y;
+    if (type == SDL_MOUSEMOTION)
+        event.motion = { type, 0, 0, 0, 0, x, y, 0, 0 };
+    else
+        event.button = { type, 0, 0, 0, SDL_BUTTON_LEFT, type == SDL_MOUSEBUTTONDOWN, 1, 0, x, y };
     SDL_PushEvent(&event);
 }

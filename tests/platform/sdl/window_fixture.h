@@ -31,9 +31,8 @@ protected:
     static void PushKey(bool down, SDL_Scancode position, int modifiers = 0);
     static void PushText(const char* text);
     static void PushWindowEvent(SDL_WindowEventID id);
-    static void PushMotion(int x, int y);
-    /// The left mouse button.
-    static void PushButton(bool down, int x, int y);
+    /// A move, or the left button going down or up.
+    static void PushMouse(SDL_EventType type, int x, int y);
 
     HWND window = nullptr;
     inline static std::vector<Received> received;
