@@ -1,9 +1,6 @@
-#include "gfx/text_image.h"
 #include "platform/gdi.h"
-#include "support/temp_folder.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -74,16 +71,8 @@ TEST_F(GlyphTest, StayWithinTheBufferAndFollowTheWindowsCodePage)
     EXPECT_NE(Get(0x80), missing) << "euro sign";
     EXPECT_NE(Get(0x9F), missing) << "Y with diaeresis";
     EXPECT_EQ(Get(0xE974), missing) << "two bytes";
+    DeleteObject(CreateFontA(18, 6, 0, 0, FW_BOLD, 0, 0, 0, DEFAULT_CHARSET, 0, 0, PROOF_QUALITY, 0, "Verdana"));
+    EXPECT_EQ(Get(0x8D), missing) << "the other font is still there";
 }
 
-TEST(Glyphs, AreMissedInAnOrderlyWayWhereNoFontIsInstalled)
-{
-    const TempFolder folder;
-    folder.Write("none.conf", "<fontconfig/>");
-    setenv("FONTCONFIG_FILE", (folder.Path() + "/none.conf").c_str(), 1);
-    const HFONT font = CreateFontA(13, 5, 0, 0, FW_BOLD, 0, 0, 0, DEFAULT_CHARSET, 0, 0, PROOF_QUALITY, 0, "Verdana");
-    unsetenv("FONTCONFIG_FILE");
-    EXPECT_EQ(font, nullptr);
-    EXPECT_FALSE(CTextImage().TextImageCreate(font, 16, 128));
-}
 }

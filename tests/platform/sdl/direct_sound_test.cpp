@@ -6,7 +6,6 @@
 
 #include <filesystem>
 #include <string>
-#include <utility>
 
 namespace
 {
@@ -58,19 +57,28 @@ TEST_F(DirectSoundTest, FailsWithoutAnAudioDeviceAndComplainsOnce)
 
 TEST_F(DirectSoundTest, RefusesBuffersThatItCannotPlay)
 {
-    const std::pair<WAVEFORMATEX, DWORD> cases[] = {
+    const struct {
+        WAVEFORMATEX format;
+        DWORD bytes;
+        bool isPlayable = false;
+    } cases[] = {
         { { 2, 1, 22050, 44100, 2, 16, 0 }, 4 }, // not PCM
         { { PCM, 0, 22050, 0, 0, 16, 0 }, 4 },
         { { PCM, 6, 22050, 264600, 12, 16, 0 }, 12 },
-        { { PCM, 1, 0xFFFFFFFF, 0, 2, 16, 0 }, 4 },
+        { { PCM, 1, 3999, 7998, 2, 16, 0 }, 4 },
+        { { PCM, 1, 4000, 8000, 2, 16, 0 }, 4, true },
+        { { PCM, 1, 192000, 384000, 2, 16, 0 }, 4, true },
+        { { PCM, 1, 192001, 384002, 2, 16, 0 }, 4 },
         { { PCM, 2, 22050, 88200, 4, 16, 0 }, 3 }, // less than a frame
         { { PCM, 2, 22050, 88200, 4, 16, 0 }, 0xFFFFFFFF },
     };
     ASSERT_EQ(DirectSoundCreate(nullptr, &device, nullptr), DS_OK);
-    for (const auto& [format, bytes] : cases) {
+    for (const auto& row : cases) {
         IDirectSoundBuffer* buffer = nullptr;
-        EXPECT_NE(Create(format, bytes, &buffer), DS_OK) << format.nChannels << " x " << format.wBitsPerSample;
-        EXPECT_EQ(buffer, nullptr);
+        EXPECT_EQ(Create(row.format, row.bytes, &buffer) == DS_OK, row.isPlayable) << row.format.nSamplesPerSec;
+        EXPECT_EQ(buffer != nullptr, row.isPlayable);
+        if (buffer)
+            buffer->Release();
     }
 }
 
@@ -86,7 +94,7 @@ TEST_F(DirectSoundTest, PutsTheSamplesOutOnTheDeviceThatFollowsALostOne)
     std::string samples;
     std::string expected;
     for (int i = 0; i < 4000; ++i) {
-        const std::string sample = { static_cast<char>(i), static_cast<char>(i >> 8) };
+        const std::string sample = { static_cast<char>(i), static_cast<char>(i >> 8) }; // a ramp
         samples += sample;
         expected += sample + sample; // left and right
     }
@@ -97,6 +105,7 @@ TEST_F(DirectSoundTest, PutsTheSamplesOutOnTheDeviceThatFollowsALostOne)
     ASSERT_EQ(buffer->Lock(0, 0, &memory, &bytes, nullptr, nullptr, DSBLOCK_ENTIREBUFFER), DS_OK);
     ASSERT_EQ(bytes, samples.size());
     samples.copy(static_cast<char*>(memory), bytes);
+    EXPECT_NE(buffer->SetCurrentPosition(bytes), DS_OK) << "behind the end";
     EXPECT_EQ(buffer->Play(0, 0, DSBPLAY_LOOPING), DS_OK);
     folder.Write("next", "");
     std::filesystem::rename("next", OUTPUT);

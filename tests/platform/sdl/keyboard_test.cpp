@@ -1,11 +1,42 @@
+#include "platform/sdl/keyboard.h"
 #include "platform/sdl/window_fixture.h"
-
-#include <string>
 
 namespace
 {
 using Sequence = std::vector<UINT>;
 using KeyboardTest = WindowFixture;
+
+TEST(VirtualKeys, AreThoseOfWindows)
+{
+    constexpr struct {
+        SDL_Scancode position;
+        SDL_Keycode symbol;
+        int modifiers;
+        int code;
+        const char* why;
+        bool hasLatinLetters = true;
+    } keys[] = {
+        { SDL_SCANCODE_Q, SDLK_a, 0, 'A', "French: the layout says which letter" },
+        { SDL_SCANCODE_SEMICOLON, SDLK_m, 0, 'M', "French: a letter in a mark's place" },
+        { SDL_SCANCODE_A, 0x0444, 0, 'A', "Russian: no Latin letter, so the place counts", false },
+        { SDL_SCANCODE_W, SDLK_QUOTE, 0, 'W', "Hebrew: nor for marks in letters' places", false },
+        { SDL_SCANCODE_R, 0x0131, 0, 'I', "Turkish F: the key of I has no dot" },
+        { SDL_SCANCODE_Q, SDLK_QUOTE, 0, 0xDE, "Dvorak: a mark in a letter's place is not that letter" },
+        { SDL_SCANCODE_SEMICOLON, 0xF6, 0, 0xBA, "German: a letter that Windows has no code for" },
+        { SDL_SCANCODE_1, SDLK_AMPERSAND, 0, '1', "French: digits need Shift but have their code without" },
+        { SDL_SCANCODE_9, SDLK_9, 0, '9', "the last digit of the run" },
+        { SDL_SCANCODE_0, SDLK_0, 0, '0', "nought comes behind nine on the keyboard, before one in the codes" },
+        { SDL_SCANCODE_KP_0, SDLK_KP_0, KMOD_NUM, VK_NUMPAD0, "keypad digit with NumLock" },
+        { SDL_SCANCODE_KP_4, SDLK_KP_4, 0, VK_LEFT, "keypad arrow without NumLock" },
+        { SDL_SCANCODE_F13, SDLK_F13, 0, VK_F12 + 1, "the second run of function keys follows the first" },
+        { SDL_SCANCODE_F24, SDLK_F24, 0, VK_F24, "and ends at the last" },
+        { SDL_SCANCODE_UNKNOWN, 0, 0, 0, "a key that SDL does not know" },
+    };
+    for (const auto& key : keys) {
+        const SDL_Keysym symbol = { key.position, key.symbol, static_cast<Uint16>(key.modifiers), 0 };
+        EXPECT_EQ(VirtualKey(symbol, key.hasLatinLetters), key.code) << key.why;
+    }
+}
 
 TEST_F(KeyboardTest, GivesTextInTheAnsiCodePageBehindItsKey)
 {
@@ -15,9 +46,9 @@ TEST_F(KeyboardTest, GivesTextInTheAnsiCodePageBehindItsKey)
     PushKey(false, SDL_SCANCODE_E);
     RunMessages();
     EXPECT_EQ(Messages(), Sequence({ WM_KEYDOWN, WM_CHAR, WM_CHAR, WM_CHAR, WM_KEYDOWN, WM_CHAR, WM_KEYUP }));
-    const std::string characters = { static_cast<char>(received[1].wParam), static_cast<char>(received[2].wParam),
-                                     static_cast<char>(received[3].wParam), static_cast<char>(received[5].wParam) };
-    EXPECT_EQ(characters, "e\xE9\x80\b");
+    EXPECT_EQ(received[2].wParam, 0xE9u);
+    EXPECT_EQ(received[3].wParam, 0x80u);
+    EXPECT_EQ(received[5].wParam, 0x08u);
 }
 
 TEST_F(KeyboardTest, KeepsAltAndF10FromThePlayerUnlessAltChoosesCharacters)
@@ -53,8 +84,8 @@ TEST_F(KeyboardTest, ReleasesTheCodeThatWasPressedAfterNumLockChanged)
     PushKey(true, SDL_SCANCODE_KP_8, KMOD_NUM);
     PushKey(false, SDL_SCANCODE_KP_8);
     RunMessages();
-    EXPECT_EQ(received.back().message, WM_KEYUP);
     EXPECT_EQ(received.back().wParam, static_cast<WPARAM>(VK_NUMPAD0 + 8));
+    EXPECT_EQ(received.back().lParam, 0xC0000001) << "up, and down before";
 }
 
 TEST_F(KeyboardTest, HoldsNeitherKeyNorButtonAfterTheFocusIsLostOrTheWindowMinimised)

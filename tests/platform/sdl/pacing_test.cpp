@@ -58,7 +58,7 @@ protected:
                                                     { WM_KEYUP, "-" },        { WM_MOUSEMOVE, "M" },
                                                     { WM_LBUTTONDOWN, "L+" }, { WM_LBUTTONUP, "L-" } };
         std::string given;
-        for (const Received& one : received) {
+        for (const MSG& one : received) {
             const bool isMouse = one.message >= WM_MOUSEMOVE;
             const int what = isMouse ? '0' + LOWORD(one.lParam) : static_cast<int>(one.wParam);
             given += one.message == WM_KILLFOCUS ? "F" : signs.at(one.message) + static_cast<char>(what);

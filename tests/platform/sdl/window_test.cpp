@@ -5,10 +5,13 @@
 #include "platform/sdl/window_fixture.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <csignal>
+#include <string>
 
 namespace
 {
+using namespace std::string_literals;
+
 constexpr uint16_t RED = 0xF800;
 constexpr uint16_t BLUE = 0x001F;
 
@@ -53,13 +56,10 @@ TEST_F(WindowTest, ShowsThePartThatLiesInItAndNothingNewWithoutTheFocus)
     std::fill_n(picture.pixels, 12, RED);
     std::fill_n(picture.Row(2), 4, BLUE);
     const auto draw = [&](int x, int y) { return picture.DrawToDC(GetDC(window), x, y, 1, 0, 2, 3); };
-    EXPECT_TRUE(draw(10, 20));
-    EXPECT_EQ(ScreenPixel(10, 20), 0xF80000u);
-    EXPECT_EQ(ScreenPixel(11, 22), 0x0000F8u);
-    EXPECT_EQ(ScreenPixel(12, 22), 0x000000u) << "beyond the width asked for";
-    EXPECT_EQ(ScreenPixel(11, 23), 0x000000u) << "beyond the last row";
     EXPECT_TRUE(draw(-1, -2));
     EXPECT_EQ(ScreenPixel(0, 0), 0x0000F8u) << "cut at the left and top";
+    EXPECT_EQ(ScreenPixel(1, 0), 0x000000u) << "beyond the width asked for";
+    EXPECT_EQ(ScreenPixel(0, 1), 0x000000u) << "beyond the last row";
     EXPECT_TRUE(draw(639, 478));
     EXPECT_EQ(ScreenPixel(639, 479), 0xF80000u) << "cut at the right and bottom";
     EXPECT_TRUE(draw(700, 0)) << "wholly outside is no failure";
@@ -83,7 +83,6 @@ TEST_F(WindowTest, ScalesFrameAndMouseToTheScreenAndIsGivenBack)
     std::fill_n(halves.Row(240), 640 * 240, BLUE);
     DisplayPresent(halves);
     EXPECT_EQ(ScreenPixel(0, 378), 0xF80000u) << "the screen is 1.6 times as high as the frame";
-    EXPECT_EQ(ScreenPixel(1023, 390), 0x0000F8u);
     EXPECT_EQ(ScreenPixel(1023, 767), 0x0000F8u);
     EXPECT_EQ(Mapped(1023, 767), MAKELPARAM(639, 479));
     EXPECT_EQ(Mapped(-1, -17), MAKELPARAM(-1, -11)) << "left of and above the frame";
@@ -91,6 +90,7 @@ TEST_F(WindowTest, ScalesFrameAndMouseToTheScreenAndIsGivenBack)
     isWindowed = true;
     ASSERT_TRUE(DisplaySetMode(window, 640, 480, true));
     EXPECT_EQ(Mapped(512, 384), MAKELPARAM(512, 384)) << "the window has its size again";
+    EXPECT_TRUE(GetWindowLongA(window, GWL_STYLE) & WS_VISIBLE);
 }
 
 TEST_F(WindowTest, UndoesWhatTheBorderDoesUnlessTheWindowManagerInsists)
@@ -103,8 +103,8 @@ TEST_F(WindowTest, UndoesWhatTheBorderDoesUnlessTheWindowManagerInsists)
         SDL_GetWindowSize(nativeWindow.handle, &width, nullptr);
         return width;
     };
+    EXPECT_TRUE(SDL_GetWindowFlags(nativeWindow.handle) & SDL_WINDOW_RESIZABLE) << "or it has no maximise box";
     EXPECT_EQ(userResizes(700), 640);
-    EXPECT_EQ(userResizes(800), 640);
     for (int attempts = 0; attempts < 10 && width == 640; ++attempts)
         userResizes(900);
     EXPECT_EQ(width, 900) << "no endless quarrel";
@@ -126,10 +126,18 @@ TEST_F(WindowTest, MaximisesAndClosesThroughTheProcedure)
 TEST_F(WindowTest, CannotBeMadeWithoutADisplay)
 {
     TearDown();
-    setenv("SDL_VIDEODRIVER", "no such driver", 1);
-    testing::internal::CaptureStderr();
-    EXPECT_EQ(CreateWindowExA(0, "Test", "Test", 0, 0, 0, 640, 480, nullptr, nullptr, nullptr, nullptr), nullptr);
-    const std::string said = testing::internal::GetCapturedStderr();
-    EXPECT_EQ(said.find("Test: cannot open the display (tried: no such driver): "), 0u) << said;
+    std::signal(SIGHUP, SIG_IGN);
+    for (const char* variable : { "SDL_VIDEODRIVER", "DISPLAY", "WAYLAND_DISPLAY" })
+        unsetenv(variable);
+    for (const char* tried : { "", "no such driver): " }) { // left to itself, or told
+        if (*tried)
+            setenv("SDL_VIDEODRIVER", "no such driver", 1);
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(CreateWindowExA(0, "Test", "Test", 0, 0, 0, 640, 480, nullptr, nullptr, nullptr, nullptr), nullptr);
+        const std::string said = testing::internal::GetCapturedStderr();
+        EXPECT_EQ(said.find("Test: cannot open the display (tried: "s + tried), 0u) << said;
+        EXPECT_EQ(said.find("dummy"), std::string::npos) << said;
+    }
+    EXPECT_EQ(std::signal(SIGHUP, SIG_DFL), SIG_IGN) << "a program that is to outlive its terminal does";
 }
 }
