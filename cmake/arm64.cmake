@@ -1,11 +1,11 @@
-# Debian's cross compiler for 64-bit ARM, with the libraries that arm64.sh unpacks. The tests run under QEMU, on the
+# Debian's cross compiler for 64-bit ARM and the libraries, both as arm64.sh unpacks them. The tests run under QEMU, on the
 # processor that the environment variable QEMU_CPU names.
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
-set(CMAKE_C_COMPILER aarch64-linux-gnu-gcc)
-set(CMAKE_CXX_COMPILER aarch64-linux-gnu-g++)
-
 get_filename_component(CMAKE_SYSROOT ${CMAKE_CURRENT_LIST_DIR}/../build/arm64-system ABSOLUTE)
+get_filename_component(TOOLS ${CMAKE_CURRENT_LIST_DIR}/../build/arm64-tools/usr/bin ABSOLUTE)
+set(CMAKE_C_COMPILER ${TOOLS}/aarch64-linux-gnu-gcc)
+set(CMAKE_CXX_COMPILER ${TOOLS}/aarch64-linux-gnu-g++)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
