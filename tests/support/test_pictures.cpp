@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <map>
-#include <ranges>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -117,17 +117,22 @@ void AddPicture(Files& files, const char* name, int number, const PictureSize& s
                                          : NoiseBmp(noise, size.width, size.height, isMask);
 }
 
+void AddPictures(Files& files, const PictureRow& row)
+{
+    for (int i = 0; i < row.count; ++i) {
+        AddPicture(files, row.file, i, SizeOf(row, i), false);
+        if (row.mask)
+            AddPicture(files, row.mask, i, SizeOf(row, i), true);
+    }
+}
+
 Files MakeFiles()
 {
     Files files;
     const std::span<const PictureRow> tables[] = { pondPictures, snakePictures, statusPictures, menuPictures };
-    for (const PictureRow& row : std::views::join(tables)) {
-        for (int i = 0; i < row.count; ++i) {
-            AddPicture(files, row.file, i, SizeOf(row, i), false);
-            if (row.mask)
-                AddPicture(files, row.mask, i, SizeOf(row, i), true);
-        }
-    }
+    for (const auto& table : tables)
+        for (const PictureRow& row : table)
+            AddPictures(files, row);
     return files;
 }
 }
