@@ -2,7 +2,6 @@
 
 #include "app/frame_images.h"
 #include "app/game_window.h"
-#include "app/input.h"
 #include "app/scenes.h"
 #include "app/section.h"
 #include "doubles/directx.h"
@@ -74,6 +73,9 @@ TEST_F(GameTest, RunsOneFrameEvery40MsAndNeverMakesUpLateOnes)
     EXPECT_EQ(TickAfter(39), "bfff") << "the next deadline counts from the late tick";
     EXPECT_EQ(TickAfter(1), "bffff");
 
+    EXPECT_EQ(game.WndProc(gameWindow, WM_ERASEBKGND, 0, 0), 1) << "the frame covers all";
+    EXPECT_EQ(game.WndProc(gameWindow, WM_SETCURSOR, 0, 0), 0) << "scenes set the cursor";
+
     requestedSection = &twin;
     EXPECT_EQ(TickAfter(40), "bfffff") << "an object of the same class is no other scene";
     requestedSection = &other;
@@ -81,17 +83,15 @@ TEST_F(GameTest, RunsOneFrameEvery40MsAndNeverMakesUpLateOnes)
     EXPECT_EQ(other.notes, "bf") << "within one tick";
     DestroyWindow(gameWindow);
     EXPECT_EQ(other.notes, "bfe");
-    EXPECT_TRUE(Log().ends_with("CGame::Destroy\n"));
+    EXPECT_TRUE(pictures.folder.ReadText("Log.txt").ends_with("CGame::Destroy\n"));
     EXPECT_EQ(backBuffer.pixels, nullptr);
 }
 
 TEST_F(GameTest, AFailingSceneOperationEndsTheProgramWithoutPresenting)
 {
     for (const char failing : { 'b', 'f', 'e' }) {
-        if (failing != 'b') {
-            ProgramFixture::TearDown();
-            SetUp();
-        }
+        TearDown();
+        SetUp();
         scene.notes.clear();
         scene.failing = failing;
         lastError = ENGINE_LOAD_FILE;
@@ -107,56 +107,17 @@ TEST_F(GameTest, AFailingSceneOperationEndsTheProgramWithoutPresenting)
     }
 }
 
-TEST_F(GameTest, StoresInputMessages)
-{
-    Send(WM_MOUSEMOVE, 0, MAKELPARAM(-3, 479));
-    EXPECT_EQ(input.mouseX, -3);
-    EXPECT_EQ(input.mouseY, 479);
-    const struct {
-        UINT message;
-        bool left, right;
-    } buttons[] = { { WM_LBUTTONDOWN, true, false },
-                    { WM_RBUTTONDOWN, true, true },
-                    { WM_LBUTTONUP, false, true },
-                    { WM_RBUTTONUP, false, false } };
-    for (const auto& [message, left, right] : buttons) {
-        Send(message, 0, MAKELPARAM(static_cast<int>(message), -2));
-        EXPECT_EQ(input.mouseLeftDown, left);
-        EXPECT_EQ(input.mouseRightDown, right);
-        EXPECT_EQ(input.mouseX, static_cast<int>(message));
-        EXPECT_EQ(input.mouseY, -2);
-    }
-    Send(WM_KEYDOWN, VK_LEFT);
-    Send(WM_KEYUP, VK_RIGHT);
-    Send(WM_CHAR, 0x1E9);
-    Send(WM_SYSKEYDOWN, VK_F10); // system keys are not the game's
-    Send(WM_SYSKEYUP, 'A');
-    EXPECT_EQ(input.lastKeyDown, VK_LEFT);
-    EXPECT_EQ(input.lastKeyUp, VK_RIGHT);
-    EXPECT_EQ(input.lastChar, static_cast<char>(0xE9));
-    Send(WM_KILLFOCUS);
-    EXPECT_FALSE(input.hasFocus);
-    Send(WM_SETFOCUS);
-    EXPECT_TRUE(input.hasFocus);
-    EXPECT_EQ(Send(WM_ERASEBKGND), 1);
-    EXPECT_EQ(Send(WM_SETCURSOR), 0);
-}
-
 TEST_F(GameTest, AStartThatFailsLeavesNoWindow)
 {
+    EXPECT_EQ(RunGame(nullptr), 0) << "another copy runs";
     constexpr int GLOBAL_IMAGES = 5; // of one plane each
-    for (int failing = 1; failing <= GLOBAL_IMAGES + 1; ++failing) {
-        ProgramFixture::TearDown();
+    for (int failing = 1; failing <= GLOBAL_IMAGES; ++failing) {
+        TearDown();
         FailPlane(failing);
         testing::internal::CaptureStderr();
-        EXPECT_EQ(CreateGameWindow(nullptr), failing > GLOBAL_IMAGES) << failing;
-        EXPECT_EQ(nativeWindow.handle != nullptr, failing > GLOBAL_IMAGES) << failing;
-        EXPECT_EQ(testing::internal::GetCapturedStderr(),
-                  failing > GLOBAL_IMAGES ? "" : "Error: Can not allocate memory\n");
-        lastError = ENGINE_NO_ERROR;
+        EXPECT_FALSE(CreateGameWindow(nullptr)) << failing;
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), "Error: Can not allocate memory\n") << failing;
+        EXPECT_FALSE(nativeWindow.handle) << failing;
     }
     FailPlane(0);
-    const std::string log = Log();
-    EXPECT_EQ(RunGame(nullptr), 0) << "another copy runs";
-    EXPECT_EQ(Log(), log) << "whose log stays";
 }

