@@ -135,7 +135,7 @@ TEST_F(WindowTest, CannotBeMadeWithoutADisplay)
         testing::internal::CaptureStderr();
         EXPECT_EQ(CreateWindowExA(0, "Test", "Test", 0, 0, 0, 640, 480, nullptr, nullptr, nullptr, nullptr), nullptr);
         const std::string said = testing::internal::GetCapturedStderr();
-        EXPECT_EQ(said.find("Test: cannot open the display (tried: "s + tried), 0u) << said;
+        EXPECT_NE(said.find("Test: cannot open the display (tried: "s + tried), std::string::npos) << said;
         EXPECT_EQ(said.find("dummy"), std::string::npos) << said;
     }
     EXPECT_EQ(std::signal(SIGHUP, SIG_DFL), SIG_IGN) << "a program that is to outlive its terminal does";
