@@ -21,6 +21,7 @@
 #include "support/test_pictures.h"
 #include "support/test_system.h"
 
+#include <algorithm>
 #include <cctype>
 #include <filesystem>
 #include <memory>
@@ -30,6 +31,7 @@
 
 namespace
 {
+/// What an action makes a message of; its numbers are a place of the mouse.
 struct MessageRow {
     const char* verb;
     UINT message;
@@ -43,10 +45,12 @@ constexpr MessageRow messages[] = {
     { "maximise", WM_SYSCOMMAND, SC_MAXIMIZE },
     { "titleDoubleClick", WM_NCLBUTTONDBLCLK, 0 },
     { "close", WM_CLOSE, 0 },
-};
-constexpr MessageRow mouseMessages[] = {
-    { "move", WM_MOUSEMOVE, 0 },         { "press", WM_LBUTTONDOWN, 0 },      { "release", WM_LBUTTONUP, 0 },
-    { "pressRight", WM_RBUTTONDOWN, 0 }, { "releaseRight", WM_RBUTTONUP, 0 }, { "click", WM_LBUTTONDOWN, 0 },
+    { "move", WM_MOUSEMOVE, 0 },
+    { "press", WM_LBUTTONDOWN, 0 },
+    { "release", WM_LBUTTONUP, 0 },
+    { "pressRight", WM_RBUTTONDOWN, 0 },
+    { "releaseRight", WM_RBUTTONUP, 0 },
+    { "click", WM_LBUTTONDOWN, 0 },
 };
 
 /// Made once for all sessions: pictures are many files.
@@ -67,6 +71,15 @@ void Rebuild(Scene& scene)
 {
     std::destroy_at(&scene);
     std::construct_at(&scene);
+}
+
+void SetField(const std::string& name, int value)
+{
+    const std::vector<StateField> fields = StateFields();
+    const auto field = std::ranges::find(fields, name, &StateField::name);
+    if (field == fields.end())
+        throw std::runtime_error("there is no field " + name);
+    field->Set(value);
 }
 }
 
@@ -136,43 +149,28 @@ void Session::Send(unsigned message, uintptr_t wParam, intptr_t lParam)
         game.WndProc(gameWindow, message, wParam, lParam);
 }
 
-void Session::SendMouse(const std::string& verb, int x, int y)
-{
-    for (const MessageRow& row : mouseMessages)
-        if (verb == row.verb)
-            Send(row.message, row.wParam, MAKELPARAM(x, y));
-}
-
 /// key CODE, type TEXT (one character), move|press|release|click X Y, set FIELD NUMBER, or a row of `messages`.
 void Session::Do(const Action& action)
 {
     std::istringstream arguments(action.arguments);
+    std::string name;
     int first = 0;
     int second = 0;
-    if (action.verb == "set") {
-        std::string name;
-        arguments >> name >> first;
-        for (const StateField& field : StateFields())
-            if (field.name == name)
-                return field.Set(first);
-        throw std::runtime_error("there is no field " + name);
-    }
-    if (action.verb == "key") {
-        arguments >> first;
-        Send(WM_KEYDOWN, static_cast<WPARAM>(first));
-        releases.push_back(action);
-    } else if (action.verb == "type") {
+    if (action.verb == "set" && arguments >> name >> first)
+        return SetField(name, first);
+    if (action.verb == "type") {
         const int character = action.arguments[0];
         Send(WM_KEYDOWN, static_cast<WPARAM>(std::toupper(character)));
-        Send(WM_CHAR, static_cast<WPARAM>(character));
-    } else if (arguments >> first >> second) {
-        SendMouse(action.verb, first, second);
-        if (action.verb == "click")
-            releases.push_back({ 0, "release", action.arguments });
+        return Send(WM_CHAR, static_cast<WPARAM>(character));
     }
+    arguments >> first >> second;
+    if (action.verb == "key" || action.verb == "keyUp")
+        Send(action.verb == "key" ? WM_KEYDOWN : WM_KEYUP, static_cast<WPARAM>(first));
     for (const MessageRow& row : messages)
         if (action.verb == row.verb)
-            Send(row.message, row.wParam);
+            Send(row.message, row.wParam, MAKELPARAM(first, second));
+    if (action.verb == "key" || action.verb == "click")
+        releases.push_back({ 0, action.verb == "key" ? "keyUp" : "release", action.arguments });
 }
 
 void Session::Frame()
@@ -182,12 +180,8 @@ void Session::Frame()
     HearSounds();
     if (!IsRunning())
         input = InputState{}; // what a window is told while it goes differs between systems
-    for (const Action& release : std::exchange(releases, {})) {
-        if (release.verb == "key")
-            Send(WM_KEYUP, static_cast<WPARAM>(std::stoi(release.arguments)));
-        else
-            Do(release);
-    }
+    for (const Action& release : std::exchange(releases, {}))
+        Do(release);
 }
 
 void Session::HearSounds()

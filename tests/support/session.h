@@ -34,7 +34,6 @@ private:
     void BeginGame(int players);
     void HearSounds();
     void Send(unsigned message, uintptr_t wParam = 0, intptr_t lParam = 0);
-    void SendMouse(const std::string& verb, int x, int y);
 
     static constexpr int SOUND_IDS = 31;
 
