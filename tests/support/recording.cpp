@@ -1,7 +1,6 @@
 #include "support/recording.h"
 
 #include <fstream>
-#include <set>
 #include <sstream>
 #include <stdexcept>
 
@@ -74,36 +73,29 @@ std::string StretchName(const Stretch& stretch, int before)
     return "in the frames " + std::to_string(before) + " to " + std::to_string(stretch.frame - 1);
 }
 
-/// The state at the end of each stretch, made of the changes so far.
-class RunningState
-{
-public:
-    void Apply(const Stretch& stretch)
-    {
-        for (const auto& [name, value] : stretch.changes)
-            values[name] = value;
-    }
-    std::string Of(const std::string& name) const
-    {
-        const auto found = values.find(name);
-        return found == values.end() ? ABSENT : found->second;
-    }
-    /// The first field, by name, in which the other differs.
-    std::string DifferenceFrom(const RunningState& was) const
-    {
-        std::set<std::string> names;
-        for (const auto& state : { this, &was })
-            for (const auto& [name, value] : state->values)
-                names.insert(name);
-        for (const std::string& name : names)
-            if (Of(name) != was.Of(name))
-                return name + " " + Of(name) + ", was " + was.Of(name);
-        return "no field that is written down";
-    }
+/// The state at the end of a stretch, made of the changes so far.
+using State = std::map<std::string, std::string>;
 
-private:
-    std::map<std::string, std::string> values;
-};
+void Apply(State& state, const Stretch& stretch)
+{
+    for (const auto& [name, value] : stretch.changes)
+        state[name] = value;
+}
+
+std::string ValueIn(const State& state, const std::string& name)
+{
+    const auto found = state.find(name);
+    return found == state.end() ? ABSENT : found->second;
+}
+
+std::string FirstDifference(const State& is, const State& was)
+{
+    for (const State* state : { &is, &was })
+        for (const auto& [name, value] : *state)
+            if (ValueIn(is, name) != ValueIn(was, name))
+                return name + " " + ValueIn(is, name) + ", was " + ValueIn(was, name);
+    return "no field that is written down";
+}
 }
 
 Recording ReadRecording(const std::string& path)
@@ -140,17 +132,17 @@ void WriteRecording(const Recording& recording, const std::string& path)
 
 std::string FirstDifference(const Recording& recorded, const Recording& played)
 {
-    RunningState was;
-    RunningState is;
+    State was;
+    State is;
     int before = 0;
     for (size_t i = 0; i < std::min(recorded.stretches.size(), played.stretches.size()); ++i) {
         const Stretch& old = recorded.stretches[i];
         const Stretch& now = played.stretches[i];
-        was.Apply(old);
-        is.Apply(now);
+        Apply(was, old);
+        Apply(is, now);
         std::string parts;
         if (now.state != old.state)
-            parts += " state (" + is.DifferenceFrom(was) + ")";
+            parts += " state (" + FirstDifference(is, was) + ")";
         if (now.picture != old.picture)
             parts += " picture";
         if (now.sounds != old.sounds)
