@@ -20,4 +20,4 @@ if ! command -v wine >/dev/null; then
     say "There is no Wine here: the Windows program was built, but neither it nor its tests were run."
     exit 0
 fi
-ctest --preset windows
+xvfb-run -a -s "-screen 0 1280x1024x24" ctest --preset windows # a window is part of each recorded run

@@ -6,7 +6,7 @@ TEST_PACKAGES="libgtest-dev xvfb xdotool imagemagick openbox x11-utils x11-xserv
     python3-pil"
 BENCH_PACKAGES="libbenchmark-dev libpixman-1-dev python3"
 WINDOWS_PACKAGES="g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build nasm dpkg-dev googletest"
-WINE_PACKAGES="wine wine64 xvfb xdotool imagemagick openbox x11-utils wmctrl"
+WINE_PACKAGES="wine wine64 xvfb xauth xdotool imagemagick openbox x11-utils wmctrl"
 ARM64_PACKAGES="g++ cmake ninja-build pkg-config qemu-user mmdebstrap"
 CHECK_PACKAGES="clang clang-format clang-tidy"
 
