@@ -63,7 +63,8 @@ TEST(JpegLoader, EachDamageHasItsCode)
         EXPECT_EQ(Load(image, cut), ENGINE_LOAD_IMAGE) << size;
     }
     constexpr uint8_t sizes[] = { 0, SIDE, 0, SIDE }; // as the header has them
-    const auto place = static_cast<size_t>(std::ranges::search(whole, sizes).begin() - whole.begin());
+    const auto place = static_cast<size_t>(std::search(whole.begin(), whole.end(), std::begin(sizes), std::end(sizes)) -
+                                           whole.begin());
     Bytes damaged = whole;
     damaged[place] = damaged[place + 2] = 0x70;
     CImage image;

@@ -55,14 +55,14 @@ FT_F26Dot6 ToFixed(double pixels)
 }
 }
 
-void FontFace::LibraryDeleter::operator()(FT_LibraryRec_* library) const
+void FontFace::LibraryDeleter::operator()(FT_LibraryRec_* opened) const
 {
-    FT_Done_FreeType(library);
+    FT_Done_FreeType(opened);
 }
 
-void FontFace::FaceDeleter::operator()(FT_FaceRec_* face) const
+void FontFace::FaceDeleter::operator()(FT_FaceRec_* opened) const
 {
-    FT_Done_Face(face);
+    FT_Done_Face(opened);
 }
 
 std::unique_ptr<FontFace> FontFace::Find(const char* family, int weight, int height, int width)

@@ -186,8 +186,9 @@ TEST_F(RegistryTest, KilledAtAnyMomentLeavesOldOrNewValues)
     std::mt19937 random(7);
     for (int round = 0; round < 100; ++round) {
         const pid_t child = fork();
-        for (char letter = 'a'; child == 0; letter = letter == 'z' ? 'a' : static_cast<char>(letter + 1))
-            saveBoth(letter);
+        if (child == 0)
+            for (char letter = 'a';; letter = letter == 'z' ? 'a' : static_cast<char>(letter + 1))
+                saveBoth(letter);
         usleep(static_cast<useconds_t>(random() % 6000));
         kill(child, SIGKILL);
         waitpid(child, nullptr, 0);
