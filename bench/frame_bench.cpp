@@ -14,7 +14,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
-#include <ranges>
 #include <string>
 
 namespace
@@ -67,10 +66,13 @@ void HoldSituation(CPond& pond, const Situation& situation)
         snake.rainTimer = situation.rains ? RAIN_FALLING : 0;
     if (!situation.isFull)
         return;
-    auto isFree = [&pond](const Cell& cell) { return !IsInTheWay(pond, cell); };
-    for (Cell& cell : pond.cells | std::views::filter(isFree) | std::views::take(FALLING_BERRIES)) {
+    int falling = 0;
+    for (Cell& cell : pond.cells) {
+        if (falling == FALLING_BERRIES || IsInTheWay(pond, cell))
+            continue;
         cell.ripe = false;
         cell.growth = HALF_GROWN;
+        ++falling;
     }
 }
 
