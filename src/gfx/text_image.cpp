@@ -204,7 +204,7 @@ void CTextImage::TextDraw(CImage& target, int x, int y, uint16_t colour, const c
     target.x = x;
     target.y = y;
     while (const uint32_t code = NextCode(text)) {
-        GlyphView view;
+        GlyphView view = {};
         if (!GetGlyphView(code, colour, view))
             continue;
         if (code > LAST_BLANK_CODE)

@@ -12,7 +12,7 @@ using Rows = std::span<const PictureRow>;
 
 CImage& ImageOf(ImageSets sets, const PictureRow& row, int index)
 {
-    return sets[static_cast<size_t>(row.set)][static_cast<size_t>(row.image + index)];
+    return sets[static_cast<size_t>(row.set)][static_cast<size_t>(row.image) + static_cast<size_t>(index)];
 }
 
 bool LoadPicture(CImage& image, const PictureRow& row, int index)

@@ -69,9 +69,10 @@ std::vector<std::string> LockPaths(std::string name)
     }
     if (const std::string folder = FolderFromEnvironment("XDG_RUNTIME_DIR"); !folder.empty())
         paths.push_back(folder + "/" + name + ".lock");
+    const std::string shared = "/" + name + "-" + std::to_string(getuid()) + ".lock"; // with other users' files
     for (const std::string& folder : { FolderFromEnvironment("TMPDIR"), std::string("/tmp") })
         if (!folder.empty())
-            paths.push_back(folder + "/" + name + "-" + std::to_string(getuid()) + ".lock");
+            paths.push_back(folder + shared);
     return paths;
 }
 

@@ -83,7 +83,7 @@ std::string ResolveLink(const std::string& path)
         if (length < 0)
             break;
         const std::string next(target, static_cast<size_t>(length));
-        file = next.starts_with('/') ? next : FolderOf(file) + "/" + next;
+        file = next.starts_with('/') ? next : FolderOf(file).append("/").append(next);
     }
     return file;
 }
