@@ -17,7 +17,7 @@ struct SearchCase {
 TEST_F(PondCells, SearchBerryCellUpwardFarFromTheHead)
 {
     constexpr int head = 15 * CELL_COLUMNS + 15;
-    PutSnake(15 * CELL_SIZE, 15 * CELL_SIZE, 1, 0);
+    PutSnake(15 * CELL_SIZE, 15 * CELL_SIZE);
     const SearchCase cases[] = {
         { { 7, 40, 800 }, 20, 40, "the next one up" },
         { { 3, 800 }, 850, 3, "wraps around at the end" },
@@ -72,7 +72,7 @@ TEST_F(PondCells, LookAtBerriesBesideTheHead)
             if (i != 4)
                 cases.push_back({ row.heading, head, { head + (i / 3 - 1) * 30 + i % 3 - 1 }, row.eyeFrames[i], "" });
     for (const LookCase& look : cases) {
-        pond.NewGame(0, testKeys[0], testKeys[1]);
+        StartGame();
         for (const int cell : look.berries)
             MakeRipe(pond.cells[cell], RED);
         int colour = -1;

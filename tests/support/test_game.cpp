@@ -1,43 +1,30 @@
 #include "support/test_game.h"
 
 #include "app/frame_images.h"
-#include "app/input.h"
 #include "app/random.h"
 #include "app/scenes.h"
+#include "game/scenery.h"
 #include "game/water.h"
-
-namespace
-{
-/// Repeats the loading steps of pond or status bar.
-template <typename Owner>
-void LoadAll(Owner& owner)
-{
-    for (bool done = false; !done;)
-        ASSERT_TRUE(owner.DataLoad(done));
-}
-}
 
 PondTest::PondTest()
 {
-    for (CImage* image : { &backBuffer, &screenCopy })
-        image->Create(SCREEN_WIDTH, SCREEN_HEIGHT);
+    backBuffer.Create(SCREEN_WIDTH, SCREEN_HEIGHT);
     for (CImage* image : { &pondImage, &waterBufferA, &waterBufferB })
         image->Create(POND_SIZE, POND_SIZE);
     WaterInit(waterBufferA, waterBufferB, 5, 3);
-    input = InputState{};
-    captureScreen = false;
-    requestedSection = nullptr;
     scenery = SceneryState{};
-    blinkCounter = 0;
-    LoadAll(pond);
-    LoadAll(pond.statusBar);
+    for (bool done = false; !done;)
+        EXPECT_TRUE(pond.DataLoad(done));
+    for (bool done = false; !done;)
+        EXPECT_TRUE(pond.statusBar.DataLoad(done));
     SeedRandom(1);
-    StartGame(0);
+    StartGame();
 }
 
-void PondTest::StartGame(int players)
+void PondTest::StartGame()
 {
-    ASSERT_TRUE(pond.NewGame(players, testKeys[0], testKeys[1]));
+    constexpr uint32_t keys[2][4] = { { VK_UP, VK_DOWN, VK_LEFT, VK_RIGHT }, { 'W', 'S', 'A', 'D' } };
+    ASSERT_TRUE(pond.NewGame(0, keys[0], keys[1]));
     pond.introFrames = 31;
     for (CSnake& each : pond.snake) {
         each.isWaiting = true;
@@ -47,10 +34,8 @@ void PondTest::StartGame(int players)
 
 void PondTest::Play(int frames)
 {
-    for (int i = 0; i < frames; ++i) {
-        pond.GameFrame(pondImage, input.lastKeyDown);
-        input.lastKeyDown = 0;
-    }
+    for (int i = 0; i < frames; ++i)
+        pond.GameFrame(pondImage, 0);
 }
 
 void PondTest::SnakeFrame(int key)
@@ -60,14 +45,12 @@ void PondTest::SnakeFrame(int key)
     snake.SnakeEndSlowDown();
 }
 
-void PondTest::PutSnake(int x, int y, int length, int player)
+void PondTest::PutSnake(int x, int y)
 {
-    CSnake& put = pond.snake[player];
-    put.length = length;
-    for (int i = 0; i < length; ++i)
-        put.segments[i] = { .x = x, .y = (y + i * CELL_SIZE) % POND_SIZE, .dir = put.keyUp };
-    put.frameCount = put.movedFrames = 100;
-    put.isWaiting = false;
+    for (int i = 0; i < snake.length; ++i)
+        snake.segments[i] = { .x = x, .y = (y + i * CELL_SIZE) % POND_SIZE, .dir = VK_UP };
+    snake.frameCount = snake.movedFrames = 100;
+    snake.isWaiting = false;
 }
 
 void PondTest::MakeRipe(Cell& cell, int colour)
