@@ -1,95 +1,77 @@
 #include "gfx/blit.h"
 #include "gfx/error.h"
 #include "res/image_loader.h"
+#include "support/file_bytes.h"
 
 #include <gtest/gtest.h>
 
-#include <utility>
 #include <vector>
 
 namespace
 {
 using Bytes = std::vector<uint8_t>;
 
-void Put(Bytes& file, size_t place, size_t value)
+/// A BMP file of 3x2 pixels; `rows` are the stored rows with their padding, the bottom one first.
+std::string MakeBmp(uint32_t bitCount, const Bytes& rows, const Bytes& palette = {})
 {
-    for (int i = 0; i < 4; ++i)
-        file[place + static_cast<size_t>(i)] = static_cast<uint8_t>(value >> 8 * i);
+    std::string file = BmpHeader(3, 2, bitCount, static_cast<uint32_t>(palette.size()) / 4);
+    file.append(palette.begin(), palette.end());
+    return file.append(rows.begin(), rows.end());
 }
 
-/// A BMP file; `rows` are the stored rows with their padding, the bottom one first.
-Bytes MakeBmp(size_t width, size_t height, size_t bitCount, const Bytes& rows, const Bytes& palette = {})
+EngineError Load(CImage& image, const std::string& bmp, const std::string& mask = {})
 {
-    Bytes file(54);
-    file[0] = 'B';
-    file[1] = 'M';
-    const std::pair<size_t, size_t> header[] = {
-        { 10, 54 + palette.size() }, { 14, 40 }, { 18, width }, { 22, height }, { 28, bitCount },
-        { 46, palette.size() / 4 }
+    const auto bytes = [](const std::string& file) {
+        return file.empty() ? nullptr : reinterpret_cast<const uint8_t*>(file.data());
     };
-    for (const auto& [place, value] : header)
-        Put(file, place, value);
-    file.insert(file.end(), palette.begin(), palette.end());
-    file.insert(file.end(), rows.begin(), rows.end());
-    return file;
-}
-
-EngineError Load(CImage& image, const Bytes& bmp, const Bytes& mask = {})
-{
     lastError = ENGINE_NO_ERROR;
-    const bool loaded = LoadBmpImage(image, bmp.data(), static_cast<uint32_t>(bmp.size()), mask.data(),
+    const bool loaded = LoadBmpImage(image, bytes(bmp), static_cast<uint32_t>(bmp.size()), bytes(mask),
                                      static_cast<uint32_t>(mask.size()));
     EXPECT_EQ(loaded, lastError == ENGINE_NO_ERROR);
     return static_cast<EngineError>(lastError);
 }
 
-const Bytes picture24 = MakeBmp(3, 2, 24, { 1, 1, 1,    0xFF, 0x80, 0x10, 0,    0, 0, 9, 9, 9, // bottom row
-                                            0, 0, 0xFF, 0,    0xFF, 0,    0xFF, 0, 0, 9, 9, 9 });
-const Bytes picture16 = MakeBmp(3, 2, 16, { 1, 0, 2, 0, 3, 0, 9, 9, 0x34, 0x12, 5, 0, 6, 0, 9, 9 });
-const Bytes rows8 = { 0, 1, 0, 9, 1, 0, 1, 9 };
-const Bytes picture8 = MakeBmp(3, 2, 8, rows8, { 0xFF, 0x80, 0x10, 0, 0x00, 0x00, 0xFF, 0 }); // of two colours
+const std::string picture24 = MakeBmp(24, { 1, 7, 1,    0xFF, 0x80, 0x10, 0,    8,    0, 9, 9, 9, // bottom row
+                                            0, 0, 0xFF, 0,    0xFF, 0,    0xFF, 0xF7, 0, 9, 9, 9 });
+const std::string picture16 = MakeBmp(16, { 1, 0, 0xE2, 0xFF, 31, 0, 9, 9, 0x34, 0x12, 5, 0, 30, 0, 9, 9 });
+const Bytes rows8 = { 0, 1, 2, 9, 1, 0, 1, 9 };
+const std::string picture8 = MakeBmp(8, rows8, { 0xFF, 0x80, 0x10, 0, 0, 0xFE, 0xFF, 0, 0, 0xFF, 0, 0 });
 }
 
-TEST(BmpLoader, ReadsEveryDepthBottomRowFirst)
+TEST(BmpLoader, ReadsEveryDepthBottomRowFirstAsPictureAndAsMask)
 {
     const struct {
         const char* what;
-        Bytes bmp;
+        std::string bmp;
         uint16_t pixels[2][3];
+        uint8_t alpha[2][3];
     } cases[] = {
-        { "24 bits", picture24, { { 0xF800, 0x07E0, 0x001F }, { 0, 0x141F, 0 } } },
-        { "16 bits", picture16, { { 0x1234, 5, 6 }, { 1, 2, 3 } } },
-        { "8 bits", picture8, { { 0xF800, 0x141F, 0xF800 }, { 0x141F, 0xF800, 0x141F } } },
-        { "a palette of one colour keeps the others of the file before",
-          MakeBmp(3, 2, 8, rows8, { 0, 0xFF, 0, 0 }),
-          { { 0xF800, 0x07E0, 0xF800 }, { 0x07E0, 0xF800, 0x07E0 } } },
+        { "24 bits",
+          picture24,
+          { { 0xF800, 0x07E0, 0x07BF }, { 0x0020, 0x141F, 0x0040 } },
+          { { 0, 31, 30 }, { 0, 16, 1 } } },
+        { "16 bits", picture16, { { 0x1234, 5, 30 }, { 1, 0xFFE2, 31 } }, { { 20, 5, 30 }, { 1, 2, 31 } } },
+        { "8 bits",
+          picture8,
+          { { 0xFFE0, 0x141F, 0xFFE0 }, { 0x141F, 0xFFE0, 0x07E0 } },
+          { { 30, 16, 30 }, { 16, 30, 31 } } },
+        { "a picture's palette of one colour keeps the others of the file before, a mask's has none behind",
+          MakeBmp(8, rows8, { 0, 0xFF, 0, 0 }),
+          { { 0xFFE0, 0x07E0, 0xFFE0 }, { 0x07E0, 0xFFE0, 0x07E0 } },
+          { { 0, 31, 0 }, { 31, 0, 0 } } },
     };
-    CImage image;
-    ASSERT_TRUE(image.CreateAlpha());
-    image.x = 5;
-    image.blit = BlitAlpha;
-    for (const auto& [what, bmp, pixels] : cases) {
+    for (const auto& [what, bmp, pixels, alpha] : cases) {
+        CImage image;
+        ASSERT_TRUE(image.CreateAlpha());
+        image.x = 5;
+        image.blit = BlitAlpha;
         ASSERT_EQ(Load(image, bmp), ENGINE_NO_ERROR) << what;
         EXPECT_TRUE(image.x == 0 && !image.alpha && image.blit == BlitCopy) << "a fresh image";
-        for (int y = 0; y < 2; ++y)
+        ASSERT_EQ(Load(image, bmp, bmp), ENGINE_NO_ERROR) << what;
+        for (int y = 0; y < 2; ++y) {
             EXPECT_TRUE(std::equal(pixels[y], pixels[y] + 3, image.Row(y))) << what << ", row " << y;
-    }
-}
-
-TEST(BmpLoader, TakesTheAlphaFromTheMask)
-{
-    const Bytes alphas = { 31, 30, 30, 0, 1 };
-    Bytes palette;
-    for (const uint8_t green : Bytes{ 255, 254, 247, 7, 8 })
-        palette.insert(palette.end(), { 0x55, green, 0xAA, 0 });
-    const Bytes rows24 = { 1, 255, 1, 1, 254, 1, 1, 247, 1, 1, 7, 1, 1, 8, 1, 0 };
-    const Bytes rows16 = { 0xFF, 0xE1, 0xFE, 0xE1, 0xFE, 0xE1, 0xE0, 0xE1, 0xE1, 0xE1, 0, 0 };
-    const Bytes picture = MakeBmp(5, 1, 24, rows24);
-    for (const Bytes& mask :
-         { picture, MakeBmp(5, 1, 16, rows16), MakeBmp(5, 1, 8, { 0, 1, 2, 3, 4, 0, 0, 0 }, palette) }) {
-        CImage image;
-        ASSERT_EQ(Load(image, picture, mask), ENGINE_NO_ERROR);
-        EXPECT_EQ(Bytes(image.alpha, image.alpha + 5), alphas);
+            EXPECT_TRUE(std::equal(alpha[y], alpha[y] + 3, image.AlphaRow(y))) << what << ", row " << y;
+        }
     }
 }
 
@@ -97,7 +79,7 @@ TEST(BmpLoader, EachDamageHasItsCodeInAPictureAndInAMask)
 {
     constexpr struct {
         size_t place;
-        size_t value;
+        uint32_t value;
         EngineError picture, mask;
         const char* why;
     } damages[] = {
@@ -113,18 +95,17 @@ TEST(BmpLoader, EachDamageHasItsCodeInAPictureAndInAMask)
         { 28, 32, ENGINE_LOAD_IMAGE, ENGINE_LOAD_IMAGE, "no such depth" },
     };
     for (const auto& [place, value, picture, mask, why] : damages) {
-        Bytes damaged = picture24;
-        Put(damaged, place, value);
+        std::string damaged = picture24;
+        damaged.replace(place, 4, LittleEndian(value));
         CImage image;
         EXPECT_EQ(Load(image, damaged), picture) << why;
         EXPECT_EQ(Load(image, picture24, damaged), mask) << why;
         EXPECT_EQ(image.Row(1)[1], 0x141F) << "the colours stay loaded";
     }
-    for (const Bytes& whole : { picture24, picture16, picture8 })
+    for (const std::string& whole : { picture24, picture16, picture8 })
         for (size_t size = 1; size < whole.size(); ++size) { // no bytes would be no mask
             CImage image;
-            const Bytes cut(whole.begin(), whole.begin() + static_cast<ptrdiff_t>(size));
-            EXPECT_EQ(Load(image, cut), ENGINE_LOAD_IMAGE) << size;
-            EXPECT_EQ(Load(image, whole, cut), ENGINE_LOAD_IMAGE) << size;
+            EXPECT_EQ(Load(image, whole.substr(0, size)), ENGINE_LOAD_IMAGE) << size;
+            EXPECT_EQ(Load(image, whole, whole.substr(0, size)), ENGINE_LOAD_IMAGE) << size;
         }
 }

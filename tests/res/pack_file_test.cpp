@@ -2,6 +2,7 @@
 
 #include "gfx/error.h"
 #include "res/file_data.h"
+#include "support/file_bytes.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -12,17 +13,9 @@
 
 namespace
 {
-std::string Le32(size_t value)
+std::string Entry(const char* name, uint32_t offset, uint32_t size)
 {
-    std::string bytes;
-    for (int i = 0; i < 4; ++i)
-        bytes.push_back(static_cast<char>(value >> 8 * i & 0xFF));
-    return bytes;
-}
-
-std::string Entry(const char* name, size_t offset, size_t size)
-{
-    return Le32(HashName(name)) + Le32(offset) + Le32(size);
+    return LittleEndian(HashName(name)) + LittleEndian(offset) + LittleEndian(size);
 }
 
 /// A folder of its own as the current one, and no pack open.
@@ -65,8 +58,8 @@ TEST_F(PackFile, HashesOfNamesAreThoseOfTheFilesInUse)
 
 TEST_F(PackFile, ServesLooseFilesBeforeMembersAndTheEarlierOfTwoAlike)
 {
-    constexpr size_t DATA = 8 + 4 * 12; // behind the header and four entries
-    ASSERT_TRUE(Open("FPX_" + Le32(4) + Entry("\\one.bmp", DATA, 5) + Entry("\\empty", DATA + 5, 0) +
+    constexpr uint32_t DATA = 8 + 4 * 12; // behind the header and four entries
+    ASSERT_TRUE(Open("FPX_" + LittleEndian<uint32_t>(4) + Entry("\\one.bmp", DATA, 5) + Entry("\\empty", DATA + 5, 0) +
                      Entry("\\one.bmp", DATA + 5, 6) + Entry("\\two", DATA + 11, 1) + "firstsecond2"));
     EXPECT_TRUE(OpenPack("missing.xpf")) << "one pack is enough";
     EXPECT_EQ(Load("Dat\\Image/Two"), "2");
@@ -82,8 +75,9 @@ TEST_F(PackFile, ServesLooseFilesBeforeMembersAndTheEarlierOfTwoAlike)
 
 TEST_F(PackFile, DamagedHeadersLeaveTheSlotFree)
 {
-    for (const std::string& bytes : { std::string(), std::string("FPX"), "FPX-" + Le32(0), "FPX_" + Le32(0xFFFFFFFF),
-                                      "FPX_" + Le32(0x20000000) + std::string(100, 'x') }) {
+    for (const std::string& bytes : { std::string(), std::string("FPX"), "FPX-" + LittleEndian<uint32_t>(0),
+                                      "FPX_" + LittleEndian<uint32_t>(0xFFFFFFFF),
+                                      "FPX_" + LittleEndian<uint32_t>(0x20000000) + std::string(100, 'x') }) {
         EXPECT_FALSE(Open(bytes)) << bytes.substr(0, 8);
         EXPECT_EQ(lastError, ENGINE_READ_PACK_FILE);
         EXPECT_EQ(packTable[0].handle, INVALID_HANDLE_VALUE);
@@ -93,7 +87,7 @@ TEST_F(PackFile, DamagedHeadersLeaveTheSlotFree)
 TEST_F(PackFile, WhatATruncatedPackLacksReadsAsZeros)
 {
     // The third entry is cut short after its first three bytes, which are \a's too.
-    ASSERT_TRUE(Open("FPX_" + Le32(3) + Entry("\\a", 32, 6) + Entry("\\far", 0xFFFFFF00, 4) + "abc"));
+    ASSERT_TRUE(Open("FPX_" + LittleEndian<uint32_t>(3) + Entry("\\a", 32, 6) + Entry("\\far", 0xFFFFFF00, 4) + "abc"));
     ASSERT_NE(packTable[0].Find(0x00636261), nullptr);
     EXPECT_EQ(packTable[0].Find(0x00636261)->size, 0u);
     EXPECT_EQ(Load("Dat\\Image/a"), std::string("abc") + std::string(3, '\0'));
@@ -103,7 +97,8 @@ TEST_F(PackFile, WhatATruncatedPackLacksReadsAsZeros)
 TEST_F(PackFile, FindsWhatLiesBeyondTwoGigabytesAndRefusesWhatNoPictureNeeds)
 {
     constexpr uint32_t FAR_OFF = 0x80000010; // most of the file is a hole
-    folder.Write("Dat/Image.xpf", "FPX_" + Le32(2) + Entry("\\far", FAR_OFF, 4) + Entry("\\huge", 32, 0xFFFFFFFF));
+    folder.Write("Dat/Image.xpf",
+                 "FPX_" + LittleEndian<uint32_t>(2) + Entry("\\far", FAR_OFF, 4) + Entry("\\huge", 32, 0xFFFFFFFF));
     std::filesystem::resize_file("Dat/Image.xpf", FAR_OFF);
     std::ofstream("Dat/Image.xpf", std::ios::binary | std::ios::app) << "here";
     ASSERT_TRUE(OpenPack("Dat\\Image.xpf"));

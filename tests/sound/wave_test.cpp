@@ -57,7 +57,7 @@ TEST_F(WaveTest, OpensOnlyWaveFilesWithAWholeFormat)
         { Wave(Chunk("fmt ", Format().substr(0, 15))), WAVE_ERR_NOT_WAVE, "format of 15 bytes" },
         { Wave(Chunk("fmt ", Format().substr(0, 12), 16)), WAVE_ERR_CANNOT_READ, "format cut off" },
         { Wave(Chunk("fmt ", Format(2), 18)), WAVE_ERR_CANNOT_READ, "cbSize cut off" },
-        { Wave(Chunk("fmt ", Format(2) + Bytes<uint16_t>(32) + "x")), WAVE_ERR_NOT_WAVE, "extra bytes cut off" },
+        { Wave(Chunk("fmt ", Format(2) + LittleEndian<uint16_t>(32) + "x")), WAVE_ERR_NOT_WAVE, "extra bytes cut off" },
         { Wave(Chunk("fmt ", Format()) + samples), 0, "format of 16 bytes" },
         { Wave(Chunk("odd ", "x") + Chunk("LIST", "") + Chunk("fmt ", Format())), 0, "odd and empty chunks before" },
     };
@@ -69,7 +69,7 @@ TEST_F(WaveTest, OpensOnlyWaveFilesWithAWholeFormat)
 
 TEST_F(WaveTest, KeepsTheExtraBytesOfAllFormatsButPcm)
 {
-    const std::string extra = Bytes<uint16_t>(22) + "0123456789abcdefghijkl";
+    const std::string extra = LittleEndian<uint16_t>(22) + "0123456789abcdefghijkl";
     ASSERT_EQ(Open(Wave(Chunk("fmt ", Format(1, 8) + extra))), 0);
     EXPECT_TRUE(format->nSamplesPerSec == 22050 && format->wBitsPerSample == 8 && format->cbSize == 0);
     ASSERT_EQ(Open(Wave(Chunk("fmt ", Format(2) + extra))), 0);

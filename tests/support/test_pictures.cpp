@@ -4,6 +4,7 @@
 #include "actors/status_bar_pictures.h"
 #include "game/pond_pictures.h"
 #include "menu/menu_pictures.h"
+#include "support/file_bytes.h"
 
 #include <turbojpeg.h>
 
@@ -65,39 +66,20 @@ std::string BlockJpeg(Noise& noise, int width, int height)
     return file;
 }
 
-void AppendNumber(std::string& file, uint32_t value, int bytes)
-{
-    for (int i = 0; i < bytes; ++i)
-        file += static_cast<char>(value >> 8 * i & 0xFF);
-}
-
 /// Blue, green and red of a pixel: a third black, a third white, which is the colour key and a mask's full opacity,
 /// and the rest any grey for a mask, any colour else.
 void AppendPixel(std::string& file, Noise& noise, bool isMask, bool isWhite)
 {
     const uint32_t kind = isWhite ? 1 : noise.Below(3);
     const uint32_t colour = kind == 0 ? 0 : kind == 1 ? 0xFFFFFF : noise.Below(1 << 16) * 0x101;
-    AppendNumber(file, isMask ? (colour & 0xFF) * 0x010101 : colour, 3);
+    file += LittleEndian(isMask ? (colour & 0xFF) * 0x010101 : colour).substr(0, 3);
 }
 
 /// 24 bits a pixel, bottom row first.
 std::string NoiseBmp(Noise& noise, int width, int height, bool isMask)
 {
-    constexpr uint32_t HEADER_BYTES = 54;
     const uint32_t rowBytes = (static_cast<uint32_t>(width) * 3 + 3) & ~3U;
-    const uint32_t pixelBytes = rowBytes * static_cast<uint32_t>(height);
-    std::string file = "BM";
-    AppendNumber(file, HEADER_BYTES + pixelBytes, 4);
-    AppendNumber(file, 0, 4);
-    AppendNumber(file, HEADER_BYTES, 4);
-    AppendNumber(file, 40, 4);
-    AppendNumber(file, static_cast<uint32_t>(width), 4);
-    AppendNumber(file, static_cast<uint32_t>(height), 4);
-    AppendNumber(file, 1, 2);
-    AppendNumber(file, 24, 2);
-    AppendNumber(file, 0, 4);
-    AppendNumber(file, pixelBytes, 4);
-    file.append(16, '\0');
+    std::string file = BmpHeader(width, height, 24, 0);
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x)
             AppendPixel(file, noise, isMask, y == 0 && x == width - 1); // a corner that tests can rely on
