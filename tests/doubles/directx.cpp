@@ -30,8 +30,6 @@ namespace
 template <typename Interface>
 struct Counted : Interface {
     Counted() { ++directX.objects; }
-    Counted(const Counted&) = delete;
-    Counted& operator=(const Counted&) = delete;
     virtual ~Counted() { --directX.objects; }
     ULONG Release() override
     {
@@ -98,53 +96,39 @@ struct DirectDraw : Counted<IDirectDraw> {
     {
         return Make<Surface>(surface, directX.Step("CreateSurface", { description->dwBackBufferCount }));
     }
-    HRESULT RestoreDisplayMode() override
-    {
-        directX.fullScreen = false;
-        return directX.Step("RestoreDisplayMode");
-    }
+    HRESULT RestoreDisplayMode() override { return directX.Step("RestoreDisplayMode"); }
     HRESULT SetCooperativeLevel(HWND, DWORD level) override { return directX.Step("SetCooperativeLevel", { level }); }
     HRESULT SetDisplayMode(DWORD width, DWORD height, DWORD bits) override
     {
-        const HRESULT result = directX.Step("SetDisplayMode", { width, height, bits });
-        directX.fullScreen = result == DD_OK;
-        return result;
+        return directX.Step("SetDisplayMode", { width, height, bits });
     }
 };
 
-struct SoundBuffer : Counted<IDirectSoundBuffer>, SoundBufferDouble {
-    explicit SoundBuffer(const DSBUFFERDESC& description) : number(static_cast<DWORD>(directX.buffers.size()))
+struct SoundBuffer : Counted<IDirectSoundBuffer> {
+    explicit SoundBuffer(const DSBUFFERDESC& description) : bytes(description.dwBufferBytes, 0)
     {
-        bytes.resize(description.dwBufferBytes);
         if ((description.dwFlags & DSBCAPS_PRIMARYBUFFER) == 0)
-            directX.buffers.push_back(this);
+            directX.buffers.push_back(&bytes);
     }
-    ~SoundBuffer() override { std::erase(directX.buffers, this); }
+    ~SoundBuffer() override { std::erase(directX.buffers, &bytes); }
     HRESULT Lock(DWORD, DWORD, LPVOID* first, DWORD* firstBytes, LPVOID*, DWORD*, DWORD) override
     {
         *first = bytes.data();
         *firstBytes = static_cast<DWORD>(bytes.size());
         return directX.Step("LockSound");
     }
-    HRESULT Play(DWORD, DWORD, DWORD flags) override
-    {
-        playing = true;
-        return directX.Step("Play", { number, flags });
-    }
+    HRESULT Play(DWORD, DWORD, DWORD flags) override { return directX.Step("Play", { number, flags }); }
     HRESULT SetCurrentPosition(DWORD position) override { return directX.Step("SetCurrentPosition", { position }); }
     HRESULT SetFormat(const WAVEFORMATEX* format) override
     {
         return directX.Step("SetFormat", { format->nSamplesPerSec });
     }
-    HRESULT Stop() override
-    {
-        playing = false;
-        return directX.Step("Stop", { number });
-    }
+    HRESULT Stop() override { return directX.Step("Stop", { number }); }
     HRESULT Unlock(LPVOID, DWORD, LPVOID, DWORD) override { return directX.Step("UnlockSound"); }
     HRESULT Restore() override { return directX.Step("RestoreSound"); }
 
-    DWORD number; ///< in order of creation
+    std::string bytes;
+    DWORD number = static_cast<DWORD>(directX.buffers.size()); ///< in order of creation
 };
 
 struct SoundDevice : Counted<IDirectSound> {

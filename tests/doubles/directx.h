@@ -8,12 +8,6 @@
 #include <string>
 #include <vector>
 
-/// A sound buffer of the double, as a test sees it.
-struct SoundBufferDouble {
-    std::string bytes;
-    bool playing = false;
-};
-
 /// Stands for DirectDraw and DirectSound in unit_tests: each of their steps is recorded and can be made to fail, which
 /// those of the platform layer cannot.
 struct DirectXDouble {
@@ -23,9 +17,8 @@ struct DirectXDouble {
     /// (sound buffers count from 0 in order of creation).
     std::string TakeCalls();
 
-    int objects = 0;                         ///< alive
-    std::vector<SoundBufferDouble*> buffers; ///< alive, in order of creation, the primary one excluded
-    bool fullScreen = false;                 ///< a display mode is set
+    int objects = 0;                   ///< alive
+    std::vector<std::string*> buffers; ///< the bytes of those alive, in order of creation, the primary one excluded
     bool surfacesLost = false;
     uint32_t greenMask = 0x07E0;  ///< of the surfaces
     std::vector<uint16_t> screen; ///< pixels of the last frame that was shown

@@ -40,34 +40,21 @@ TEST(Image, FailsToBeMadeInImpossibleSizesAndThenDrawsNothing)
 
 TEST(Image, ViewsAreCutToTheirParentAndShareItsPlanes)
 {
-    constexpr struct {
-        int x, y, width, height;
-        int anchorX, anchorY, seenWidth, seenHeight; ///< width 0: there is nothing to see
-    } views[] = {
-        { 10, 20, 30, 40, 0, 0, 30, 40 },
-        { -10, -20, 200, 200, -10, -20, 100, 100 },
-        { 50, 50, HUGE_SIZE, HUGE_SIZE, 0, 0, 50, 50 },
-        { 0, 100, 1, 1, 0, 0, 0, 0 },
-        { -20, 0, 20, 20, 0, 0, 0, 0 },
-        { -HUGE_SIZE - 1, 0, 5, 5, 0, 0, 0, 0 },
-    };
+    constexpr int besideIt[][2] = { { 0, 100 }, { -20, 0 }, { -HUGE_SIZE - 1, 0 } };
     CImage parent;
+    CImage view;
     MakeNumbered(parent, 100, 100);
-    for (const auto& [x, y, width, height, anchorX, anchorY, seenWidth, seenHeight] : views) {
-        SCOPED_TRACE(testing::Message() << x << ", " << y << ", " << width << " x " << height);
-        CImage view;
-        ASSERT_EQ(view.CreateView(parent, x, y, width, height), seenWidth > 0);
-        EXPECT_TRUE(view.x == anchorX && view.y == anchorY);
-        EXPECT_TRUE(view.width == seenWidth && view.height == seenHeight);
-        if (seenWidth == 0)
-            continue;
-        const int lastRow = y - anchorY + seenHeight - 1;
-        EXPECT_EQ(view.Row(seenHeight - 1), parent.Row(lastRow) + x - anchorX);
-        EXPECT_EQ(view.AlphaRow(seenHeight - 1), parent.AlphaRow(lastRow) + x - anchorX);
-        ASSERT_TRUE(view.Create(5, 5)); // its own plane from now on
-        view.Fill(0x1111);
-        EXPECT_EQ(parent.Row(lastRow)[x - anchorX], lastRow * 100 + x - anchorX);
-    }
+    for (const auto& [x, y] : besideIt)
+        EXPECT_FALSE(view.CreateView(parent, x, y, 20, 20)) << x << ", " << y;
+    ASSERT_TRUE(view.CreateView(parent, 50, -20, HUGE_SIZE, 30));
+    EXPECT_TRUE(view.x == 0 && view.y == -20 && view.width == 50 && view.height == 10);
+    EXPECT_TRUE(view.Row(9) == parent.Row(9) + 50 && view.AlphaRow(9) == parent.AlphaRow(9) + 50);
+    ASSERT_TRUE(view.CreateView(parent, -10, 50, 200, HUGE_SIZE));
+    EXPECT_TRUE(view.x == -10 && view.y == 0 && view.width == 100 && view.height == 50);
+    EXPECT_TRUE(view.Row(49) == parent.Row(99) && view.AlphaRow(49) == parent.AlphaRow(99));
+    ASSERT_TRUE(view.Create(5, 5)); // its own plane from now on
+    view.Fill(0x1111);
+    EXPECT_EQ(parent.Row(50)[0], 5000);
 }
 
 TEST(Image, DrawUsesItsArgumentsForTheCallOnlyAndNeverMoreThanThereIs)

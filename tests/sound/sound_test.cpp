@@ -62,7 +62,7 @@ TEST_F(SoundTest, LoadsEveryIdIntoABufferOfItsOwn)
     EXPECT_TRUE(SoundLoad(SOUND_RAIN_1, "a.wav") && SoundLoad(SOUND_RAIN_2, "a.wav"));
     EXPECT_TRUE(SoundLoad(SOUND_DROP, "a.wav") && SoundLoad(SOUND_DROP, "b.wav"));
     ASSERT_EQ(directX.buffers.size(), 3u) << "loading again replaces the buffer";
-    EXPECT_TRUE(directX.buffers[1]->bytes == "abcd" && directX.buffers[2]->bytes == "xyz");
+    EXPECT_TRUE(*directX.buffers[1] == "abcd" && *directX.buffers[2] == "xyz");
     directX.TakeCalls();
     EXPECT_TRUE(SoundPlay(SOUND_RAIN_2, true) && SoundPlay(SOUND_DROP, false));
     SoundSetMute(-1);
