@@ -1,9 +1,10 @@
 #include "bot.h"
 
 #include "actors/snake_rules.h"
-#include "support/test_game.h"
+#include "menu/settings.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <utility>
 #include <vector>
@@ -21,11 +22,20 @@ constexpr int OWN_MARGIN = 1; ///< cells that a body may grow on the way
 constexpr int OTHER_MARGIN = 3;
 constexpr int FEARED_STEPS = 2; ///< how far ahead of the other's head it keeps
 
+constexpr int DIRECTIONS = KEY_BINDINGS / 2;
+constexpr std::array<uint32_t, KEY_BINDINGS> defaultKeys = DefaultKeys();
+
+/// The player's four keys, in the order of directions.
+const uint32_t* KeysOf(int player)
+{
+    return defaultKeys.data() + player * DIRECTIONS;
+}
+
 int DirectionOfKey(int player, int key)
 {
-    const auto* keys = testKeys[player];
-    const auto* found = std::find(keys, keys + 4, static_cast<uint32_t>(key));
-    return found == keys + 4 ? NO_DIRECTION : static_cast<int>(found - keys);
+    const uint32_t* keys = KeysOf(player);
+    const uint32_t* found = std::find(keys, keys + DIRECTIONS, static_cast<uint32_t>(key));
+    return found == keys + DIRECTIONS ? NO_DIRECTION : static_cast<int>(found - keys);
 }
 
 /// The cell whose grid point a segment stands on or reaches next.
@@ -86,7 +96,7 @@ int Bot::KeyFor(int player, int frame)
         wanted = direction; // nowhere to go: a waiting snake starts nevertheless, it is safe at first
     if (wanted == direction && !snake.isWaiting)
         return 0;
-    return static_cast<int>(testKeys[player][wanted]);
+    return static_cast<int>(KeysOf(player)[wanted]);
 }
 
 int Bot::WantedDirection(int player)
