@@ -35,8 +35,9 @@ expect_error() {
 }
 
 # run_until SIGNAL [COMMAND]: from the menu on, the command; then the program is asked to close, as the end of a session
-# or of its terminal does.
+# or of its terminal does, over and over.
 run_until() {
+    rm -f "$XDG_CONFIG_HOME/Tervalis/settings.toml"
     ./tervalis 2>errors &
     local pid=$!
     until grep -qsxF "CSectionMenu::SectionBegin" Log.txt; do
@@ -44,8 +45,9 @@ run_until() {
         sleep 0.1
     done
     "${2:-true}"
-    kill "-$1" $pid
+    while kill "-$1" $pid 2>/dev/null; do sleep 0.01; done
     wait $pid || fail "$PWD ended with $?"
+    [ -s "$XDG_CONFIG_HOME/Tervalis/settings.toml" ] || fail "$PWD did not store its settings"
     grep -qxF "CGame::Destroy" Log.txt || fail "$PWD did not log its end"
 }
 

@@ -56,8 +56,8 @@ void CloseInChild()
 
 [[maybe_unused]] const int forkHandler = pthread_atfork(nullptr, nullptr, CloseInChild);
 
-/// Best first. Beside the settings, so that whatever session a copy runs in, no other overwrites what it stores. Where
-/// these cannot be written nothing is overwritten, and the lock goes where other short-lived files do.
+/// Best first. Beside the settings, so that whatever session a copy runs in, no other overwrites what it stores; else in
+/// a place that all sessions of a user share; last in the session's own.
 std::vector<std::string> LockPaths(std::string name)
 {
     std::ranges::replace_if(
@@ -67,12 +67,12 @@ std::vector<std::string> LockPaths(std::string name)
         MakeFolders(folder);
         paths.push_back(folder + "/instance.lock");
     }
-    if (const std::string folder = FolderFromEnvironment("XDG_RUNTIME_DIR"); !folder.empty())
-        paths.push_back(folder + "/" + name + ".lock");
     const std::string shared = "/" + name + "-" + std::to_string(getuid()) + ".lock"; // with other users' files
     for (const std::string& folder : { FolderFromEnvironment("TMPDIR"), std::string("/tmp") })
         if (!folder.empty())
             paths.push_back(folder + shared);
+    if (const std::string folder = FolderFromEnvironment("XDG_RUNTIME_DIR"); !folder.empty())
+        paths.push_back(folder + "/" + name + ".lock");
     return paths;
 }
 

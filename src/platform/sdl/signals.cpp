@@ -1,6 +1,7 @@
 #include "platform/sdl/signals.h"
 
 #include <csignal>
+#include <initializer_list>
 
 SignalHandler SetSignalHandler(int signal, SignalHandler handler)
 {
@@ -8,6 +9,12 @@ SignalHandler SetSignalHandler(int signal, SignalHandler handler)
     if (before == SIG_IGN)
         std::signal(signal, SIG_IGN);
     return before;
+}
+
+void IgnoreEndingSignals()
+{
+    for (const int signal : { SIGTERM, SIGINT, SIGHUP })
+        std::signal(signal, SIG_IGN);
 }
 
 void EndOnHangUp()

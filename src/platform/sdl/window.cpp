@@ -57,6 +57,7 @@ void CloseWindow()
         SDL_DestroyWindow(nativeWindow.handle);
     nativeWindow = {};
     ForgetEvents();
+    IgnoreEndingSignals(); // which SDL would let end the program at once from here on
     SDL_QuitSubSystem(SDL_INIT_VIDEO);
 }
 

@@ -78,15 +78,13 @@ TEST_F(MutexTest, GoesWhereALockCanBeMade)
     const std::string temporary = "tmp/Test-" + std::to_string(getuid()) + ".lock";
     const struct {
         const char* config;
-        const char* runtime;
         std::string lock;
         const char* why;
     } cases[] = {
-        { "config", "run", "config/Test/instance.lock", "beside the settings" },
-        { "victim/none", "run", "run/Test.lock", "settings cannot be stored" },
-        { "victim/none", "none", temporary, "the session has no folder" },
-        { "linked", "run", "run/Test.lock", "a link that somebody laid" },
-        { "named", "none", temporary, "a second name of another file" },
+        { "config", "config/Test/instance.lock", "beside the settings" },
+        { "victim/none", temporary, "settings cannot be stored" },
+        { "linked", temporary, "a link that somebody laid" },
+        { "named", temporary, "a second name of another file" },
     };
     folder.Write("victim", "kept");
     fs::create_directories("linked/Test");
@@ -95,10 +93,11 @@ TEST_F(MutexTest, GoesWhereALockCanBeMade)
     fs::create_hard_link("victim", "named/Test/instance.lock");
     for (const auto& row : cases) {
         UseFolder("XDG_CONFIG_HOME", row.config);
-        UseFolder("XDG_RUNTIME_DIR", row.runtime);
+        UseFolder("XDG_RUNTIME_DIR", "run");
         const HANDLE mutex = CreateMutexA(nullptr, FALSE, "Test");
         EXPECT_TRUE(fs::exists(row.lock)) << row.why;
-        EXPECT_EQ(Try(), ERROR_ALREADY_EXISTS) << row.why;
+        UseFolder("XDG_RUNTIME_DIR", "run2");
+        EXPECT_EQ(Try(), ERROR_ALREADY_EXISTS) << "another session: " << row.why;
         ASSERT_TRUE(CloseHandle(mutex)) << row.why;
         EXPECT_FALSE(fs::exists(row.lock)) << "locks pile up: " << row.why;
     }
@@ -108,11 +107,14 @@ TEST_F(MutexTest, GoesWhereALockCanBeMade)
 TEST_F(MutexTest, SaysSoWhereNoneCanBeMade)
 {
     folder.Write("file", "");
-    for (const char* variable : { "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "TMPDIR" })
+    for (const char* variable : { "XDG_CONFIG_HOME", "TMPDIR" })
         UseFolder(variable, "file/none");
     const std::string name = "Test" + std::to_string(getpid());
     const fs::path last = "/tmp/" + name + "-" + std::to_string(getuid()) + ".lock";
     fs::create_directory(last); // in the way
+    CloseHandle(CreateMutexA(nullptr, FALSE, name.c_str()));
+    EXPECT_EQ(GetLastError(), ERROR_SUCCESS) << "in the session's own folder";
+    UseFolder("XDG_RUNTIME_DIR", "file/none");
     testing::internal::CaptureStderr();
     EXPECT_EQ(CreateMutexA(nullptr, FALSE, name.c_str()), nullptr);
     const std::string said = testing::internal::GetCapturedStderr();
