@@ -19,6 +19,7 @@ file(GLOB BASE_SOURCES CONFIGURE_DEPENDS src/platform/posix/*.cpp)
 add_library(tervalis_platform_base STATIC ${BASE_SOURCES})
 target_include_directories(tervalis_platform_base PUBLIC src PRIVATE ${TOMLPLUSPLUS_INCLUDE_DIR})
 target_link_libraries(tervalis_platform_base PRIVATE PkgConfig::FREETYPE PkgConfig::FONTCONFIG)
+target_compile_definitions(tervalis_platform_base PRIVATE _FILE_OFFSET_BITS=64) # files beyond 2 GB on 32-bit systems
 
 file(GLOB SDL_SOURCES CONFIGURE_DEPENDS src/platform/sdl/*.cpp)
 list(FILTER SDL_SOURCES EXCLUDE REGEX "/main\\.cpp$")
