@@ -24,7 +24,7 @@ target_compile_definitions(tervalis_platform_base PRIVATE _FILE_OFFSET_BITS=64) 
 file(GLOB SDL_SOURCES CONFIGURE_DEPENDS src/platform/sdl/*.cpp)
 list(FILTER SDL_SOURCES EXCLUDE REGEX "/main\\.cpp$")
 add_library(tervalis_platform STATIC ${SDL_SOURCES})
-target_link_libraries(tervalis_platform PUBLIC tervalis_platform_base PkgConfig::SDL2)
+target_link_libraries(tervalis_platform PUBLIC tervalis_platform_base PkgConfig::SDL2 PRIVATE tervalis_common)
 
 # The icon, which Windows programs carry as a resource, as an array's elements.
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS packaging/tervalis.ico)

@@ -37,8 +37,8 @@ void ProgramFixture::TearDown()
 
 uint16_t ProgramFixture::WindowPixel(int x, int y)
 {
-    const SDL_Rect place = { x, y, 1, 1 };
-    uint32_t pixel = 0;
-    SDL_RenderReadPixels(SDL_GetRenderer(nativeWindow.handle), &place, SDL_PIXELFORMAT_ARGB8888, &pixel, 4);
+    const SDL_Surface* const screen = SDL_GetWindowSurface(nativeWindow.handle);
+    const uint8_t* const row = static_cast<const uint8_t*>(screen->pixels) + ptrdiff_t{ y } * screen->pitch;
+    const uint32_t pixel = reinterpret_cast<const uint32_t*>(row)[x];
     return Rgb565(pixel >> 16 & 0xF8, pixel >> 8 & 0xF8, pixel & 0xF8);
 }

@@ -67,7 +67,7 @@ void HandleWindowEvent(const SDL_WindowEvent& event)
         return KeepClientSize();
     case SDL_WINDOWEVENT_SIZE_CHANGED:
     case SDL_WINDOWEVENT_EXPOSED:
-        return nativeWindow.view.Show();
+        return nativeWindow.view.ShowAll();
     default:
         break;
     }

@@ -17,6 +17,6 @@ bool IsWatched()
 void PresentFrame()
 {
     if (IsWatched())
-        nativeWindow.view.Show();
+        nativeWindow.view.ShowChanges();
     EndFrameOfMessages();
 }

@@ -79,7 +79,7 @@ void ShowFirstTime(NativeWindow& window)
     SDL_PumpEvents();
     // Its real frame is known now, and the client area can go to where it goes after every later change of mode.
     SDL_SetWindowPosition(window.handle, window.clientPosition.x, window.clientPosition.y);
-    window.view.Show();
+    window.view.ShowAll();
 }
 
 /// The release of a button goes elsewhere once the window has gone, SDL then takes the button as held, and the next
@@ -209,6 +209,6 @@ BOOL AdjustWindowRectEx(RECT* rectangle, DWORD style, BOOL, DWORD)
 
 BOOL RedrawWindow(HWND, const RECT*, HRGN, UINT)
 {
-    nativeWindow.view.Show();
+    nativeWindow.view.ShowAll();
     return TRUE;
 }

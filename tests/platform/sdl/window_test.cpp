@@ -1,6 +1,7 @@
 #include "gfx/display.h"
 #include "gfx/image.h"
 #include "platform/gdi.h"
+#include "platform/sdl/frame_fit.h"
 #include "platform/sdl/native_window.h"
 #include "platform/sdl/window_fixture.h"
 
@@ -26,14 +27,27 @@ protected:
         return received.back().lParam;
     }
     /// As 0xRRGGBB, each channel in the five bits that every conversion keeps.
-    static uint32_t ScreenPixel(int x, int y)
+    static uint32_t ScreenPixel(int x, int y) { return *ScreenMemory(x, y) & 0xF8F8F8; }
+    static uint32_t* ScreenMemory(int x, int y)
     {
-        const SDL_Rect place = { x, y, 1, 1 };
-        uint32_t pixel = 0;
-        SDL_RenderReadPixels(SDL_GetRenderer(nativeWindow.handle), &place, SDL_PIXELFORMAT_ARGB8888, &pixel, 4);
-        return pixel & 0xF8F8F8;
+        const SDL_Surface* const screen = SDL_GetWindowSurface(nativeWindow.handle);
+        return reinterpret_cast<uint32_t*>(static_cast<uint8_t*>(screen->pixels) + ptrdiff_t{ y } * screen->pitch) + x;
     }
 };
+
+/// With frames scaled by ourselves, and by SDL's renderer.
+class EachWayWindowTest : public WindowTest, public testing::WithParamInterface<const char*>
+{
+protected:
+    void SetUp() override
+    {
+        setenv("TERVALIS_PRESENT", GetParam(), 1);
+        WindowTest::SetUp();
+        EXPECT_EQ(SDL_GetRenderer(nativeWindow.handle) != nullptr, GetParam() == "renderer"s);
+        unsetenv("TERVALIS_PRESENT");
+    }
+};
+INSTANTIATE_TEST_SUITE_P(Platform, EachWayWindowTest, testing::Values("software", "renderer"));
 
 TEST(FrameView, ShowsTheFrameAsLargeAsItFits)
 {
@@ -73,7 +87,7 @@ TEST_F(WindowTest, ShowsThePartThatLiesInItAndNothingNewWithoutTheFocus)
     EXPECT_EQ(ScreenPixel(5, 5), 0xF80000u) << "the last frame when it is uncovered";
 }
 
-TEST_F(WindowTest, ScalesFrameAndMouseToTheScreenAndIsGivenBack)
+TEST_P(EachWayWindowTest, ScalesFrameAndMouseToTheScreenAndIsGivenBack)
 {
     isWindowed = false;
     ASSERT_TRUE(DisplaySetMode(window, 640, 480, false));
@@ -91,6 +105,46 @@ TEST_F(WindowTest, ScalesFrameAndMouseToTheScreenAndIsGivenBack)
     ASSERT_TRUE(DisplaySetMode(window, 640, 480, true));
     EXPECT_EQ(Mapped(512, 384), MAKELPARAM(512, 384)) << "the window has its size again";
     EXPECT_TRUE(GetWindowLongA(window, GWL_STYLE) & WS_VISIBLE);
+}
+
+TEST_F(WindowTest, ScalesOnlyRowsThatHaveChangedUnlessItsMemoryIsNew)
+{
+    constexpr uint32_t MARK = 0x123456;
+    isWindowed = false;
+    ASSERT_TRUE(DisplaySetMode(window, 640, 480, false)); // on a screen 1.6 times as wide
+    CImage picture;
+    ASSERT_TRUE(picture.Create(640, 480));
+    std::fill_n(picture.pixels, 640 * 480, RED);
+    DisplayPresent(picture);
+    for (int y = 0; y < 768; ++y)
+        *ScreenMemory(500, y) = MARK;
+    picture.Row(100)[639] = BLUE;
+    DisplayPresent(picture);
+    std::vector<int> scaled;
+    for (int y = 0; y < 768; ++y)
+        if (*ScreenMemory(500, y) != MARK)
+            scaled.push_back(y);
+    EXPECT_EQ(scaled, (std::vector<int>{ 160, 161 })) << "of 1.6 pixels for each row";
+
+    isWindowed = true;
+    ASSERT_TRUE(DisplaySetMode(window, 640, 480, true));
+    SDL_SetWindowSize(nativeWindow.handle, 700, 480);
+    DisplayPresent(picture);
+    EXPECT_EQ(ScreenPixel(29, 0), 0x000000u);
+    EXPECT_EQ(ScreenPixel(30, 0), 0xF80000u);
+}
+
+TEST_F(WindowTest, SaysOnceThatItCannotShowFrames)
+{
+    SDL_SetWindowSize(nativeWindow.handle, 100'000, 100'000); // no memory is that large
+    testing::internal::CaptureStderr();
+    CImage picture;
+    ASSERT_TRUE(picture.Create(1, 1));
+    for (int i = 0; i < 2; ++i)
+        EXPECT_TRUE(picture.DrawToDC(GetDC(window), 0, 0, 0, 0, 1, 1)) << "it is kept";
+    const std::string said = testing::internal::GetCapturedStderr();
+    EXPECT_EQ(said.find("Test: cannot show frames any more: "), 0u) << said;
+    EXPECT_EQ(std::ranges::count(said, '\n'), 1) << said;
 }
 
 TEST_F(WindowTest, UndoesWhatTheBorderDoesUnlessTheWindowManagerInsists)

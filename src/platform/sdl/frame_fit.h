@@ -1,0 +1,9 @@
+#pragma once
+
+#include <SDL.h>
+
+/// Where a frame lies in an area (pixels): as large as fits with its shape kept, in the middle.
+SDL_Rect FitFrame(SDL_Point frame, SDL_Point area);
+
+/// The whole factor nearest to the one by which a frame of that width is shown, at least 1.
+int NearestWholeFactor(int frameWidth, int shownWidth);

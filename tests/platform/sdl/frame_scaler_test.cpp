@@ -1,0 +1,96 @@
+#include "platform/sdl/frame_fit.h"
+#include "platform/sdl/frame_scaler.h"
+#include "support/instruction_sets.h"
+
+#include <SDL.h>
+#include <algorithm>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <random>
+#include <vector>
+
+namespace
+{
+constexpr SDL_Point FRAME = { 37, 21 };
+
+/// Where the middle of a pixel of a picture lies on the magnified frame, in 256ths of a pixel.
+int Place(int i, int magnified, int shown)
+{
+    return std::clamp(static_cast<int>(std::lround((i + 0.5) * magnified / shown * 256 - 128)), 0,
+                      magnified * 256 - 256);
+}
+
+int Between(int a, int b, int weight)
+{
+    return (a * (256 - weight) + b * weight + 128) / 256;
+}
+
+/// A pixel of the picture by the plainest rule: linearly out of the frame magnified by a whole factor.
+uint32_t Expected(const std::vector<uint32_t>& frame, SDL_Point picture, int x, int y)
+{
+    const int factor = NearestWholeFactor(FRAME.x, picture.x);
+    const int column = Place(x, FRAME.x * factor, picture.x);
+    const int row = Place(y, FRAME.y * factor, picture.y);
+    const auto channel = [&](int dx, int dy, int shift) {
+        const int fromX = std::min(column / 256 + dx, FRAME.x * factor - 1) / factor;
+        const int fromY = std::min(row / 256 + dy, FRAME.y * factor - 1) / factor;
+        return static_cast<int>(frame[static_cast<size_t>(fromY * FRAME.x + fromX)] >> shift & 0xFF);
+    };
+    uint32_t pixel = 0;
+    for (int shift = 0; shift < 32; shift += 8) {
+        const int upper = Between(channel(0, 0, shift), channel(1, 0, shift), column % 256);
+        const int lower = Between(channel(0, 1, shift), channel(1, 1, shift), column % 256);
+        pixel |= static_cast<uint32_t>(Between(upper, lower, row % 256)) << shift;
+    }
+    return pixel;
+}
+
+/// Red and blue are even steps to 255, green is as SDL has it; all 65536 pixels.
+TEST(FrameScaler, WidensPixelsAsSdlDoes)
+{
+    std::vector<uint16_t> pixels(65536);
+    std::ranges::generate(pixels, [next = 0]() mutable { return static_cast<uint16_t>(next++); });
+    std::vector<uint32_t> expected(pixels.size());
+    SDL_ConvertPixels(256, 256, SDL_PIXELFORMAT_RGB565, pixels.data(), 512, SDL_PIXELFORMAT_ARGB8888, expected.data(),
+                      1024);
+    OnEveryInstructionSet([&] {
+        std::vector<uint32_t> shown(pixels.size());
+        CFrameScaler scaler;
+        scaler.SetSizes({ 256, 256 }, { 256, 256 });
+        scaler.ScaleRows(pixels.data(), 0, 256, reinterpret_cast<uint8_t*>(shown.data()), 1024);
+        EXPECT_EQ(shown, expected);
+    });
+}
+
+TEST(FrameScaler, MagnifiesSharplyAndFromThereLinearly)
+{
+    constexpr SDL_Point pictures[] = {
+        { 37, 21 }, { 74, 42 }, { 185, 105 }, // whole factors
+        { 83, 47 }, { 91, 52 }, { 145, 82 },  // a little more than 2, a little less than 2.5, than 4
+        { 30, 17 }, { 5, 3 },   { 1, 1 },     // smaller
+    };
+    constexpr size_t GAP = 3;
+    constexpr uint32_t GUARD = 0x12345678;
+    std::mt19937 random(1);
+    std::vector<uint16_t> pixels(static_cast<size_t>(FRAME.x) * FRAME.y);
+    std::ranges::generate(pixels, [&random] { return static_cast<uint16_t>(random()); });
+    std::vector<uint32_t> frame(pixels.size());
+    SDL_ConvertPixels(FRAME.x, FRAME.y, SDL_PIXELFORMAT_RGB565, pixels.data(), FRAME.x * 2, SDL_PIXELFORMAT_ARGB8888,
+                      frame.data(), FRAME.x * 4);
+    for (const SDL_Point picture : pictures) {
+        const size_t pitch = static_cast<size_t>(picture.x) + GAP;
+        std::vector<uint32_t> expected(pitch * static_cast<size_t>(picture.y), GUARD);
+        for (int y = 0; y < picture.y; ++y)
+            for (int x = 0; x < picture.x; ++x)
+                expected[static_cast<size_t>(y) * pitch + static_cast<size_t>(x)] = Expected(frame, picture, x, y);
+        OnEveryInstructionSet([&] {
+            std::vector<uint32_t> shown(expected.size(), GUARD);
+            CFrameScaler scaler;
+            scaler.SetSizes(FRAME, picture);
+            scaler.ScaleRows(pixels.data(), 0, picture.y, reinterpret_cast<uint8_t*>(shown.data()),
+                             static_cast<int>(pitch * 4));
+            EXPECT_EQ(shown, expected) << picture.x;
+        });
+    }
+}
+}
