@@ -8,8 +8,9 @@
 
 namespace
 {
-/// Far more than any picture needs: a damaged pack must not ask for gigabytes.
-constexpr uint32_t MAX_FILE_BYTES = 256u << 20;
+/// Four times what a picture of the whole screen needs at most: a damaged pack must not ask for gigabytes, nor a file
+/// stall the start.
+constexpr uint32_t MAX_FILE_BYTES = 4u << 20;
 
 /// A file on disk, closed when it goes out of scope.
 struct LooseFile {

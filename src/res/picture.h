@@ -6,8 +6,8 @@
 
 // What the decoders share.
 
-/// Far more than the screen holds: a damaged header must not ask for gigabytes.
-constexpr int64_t MAX_PICTURE_PIXELS = int64_t{ 1 } << 24;
+/// Three times what the screen holds: a damaged header must not ask for gigabytes.
+constexpr int64_t MAX_PICTURE_PIXELS = int64_t{ 1 } << 20;
 
 /// A fresh, black image. False: ENGINE_CREATE_IMAGE.
 bool CreatePicture(CImage& image, int width, int height);

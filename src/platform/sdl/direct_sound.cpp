@@ -8,7 +8,7 @@
 
 namespace
 {
-constexpr DWORD LARGEST_BUFFER = 0x0FFFFFFF;
+constexpr DWORD LARGEST_BUFFER = 32 << 20; ///< bytes; the game's longest sound takes a sixth of it
 constexpr DWORD LOWEST_RATE = 4000;
 constexpr DWORD HIGHEST_RATE = 192000;
 

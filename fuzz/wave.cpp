@@ -1,0 +1,41 @@
+// A wave file, loaded into a voice and mixed.
+
+#include "platform/sdl/sound_output.h"
+#include "sound/sound.h"
+#include "target.h"
+
+// The output without a device: what the voices make is asked for below.
+namespace
+{
+Mixer* mixer = nullptr;
+}
+
+bool SoundOutput::Open()
+{
+    ::mixer = &mixer;
+    return true;
+}
+
+SoundOutput::~SoundOutput() {}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    static const InputFile file;
+    static const bool isReady = [] {
+        SoundInit(nullptr);
+        return mixer != nullptr && std::atexit(SoundRelease) == 0;
+    }();
+    Require(isReady);
+    file.Write(data, size);
+    if (!SoundLoad(SOUND_EAT, file.Path()))
+        return 0;
+    int16_t samples[2 * 512];
+    for (const bool loop : { false, true }) {
+        SoundPlay(SOUND_EAT, loop);
+        for (int part = 0; part < 4; ++part)
+            mixer->Mix(samples, 512, part != 2);
+    }
+    SoundStop(SOUND_EAT);
+    mixer->Mix(samples, 512, true);
+    return 0;
+}
