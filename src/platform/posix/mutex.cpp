@@ -56,8 +56,8 @@ void CloseInChild()
 
 [[maybe_unused]] const int forkHandler = pthread_atfork(nullptr, nullptr, CloseInChild);
 
-/// Best first. Beside the settings, so that whatever session a copy runs in, no other overwrites what it stores; else in
-/// a place that all sessions of a user share; last in the session's own.
+/// Best first. Beside the settings, so that whatever session a copy runs in, no other overwrites what it stores; else
+/// in a place that all sessions of a user share; last in the session's own.
 std::vector<std::string> LockPaths(std::string name)
 {
     std::ranges::replace_if(
