@@ -15,6 +15,7 @@ find_path(TOMLPLUSPLUS_INCLUDE_DIR toml++/toml.h REQUIRED) # its headers only: s
 pkg_check_modules(HWY REQUIRED IMPORTED_TARGET libhwy)
 target_link_libraries(tervalis_common INTERFACE PkgConfig::TURBOJPEG PkgConfig::HWY)
 
+include(cmake/layout.cmake)
 file(GLOB BASE_SOURCES CONFIGURE_DEPENDS src/platform/posix/*.cpp)
 add_library(tervalis_platform_base STATIC ${BASE_SOURCES})
 target_include_directories(tervalis_platform_base PUBLIC src PRIVATE ${TOMLPLUSPLUS_INCLUDE_DIR})

@@ -1,28 +1,47 @@
 #include "app/log.h"
 
+#include "platform/kernel.h"
+#include "platform/log_file.h"
+
 #include <cstdio>
 
 namespace
 {
-constexpr char LOG_FILE[] = "Log.txt";
+/// Null before the start: the current folder is then the user's, in which a file of that name may be anything.
+const char* logFile = nullptr;
 
-/// Before that the current folder is the user's, in which a file of that name may be anything.
-bool started = false;
+bool reported = false;
+
+/// One line instead of all that will be missing: the game goes on without its log.
+void ReportOnce()
+{
+    if (reported)
+        return;
+    reported = true;
+    char line[MAX_PATH + 64];
+    std::snprintf(line, sizeof line, "%s: Can not write the log\n", logFile);
+    OutputDebugStringA(line);
+}
+
+/// `end` follows the text. A full disk shows when the file is closed.
+void Write(const char* mode, const char* text, const char* end)
+{
+    std::FILE* file = std::fopen(logFile, mode);
+    if (file)
+        std::fprintf(file, "%s%s", text, end);
+    if (!file || std::fclose(file) != 0)
+        ReportOnce();
+}
 }
 
 void WriteLog(const char* text)
 {
-    if (!started || !text)
-        return;
-    if (std::FILE* file = std::fopen(LOG_FILE, "a")) {
-        std::fprintf(file, "%s\n", text);
-        std::fclose(file);
-    }
+    if (logFile && text)
+        Write("a", text, "\n");
 }
 
 void ClearLog()
 {
-    started = true;
-    if (std::FILE* file = std::fopen(LOG_FILE, "w"))
-        std::fclose(file);
+    logFile = LogFile();
+    Write("w", "", "");
 }

@@ -48,7 +48,10 @@ BOOL CloseHandle(HANDLE handle);
 /// The running program's full path into `path`; returns its length, 0 on failure.
 DWORD GetModuleFileNameA(HMODULE module, LPSTR path, DWORD size);
 
+/// Goes to the program's folder: that of its data, which for an installed program is another.
 BOOL SetCurrentDirectoryA(LPCSTR path);
+/// The current folder into `path`; returns its length, 0 on failure.
+DWORD GetCurrentDirectoryA(DWORD size, LPSTR path);
 
 /// Opens an existing file for reading. Both slashes separate; a name that is not found as written is looked
 /// for without regard to letter case. INVALID_HANDLE_VALUE on failure; a folder is not a file.

@@ -6,7 +6,9 @@
 
 void ReportFile(const char* path, const char* problem)
 {
-    char line[256];
-    std::snprintf(line, sizeof line, "%s: %s\n", path, problem);
+    char folder[MAX_PATH] = "?";
+    GetCurrentDirectoryA(sizeof folder, folder);
+    char line[MAX_PATH + 256];
+    std::snprintf(line, sizeof line, "%s: %s (in %s)\n", path, problem, folder);
     OutputDebugStringA(line);
 }

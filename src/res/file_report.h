@@ -1,4 +1,5 @@
 #pragma once
 
-/// Tells whoever watches the program's output what was wrong with which file: the message box names none.
+/// Tells whoever watches the program's output what was wrong with which file, and in which folder it was looked for:
+/// the message box names none.
 void ReportFile(const char* path, const char* problem);

@@ -1,14 +1,17 @@
 #!/usr/bin/env bash
 # Starts the real program on SDL's drivers that need neither display nor sound card, in folders with and without its
-# data, and checks how it ends.
-#     start_test.sh FOLDER_OF_THE_PROGRAM FOLDER_OF_THE_PICTURES PACK_BUILDER
+# data, installed and not, and checks how it ends.
+#     start_test.sh FOLDER_OF_THE_BUILD FOLDER_OF_THE_PICTURES PACK_BUILDER LIST_OF_INSTALLED_FILES
 set -u
 program=$1
 pictures=$2
 builder=$3
+installed=$4
+log=Log.txt
+began=CSectionMenu::SectionBegin
 folder=$(mktemp -d)
 trap 'kill $(jobs -p) 2>/dev/null; rm -rf "$folder"' EXIT
-export SDL_VIDEODRIVER=dummy SDL_AUDIODRIVER=dummy XDG_CONFIG_HOME=$folder/config XDG_RUNTIME_DIR=$folder/run
+export SDL_VIDEODRIVER=dummy SDL_AUDIODRIVER=dummy XDG_CONFIG_HOME=$folder/config XDG_RUNTIME_DIR=$folder/run XDG_STATE_HOME=$folder/state
 mkdir -m 700 "$XDG_RUNTIME_DIR"
 
 fail() {
@@ -30,25 +33,30 @@ new_copy() {
 expect_error() {
     timeout 60 ./tervalis 2>errors || fail "$PWD ended with $?"
     grep -qF "Error: $1" errors || fail "$PWD said: $(cat errors)"
-    grep -qxF "$2: $1" errors || fail "$PWD did not name $2"
-    grep -qxF "CGame::Destroy" Log.txt || fail "$PWD did not log its end"
+    grep -qxF "$2: $1 (in $PWD)" errors || fail "$PWD did not name $2"
+    grep -qxF "CGame::Destroy" "$log" || fail "$PWD did not log its end"
 }
 
-# run_until SIGNAL [COMMAND]: from the menu on, the command; then the program is asked to close, as the end of a session
+# run_until SIGNAL [COMMAND]: once it has begun, the command; then the program is asked to close, as the end of a session
 # or of its terminal does, over and over.
 run_until() {
     rm -f "$XDG_CONFIG_HOME/Tervalis/settings.toml"
     ./tervalis 2>errors &
     local pid=$!
-    until grep -qsxF "CSectionMenu::SectionBegin" Log.txt; do
-        kill -0 $pid 2>/dev/null || fail "$PWD did not reach its menu"
+    until grep -qsxF "$began" "$log"; do
+        kill -0 $pid 2>/dev/null || fail "$PWD did not begin"
         sleep 0.1
     done
     "${2:-true}"
     while kill "-$1" $pid 2>/dev/null; do sleep 0.01; done
     wait $pid || fail "$PWD ended with $?"
+}
+
+# expect_kept: nothing was said, and the settings and the log's end are stored.
+expect_kept() {
+    [ ! -s errors ] || fail "$PWD said: $(cat errors)"
     [ -s "$XDG_CONFIG_HOME/Tervalis/settings.toml" ] || fail "$PWD did not store its settings"
-    grep -qxF "CGame::Destroy" Log.txt || fail "$PWD did not log its end"
+    grep -qxF "CGame::Destroy" "$log" || fail "$PWD did not log its end"
 }
 
 # A copy that cannot start, from a folder of the user's, leaves that folder and the other copy's log as they were.
@@ -76,11 +84,36 @@ expect_error "Can not load image" 'Dat\Image/stone.jpg'
 new_copy 'pack\ed' packed # a back slash is a letter here
 cp -r "$program/Wav" .
 run_until HUP
-[ ! -s errors ] || fail "the program said: $(cat errors)"
+expect_kept
 check_pack_builder
 new_copy loose loose
 run_until TERM start_elsewhere
+grep -q 'Can not load sound' errors || fail "nobody hears of the missing sounds"
 [ ! -s "$folder/said" ] || fail "a second copy said: $(cat "$folder/said")"
 # What SDL loads for a display leaves memory behind, which is none of ours.
 ASAN_OPTIONS=detect_leaks=0 SDL_VIDEODRIVER=x11 DISPLAY=:nowhere start_elsewhere
+
+# Installed for all users, then moved as a whole: the log goes to the user's folder, even for one who may write to all.
+DESTDIR=$folder/stage cmake --install "$program" --prefix /usr >/dev/null || fail "cannot install"
+for list in 'cd stage/usr && find ! -type d -printf "%P\n"' "sed 's|^/usr/||' $program/install_manifest.txt"; do
+    (cd "$folder" && eval "$list" | LC_ALL=C sort | diff "$installed" -) || fail "other files were installed"
+done
+mv "$folder/stage/usr" "$folder/moved" && cd "$folder/moved/bin" || exit 1
+log=$folder/state/Tervalis/Log.txt
+run_until TERM
+expect_kept
+[ "$(ls)" = $'errors\ntervalis' ] || fail "a log lies among the programs"
+
+# Nothing can be kept: said once each, and played all the same.
+mkdir "$folder/full" && touch "$folder/full/Tervalis"
+ln -sf /dev/full "$log"
+said="$log: Can not write the log"
+began="$folder/full/Tervalis/settings.toml: Can not keep the settings"
+XDG_CONFIG_HOME=$folder/full log=errors run_until TERM
+[ "$(cat errors)" = "$said"$'\n'"$began" ] || fail "where nothing can be kept it said: $(cat errors)"
+
+rm -r ../share "$log"
+expect_error "Can not load file" 'Dat\Image/MainMenu.jpg'
+grep -q "^Tervalis: Dat/Image.xpf is missing; looked for it in $PWD/ $folder/moved/share/tervalis /" errors ||
+    fail "an incomplete installation said: $(cat errors)"
 echo "All starts end as they should."

@@ -5,11 +5,13 @@
 #include "platform/posix/toml.h"
 #include "platform/posix/user_folders.h"
 
+#include <cstdio>
 #include <cstring>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 /// An open key: the values of its file, and whether they differ from it.
 struct HKEY__ {
@@ -30,9 +32,19 @@ struct Value {
     std::string bytes;
 };
 
+bool reported = false;
+
 LONG Code(DWORD code)
 {
     return static_cast<LONG>(code);
+}
+
+/// Hands the result on. The first failure is told: the game is played on, but what is set in it will be lost.
+LONG Told(LONG result, const char* file)
+{
+    if (result != Code(ERROR_SUCCESS) && !std::exchange(reported, true))
+        std::fprintf(stderr, "%s: Can not keep the settings\n", file);
+    return result;
 }
 
 bool IsOpenKey(HKEY key)
@@ -150,13 +162,13 @@ LONG OpenKey(LPCSTR subKey, HKEY* key)
 {
     const std::string folder = KeyFolder(subKey);
     if (folder.empty())
-        return Code(ERROR_FILE_NOT_FOUND);
+        return Told(Code(ERROR_FILE_NOT_FOUND), "There is no home folder");
     if (const LONG result = MakeFolders(folder); result != Code(ERROR_SUCCESS))
-        return result;
+        return Told(result, folder.c_str());
     auto opened = std::make_unique<HKEY__>();
     opened->path = folder + "/settings.toml";
     if (const LONG result = LoadValues(opened->path, opened->values); result != Code(ERROR_SUCCESS))
-        return result;
+        return Told(result, opened->path.c_str());
     *key = opened.release();
     return Code(ERROR_SUCCESS);
 }
@@ -225,7 +237,8 @@ LONG RegCloseKey(HKEY key)
     const std::unique_ptr<HKEY__> closing(key);
     if (!closing->isWhole)
         return Code(ERROR_NOT_ENOUGH_MEMORY);
-    return OrOutOfMemory(Code(ERROR_NOT_ENOUGH_MEMORY), [&] {
+    const LONG result = OrOutOfMemory(Code(ERROR_NOT_ENOUGH_MEMORY), [&] {
         return closing->changed ? ReplaceSmallFile(closing->path, FormatToml(closing->values)) : Code(ERROR_SUCCESS);
     });
+    return Told(result, closing->path.c_str());
 }

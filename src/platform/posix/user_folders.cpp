@@ -12,6 +12,22 @@ std::string ListedHome()
     const passwd* user = getpwuid(getuid());
     return user != nullptr && user->pw_dir[0] == '/' ? user->pw_dir : "";
 }
+
+/// The program's folder in the one that the variable names, which by default lies at `inHome`.
+std::string UserFolder(const char* variable, const char* inHome, const std::string& program)
+{
+    if (program.empty() || program == "." || program == "..")
+        return "";
+    std::string parent = FolderFromEnvironment(variable);
+    if (parent.empty()) {
+        const std::string home = FolderFromEnvironment("HOME");
+        parent = home.empty() ? ListedHome() : home;
+        if (parent.empty())
+            return "";
+        parent += inHome;
+    }
+    return parent + "/" + program;
+}
 }
 
 std::string FolderFromEnvironment(const char* variable)
@@ -22,15 +38,10 @@ std::string FolderFromEnvironment(const char* variable)
 
 std::string SettingsFolder(const std::string& program)
 {
-    if (program.empty() || program == "." || program == "..")
-        return "";
-    std::string config = FolderFromEnvironment("XDG_CONFIG_HOME");
-    if (config.empty()) {
-        const std::string home = FolderFromEnvironment("HOME");
-        config = home.empty() ? ListedHome() : home;
-        if (config.empty())
-            return "";
-        config += "/.config";
-    }
-    return config + "/" + program;
+    return UserFolder("XDG_CONFIG_HOME", "/.config", program);
+}
+
+std::string StateFolder(const std::string& program)
+{
+    return UserFolder("XDG_STATE_HOME", "/.local/state", program);
 }
