@@ -9,7 +9,7 @@ cd "$(dirname "$0")"
 install_packages $WINDOWS_PACKAGES
 # shellcheck disable=SC2086
 install_packages $WINE_PACKAGES || say "Wine cannot be installed."
-tools/fetch_sources.sh
+tools/fetch_sources.sh libjpeg-turbo highway
 for preset in windows32 windows; do
     cmake --preset "$preset" >/dev/null
     cmake --build --preset "$preset" --target package

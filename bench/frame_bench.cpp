@@ -40,7 +40,8 @@ constexpr Situation situations[] = {
 
 bool IsInTheWay(const CPond& pond, const Cell& cell)
 {
-    return std::ranges::any_of(pond.snake, [&cell](const CSnake& snake) { return snake.startX == cell.x; });
+    const auto startsThere = [&cell](const CSnake& snake) { return snake.startX == cell.x; };
+    return std::any_of(std::begin(pond.snake), std::end(pond.snake), startsThere);
 }
 
 void FillPond(CPond& pond)
@@ -92,7 +93,7 @@ void StartGame(CPond& pond, const Situation& situation)
     for (CSnake& snake : pond.snake) {
         if (!situation.isFull || snake.isOut)
             continue;
-        std::ranges::fill(snake.segments, snake.segments[0]);
+        std::fill(std::begin(snake.segments), std::end(snake.segments), snake.segments[0]);
         snake.length = FULL_LENGTH;
     }
     if (situation.isFull)

@@ -187,7 +187,7 @@ int Bot::BestTarget(const CSnake& snake, int start) const
         if (HasBerry(pond.cells[i]) && walked != 0 && walked != UNREACHED)
             targets.emplace_back(walked + costs[static_cast<size_t>(pond.cells[i].colour)], i);
     }
-    std::ranges::sort(targets);
+    std::sort(targets.begin(), targets.end());
     for (const auto& [cost, cell] : targets) {
         if (RoomBeyond(cell, start) >= roomNeeded)
             return cell;

@@ -105,7 +105,7 @@ int Bot::SparedColour(const CSnake& snake) const
 
 bool Bot::HasFewBerries() const
 {
-    return std::ranges::count_if(pond.cells, HasBerry) < FEW_BERRIES;
+    return std::count_if(std::begin(pond.cells), std::end(pond.cells), HasBerry) < FEW_BERRIES;
 }
 
 /// What a berry of that colour costs now beside the way to it, in cells walked.
@@ -125,6 +125,6 @@ int Bot::BerryCost(const CSnake& snake, int colour) const
 int Bot::Supply(const CSnake& snake, int colour) const
 {
     const auto isOfColour = [colour](const Cell& cell) { return HasBerry(cell) && cell.colour == colour; };
-    const auto lying = static_cast<int>(std::ranges::count_if(pond.cells, isOfColour));
+    const auto lying = static_cast<int>(std::count_if(std::begin(pond.cells), std::end(pond.cells), isOfColour));
     return lying + (snake.lastColour == colour ? snake.streak : 0);
 }

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Puts the sources of the libraries that the Windows program is linked with into build/sources, from Debian's source
+# fetch_sources.sh PACKAGE...: puts the sources of libraries that are linked in into build/sources, from Debian's source
 # packages; the system's own package lists stay as they are.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . tools/setup.sh
 
-packages="libjpeg-turbo highway"
+packages=$*
 target=$PWD/build/sources
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT

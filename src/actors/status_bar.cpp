@@ -47,7 +47,8 @@ void CStatusBar::DataUnload()
     fontHandle = nullptr;
     images.reset();
     for (const PanelRow& row : PanelRows())
-        std::ranges::for_each(row.panels(*this), &CMenu::MenuFree);
+        for (CMenu& panel : row.panels(*this))
+            panel.MenuFree();
     loadStep = 0;
     WriteLog("CStatusBar::DataUnload");
 }
@@ -64,6 +65,7 @@ void CStatusBar::StatusBarReset(CPond* owner)
     berryCountdown = 0;
     lifeMark[0] = lifeMark[1] = 0;
     for (const PanelRow& row : PanelRows())
-        std::ranges::for_each(row.panels(*this), &CMenu::Hide);
+        for (CMenu& panel : row.panels(*this))
+            panel.Hide();
     leftPanel.Show();
 }

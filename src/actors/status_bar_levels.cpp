@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <functional>
 
 namespace
 {
@@ -52,7 +53,7 @@ void ShowNumber(CMenu& panel, int textId, int number)
 
 bool CStatusBar::IsAnyCoiling() const
 {
-    return !std::ranges::all_of(pond->snake, pond->snake + pond->players + 1, &CSnake::isActive);
+    return !std::all_of(pond->snake, pond->snake + pond->players + 1, std::mem_fn(&CSnake::isActive));
 }
 
 void CStatusBar::StatusBarLevelCleared()

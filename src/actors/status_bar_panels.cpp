@@ -7,6 +7,7 @@
 #include "platform/window.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace
 {
@@ -28,7 +29,7 @@ bool IsClicked(CMenu& panel, int button)
 
 bool CStatusBar::IsHelpVisible() const
 {
-    return std::ranges::any_of(helpPanels, &CMenu::isVisible);
+    return std::any_of(std::begin(helpPanels), std::end(helpPanels), std::mem_fn(&CMenu::isVisible));
 }
 
 void CStatusBar::SetPaused(bool paused)
@@ -125,7 +126,7 @@ void CStatusBar::ResumeGame(CMenu& panel)
 
 void CStatusBar::ProcessHelp()
 {
-    CMenu* open = std::ranges::find_if(helpPanels, &CMenu::IsOpen);
+    CMenu* open = std::find_if(std::begin(helpPanels), std::end(helpPanels), std::mem_fn(&CMenu::IsOpen));
     panelOpen = true;
     const int next = ProcessHelpPage(*open, BUTTON_HELP_FIRST, static_cast<int>(open - std::begin(helpPanels)));
     if (next == HELP_STAY)

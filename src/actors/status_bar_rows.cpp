@@ -4,6 +4,7 @@
 #include "gfx/error.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace
 {
@@ -69,7 +70,8 @@ std::span<const CStatusBar::PanelRow> CStatusBar::PanelRows()
 bool CStatusBar::CreatePanels()
 {
     const auto create = [this](const PanelRow& row) { return CreatePanel(row); };
-    const bool made = std::ranges::all_of(PanelRows(), create) && AddHelp() && AddLevelTexts();
+    const std::span<const PanelRow> rows = PanelRows();
+    const bool made = std::all_of(rows.begin(), rows.end(), create) && AddHelp() && AddLevelTexts();
     return made || FailWith(ENGINE_ALLOCATE_MEMORY);
 }
 
@@ -112,7 +114,9 @@ bool CStatusBar::AddLevelTexts()
 
 void CStatusBar::ProcessPanels()
 {
-    for (const PanelRow& row : PanelRows())
-        if (std::ranges::any_of(row.panels(*this), &CMenu::IsOpen))
+    for (const PanelRow& row : PanelRows()) {
+        const std::span<CMenu> panels = row.panels(*this);
+        if (std::any_of(panels.begin(), panels.end(), std::mem_fn(&CMenu::IsOpen)))
             (this->*row.process)();
+    }
 }

@@ -4,7 +4,7 @@
 
 bool InputState::TakeKey(std::initializer_list<int> wanted)
 {
-    if (std::ranges::find(wanted, lastKeyDown) == wanted.end())
+    if (std::find(wanted.begin(), wanted.end(), lastKeyDown) == wanted.end())
         return false;
     lastKeyDown = 0;
     return true;

@@ -7,6 +7,7 @@
 #include "sound/sound.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace
 {
@@ -46,15 +47,15 @@ bool CPond::NewGame(int playerMode, const uint32_t* keys1, const uint32_t* keys2
         return false;
     statusBar.StatusBarReset(this);
     ClearCells();
-    std::ranges::fill(lasers, Laser{});
-    std::ranges::fill(popups, Popup{});
+    std::fill(std::begin(lasers), std::end(lasers), Laser{});
+    std::fill(std::begin(popups), std::end(popups), Popup{});
     gameOver = false;
     fadeOut = 0;
     isDay = true;
     transition = 0;
     dayTimer = 0;
     highlightNext = 0;
-    std::ranges::fill(highlight, -1);
+    std::fill(std::begin(highlight), std::end(highlight), -1);
     introFrames = 0;
     shockwave = Shockwave{};
     return true;
@@ -151,7 +152,8 @@ void CPond::ProcessSnakes(CImage& pondPicture, int key)
         each.SnakeReleaseStart();
     for (CSnake& each : SnakesInPlay())
         each.SnakeEndSlowDown();
-    if (fadeOut == 0 && std::ranges::all_of(SnakesInPlay(), &CSnake::isOut))
+    const std::span<CSnake> snakes = SnakesInPlay();
+    if (fadeOut == 0 && std::all_of(snakes.begin(), snakes.end(), std::mem_fn(&CSnake::isOut)))
         statusBar.StatusBarGameOver();
 }
 

@@ -5,6 +5,7 @@
 #include "sound/sound.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace
 {
@@ -92,7 +93,8 @@ int CPond::FindBerryCell(int start)
 
 bool CPond::IsFarFromHeads(int cell)
 {
-    return std::ranges::all_of(SnakesInPlay(), [cell](const CSnake& each) { return each.SnakeIsFarFrom(cell); });
+    const std::span<CSnake> snakes = SnakesInPlay();
+    return std::all_of(snakes.begin(), snakes.end(), [cell](const CSnake& each) { return each.SnakeIsFarFrom(cell); });
 }
 
 CPond::CountGrid CPond::CountSnakes()
@@ -117,11 +119,11 @@ void CPond::RecordHighlight(int cell)
 /// The berry in that cell is eaten: a highlighted blue one ends its own highlight, any other one all of them.
 void CPond::ClearHighlight(int cell)
 {
-    int32_t* slot = std::ranges::find(highlight, cell);
+    int32_t* slot = std::find(std::begin(highlight), std::end(highlight), cell);
     if (cells[cell].colour == BLUE && slot != std::end(highlight))
         *slot = -1;
     else
-        std::ranges::fill(highlight, -1);
+        std::fill(std::begin(highlight), std::end(highlight), -1);
 }
 
 bool CPond::EatAt(int x, int y, int& colour, int heading, int& eyeFrame)
@@ -145,7 +147,8 @@ bool CPond::EatAt(int x, int y, int& colour, int heading, int& eyeFrame)
 
 int CPond::EyeFrameBeside(int cell, int heading) const
 {
-    const EyeTests* row = std::ranges::find(eyeTable, heading, &EyeTests::heading);
+    const auto isThatHeading = [heading](const EyeTests& each) { return each.heading == heading; };
+    const EyeTests* row = std::find_if(std::begin(eyeTable), std::end(eyeTable), isThatHeading);
     if (row == std::end(eyeTable))
         return 0;
     for (const EyeTest& test : row->tests)
@@ -204,10 +207,10 @@ void CPond::FadeStones(int count)
 int CPond::CountBerries(int colour) const
 {
     const auto isOne = [colour](const Cell& each) { return each.IsRipeBerry() && each.colour == colour; };
-    return static_cast<int>(std::ranges::count_if(cells, isOne));
+    return static_cast<int>(std::count_if(std::begin(cells), std::end(cells), isOne));
 }
 
 int CPond::CountStones() const
 {
-    return static_cast<int>(std::ranges::count_if(cells, &Cell::IsStone));
+    return static_cast<int>(std::count_if(std::begin(cells), std::end(cells), std::mem_fn(&Cell::IsStone)));
 }

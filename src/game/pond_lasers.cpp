@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <numbers>
 
 namespace
@@ -15,7 +16,8 @@ constexpr int RING_STEP = 3; ///< pixels a frame
 
 void MoveLaser(Laser& laser)
 {
-    const DirectionRow* row = std::ranges::find(directions, laser.heading, &DirectionRow::heading);
+    const auto isItsHeading = [&laser](const DirectionRow& each) { return each.heading == laser.heading; };
+    const DirectionRow* row = std::find_if(std::begin(directions), std::end(directions), isItsHeading);
     if (row == std::end(directions))
         return;
     laser.x += row->dx * CELL_SIZE;
@@ -58,7 +60,7 @@ constexpr bool IsOnPond(int x, int y)
 
 void CPond::FireLaser(int x, int y, int heading)
 {
-    Laser* slot = std::ranges::find(lasers, false, &Laser::active);
+    Laser* slot = std::find_if_not(std::begin(lasers), std::end(lasers), std::mem_fn(&Laser::active));
     if (slot != std::end(lasers))
         *slot = { .active = true, .x = x, .y = y, .heading = heading };
 }

@@ -1,6 +1,7 @@
 #include "game/pond.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 
 namespace
@@ -12,7 +13,7 @@ constexpr int POPUP_RISE = 2;      ///< pixels a frame
 
 void CPond::ShowPopup(int x, int y, int kind)
 {
-    Popup* slot = std::ranges::find(popups, false, &Popup::active);
+    Popup* slot = std::find_if_not(std::begin(popups), std::end(popups), std::mem_fn(&Popup::active));
     if (slot != std::end(popups))
         *slot = { .active = true, .x = x, .y = y, .kind = kind, .opacity = POPUP_OPACITY };
 }

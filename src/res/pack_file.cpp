@@ -95,7 +95,8 @@ bool OpenPack(const char* path)
 {
     if (packTable[0].handle != INVALID_HANDLE_VALUE)
         return true;
-    const auto slot = std::ranges::find(packTable, INVALID_HANDLE_VALUE, &CPackFile::handle);
+    const auto isFree = [](const CPackFile& pack) { return pack.handle == INVALID_HANDLE_VALUE; };
+    const auto slot = std::find_if(std::begin(packTable), std::end(packTable), isFree);
     const bool opened = slot != std::end(packTable) ? slot->Open(path) : FailWith(ENGINE_OPEN_PACK);
     if (!opened)
         ReportFile(path, ErrorText(lastError));

@@ -40,8 +40,8 @@ bool LoadMasked(ImageSets sets, Rows rows, int index)
     if (rows[0].mask == nullptr)
         return true;
     CImage mask;
-    return LoadMaskFile(mask, PicturePath(rows[0].mask, index).data()) &&
-           std::ranges::all_of(rows, [&](const PictureRow& row) { return ApplyMask(ImageOf(sets, row, index), mask); });
+    const auto apply = [&](const PictureRow& row) { return ApplyMask(ImageOf(sets, row, index), mask); };
+    return LoadMaskFile(mask, PicturePath(rows[0].mask, index).data()) && std::all_of(rows.begin(), rows.end(), apply);
 }
 }
 

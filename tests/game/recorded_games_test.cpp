@@ -15,7 +15,7 @@ std::vector<std::string> RecordingNames()
     std::vector<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(TEST_DATA_DIR))
         names.push_back(entry.path().stem().string());
-    std::ranges::sort(names);
+    std::sort(names.begin(), names.end());
     return names;
 }
 

@@ -80,7 +80,7 @@ TEST_F(Display, FullScreenShowsTheFrameAlsoWithFiveBitsOfGreenAndAfterALoss)
         DisplayPresent(frame);
         std::vector<uint16_t> expected(frame.pixels, frame.Row(HEIGHT));
         if (greenMask == 0x03E0)
-            std::ranges::transform(expected, expected.begin(), Rgb555Pixel);
+            std::transform(expected.begin(), expected.end(), expected.begin(), Rgb555Pixel);
         EXPECT_TRUE(directX.screen == expected) << greenMask;
         directX.surfacesLost = true;
         DisplayPresent(frame);

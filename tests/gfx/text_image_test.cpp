@@ -56,7 +56,7 @@ TEST_F(TextImage, KeepsTheGlyphsUsedLastSortedByCode)
         recent.erase(0, recent.size() == SLOTS ? 1 : 0);
         recent += line;
         std::string expected = recent;
-        std::ranges::sort(expected);
+        std::sort(expected.begin(), expected.end());
         std::string codes;
         for (int k = 0; k < text.count; ++k)
             codes += static_cast<char>(text.keys[k].code);

@@ -74,6 +74,11 @@ int Run(const TempFolder& folder, int request, bool andAllBehind)
     return WIFSIGNALED(status) ? -WTERMSIG(status) : WEXITSTATUS(status);
 }
 
+auto LineCount(const std::string& text)
+{
+    return std::count(text.begin(), text.end(), '\n');
+}
+
 /// False, with a line that says so, when the run did not end as it should.
 bool IsGood(const TempFolder& folder, int request, bool andAllBehind, const std::string& settings)
 {
@@ -81,7 +86,7 @@ bool IsGood(const TempFolder& folder, int request, bool andAllBehind, const std:
     const int code = Run(folder, request, andAllBehind);
     const std::string said = folder.Read("said");
     const bool hasEnded = progress->frame >= LAST_FRAME || !said.empty();
-    const bool areWhole = std::ranges::count(folder.Read(SETTINGS), '\n') == std::ranges::count(settings, '\n');
+    const bool areWhole = LineCount(folder.Read(SETTINGS)) == LineCount(settings);
     if (code == 0 && hasEnded && areWhole)
         return true;
     std::printf("request %d%s: code %d at frame %d, said: %s\n%s", request, andAllBehind ? " and all behind" : "", code,

@@ -55,7 +55,7 @@ TEST(JpegLoader, EachDamageHasItsCode)
 {
     std::mt19937 random(5);
     Bytes noise(SIDE * SIDE * 3);
-    std::ranges::generate(noise, [&] { return static_cast<uint8_t>(random()); });
+    std::generate(noise.begin(), noise.end(), [&] { return static_cast<uint8_t>(random()); });
     const Bytes whole = MakeJpeg(TJPF_BGR, noise);
     for (size_t size = 0; size < whole.size(); ++size) {
         CImage image;

@@ -39,14 +39,12 @@ public:
     /// Fields come and go with the pages that are loaded.
     void Resolve(const std::vector<StateField>& fields)
     {
-        for (Comparison& row : comparisons) {
-            const auto found = std::ranges::find(fields, row.field, &StateField::name);
-            row.found = found != fields.end() ? &*found : nullptr;
-        }
+        for (Comparison& row : comparisons)
+            row.found = FindField(fields, row.field);
     }
     void Look()
     {
-        held = held || std::ranges::all_of(comparisons, [](const Comparison& row) {
+        held = held || std::all_of(comparisons.begin(), comparisons.end(), [](const Comparison& row) {
                    if (row.found == nullptr)
                        return false;
                    const int value = row.found->Number();

@@ -76,8 +76,8 @@ void Rebuild(Scene& scene)
 void SetField(const std::string& name, int value)
 {
     const std::vector<StateField> fields = StateFields();
-    const auto field = std::ranges::find(fields, name, &StateField::name);
-    if (field == fields.end())
+    const StateField* field = FindField(fields, name);
+    if (field == nullptr)
         throw std::runtime_error("there is no field " + name);
     field->Set(value);
 }

@@ -211,6 +211,14 @@ std::vector<StateField> StateFields()
     return std::move(list.fields);
 }
 
+const StateField* FindField(const std::vector<StateField>& fields, const std::string& name)
+{
+    for (const StateField& field : fields)
+        if (field.name == name)
+            return &field;
+    return nullptr;
+}
+
 void Checksum::Add(const std::string& text)
 {
     AddBytes(text.data(), text.size());

@@ -25,6 +25,9 @@ std::string At(const std::string& name, int index);
 /// snakes, status bar, scenery and water, menu pages and settings. Pixels are no part of it.
 std::vector<StateField> StateFields();
 
+/// Null when there is none of that name.
+const StateField* FindField(const std::vector<StateField>& fields, const std::string& name);
+
 /// FNV-1a over whole numbers, 64 bits.
 class Checksum
 {

@@ -93,7 +93,7 @@ using Files = std::map<std::string, std::string>; ///< contents by path; owners 
 void AddPicture(Files& files, const char* name, int number, const PictureSize& size, bool isMask)
 {
     std::string path = PicturePath(name, number).data();
-    std::ranges::replace(path, '\\', '/');
+    std::replace(path.begin(), path.end(), '\\', '/');
     Noise noise(path);
     files[path] = path.ends_with(".jpg") ? BlockJpeg(noise, size.width, size.height)
                                          : NoiseBmp(noise, size.width, size.height, isMask);

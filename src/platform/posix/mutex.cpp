@@ -60,8 +60,8 @@ void CloseInChild()
 /// in a place that all sessions of a user share; last in the session's own.
 std::vector<std::string> LockPaths(std::string name)
 {
-    std::ranges::replace_if(
-        name, [](char c) { return c == '/' || c == '\\'; }, '_');
+    std::replace(name.begin(), name.end(), '/', '_');
+    std::replace(name.begin(), name.end(), '\\', '_');
     std::vector<std::string> paths;
     if (const std::string folder = SettingsFolder(name); !folder.empty()) {
         MakeFolders(folder);

@@ -34,7 +34,7 @@ std::string ResolvePath(const char* path)
     std::string resolved = path ? path : "";
     if (Exists(resolved))
         return resolved;
-    std::ranges::replace(resolved, '\\', '/');
+    std::replace(resolved.begin(), resolved.end(), '\\', '/');
     for (size_t begin = 0; begin < resolved.size();) {
         const size_t end = std::min(resolved.find('/', begin), resolved.size());
         if (end > begin && !Exists(resolved.substr(0, end))) {

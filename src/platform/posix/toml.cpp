@@ -19,7 +19,7 @@ void ThrowDamagedToml()
 
 std::optional<toml::table> ParseToml(std::string_view text)
 {
-    if (std::ranges::count(text, '.') > MOST_DOTS)
+    if (std::count(text.begin(), text.end(), '.') > MOST_DOTS)
         return std::nullopt;
     try {
         return toml::parse(text);

@@ -64,14 +64,14 @@ bool Collides(const MSG& message)
 /// Drops the press that has waited longest, with its characters. Its release does no harm.
 void DropOldestPress()
 {
-    const auto press = std::ranges::find_if(queue, IsPress);
+    const auto press = std::find_if(queue.begin(), queue.end(), IsPress);
     queue.erase(press, std::find_if(press + 1, queue.end(), IsNoCharacter));
 }
 
 void DropWhatMustNotWait()
 {
     std::erase_if(queue, IsRepeat);
-    while (std::ranges::count_if(queue, IsPress) > MOST_WAITING_PRESSES)
+    while (std::count_if(queue.begin(), queue.end(), IsPress) > MOST_WAITING_PRESSES)
         DropOldestPress();
 }
 }

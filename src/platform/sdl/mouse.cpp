@@ -50,7 +50,8 @@ void HandleMotion(const SDL_MouseMotionEvent& event)
 
 void HandleButton(const SDL_MouseButtonEvent& event)
 {
-    const auto* row = std::ranges::find(buttonMessages, event.button, &ButtonMessages::button);
+    const auto isThatButton = [&event](const ButtonMessages& each) { return each.button == event.button; };
+    const auto* row = std::find_if(std::begin(buttonMessages), std::end(buttonMessages), isThatButton);
     if (row == std::end(buttonMessages))
         return;
     const Uint32 mask = SDL_BUTTON(event.button);

@@ -126,7 +126,8 @@ int CodeByPosition(SDL_Scancode position)
     for (const KeyRange& range : keyRanges)
         if (position >= range.first && position <= range.last)
             return range.code + (position - range.first);
-    const auto* key = std::ranges::find(keyCodes, position, &KeyCode::position);
+    const auto isThere = [position](const KeyCode& row) { return row.position == position; };
+    const auto* key = std::find_if(std::begin(keyCodes), std::end(keyCodes), isThere);
     return key == std::end(keyCodes) ? 0 : key->code;
 }
 }
@@ -137,12 +138,14 @@ int VirtualKey(const SDL_Keysym& key, bool hasLatinLetters)
         return 'A' + (key.sym - 'a');
     if (key.sym == DOTLESS_I) // Turkish: it is the key of I, wherever it is
         return 'I';
-    const auto* keypad = std::ranges::find(keypadKeys, key.scancode, &KeypadKey::position);
+    const auto isThere = [&key](const KeypadKey& row) { return row.position == key.scancode; };
+    const auto* keypad = std::find_if(std::begin(keypadKeys), std::end(keypadKeys), isThere);
     if (keypad != std::end(keypadKeys))
         return key.mod & KMOD_NUM ? keypad->digit : keypad->editing;
     // Where a layout with Latin letters has punctuation in a letter's place, that letter is elsewhere, its code taken.
     if (hasLatinLetters && IsLetterPosition(key.scancode)) {
-        const auto* mark = std::ranges::find(punctuationKeys, key.sym, &PunctuationKey::character);
+        const auto isMark = [&key](const PunctuationKey& row) { return row.character == key.sym; };
+        const auto* mark = std::find_if(std::begin(punctuationKeys), std::end(punctuationKeys), isMark);
         if (mark != std::end(punctuationKeys))
             return mark->code;
     }

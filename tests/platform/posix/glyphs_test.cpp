@@ -53,7 +53,7 @@ TEST_F(GlyphTest, AreTightBoxesWithinTheCell)
         ASSERT_EQ(bytes.size(), rowBytes * metrics.gmBlackBoxY) << c;
         EXPECT_LE(metrics.gmptGlyphOrigin.y, text.tmAscent) << c;
         EXPECT_GE(metrics.gmptGlyphOrigin.y - static_cast<LONG>(metrics.gmBlackBoxY), -text.tmDescent) << c;
-        const BYTE most = *std::ranges::max_element(bytes);
+        const BYTE most = *std::max_element(bytes.begin(), bytes.end());
         EXPECT_TRUE(most > 8 && most <= 16) << "a bold stroke is more than half covered";
         EXPECT_NE(std::count(bytes.begin(), bytes.begin() + rowBytes, 0), rowBytes) << "empty first row " << c;
         EXPECT_NE(std::count(bytes.end() - rowBytes, bytes.end(), 0), rowBytes) << "empty last row " << c;
@@ -64,7 +64,7 @@ TEST_F(GlyphTest, StayWithinTheBufferAndFollowTheWindowsCodePage)
 {
     std::vector<BYTE> small(8, GUARD);
     EXPECT_EQ(Get('W', 8, small.data()), GDI_ERROR);
-    EXPECT_EQ(std::ranges::count(small, GUARD), 8);
+    EXPECT_EQ(std::count(small.begin(), small.end(), GUARD), 8);
     EXPECT_EQ(Get(' ').size(), 0U);
     EXPECT_GT(metrics.gmCellIncX, 0);
     const std::vector<BYTE> missing = Get(0x8D); // a gap in the page
