@@ -33,7 +33,7 @@ std::vector<std::string> DataFolders(const std::string& own)
 std::string DataFolder(const std::string& own)
 {
     const std::vector<std::string> folders = DataFolders(own);
-    const auto found = std::ranges::find_if(folders, HasData);
+    const auto found = std::find_if(folders.begin(), folders.end(), HasData);
     if (found != folders.end())
         return *found;
     std::string line = "Tervalis: Dat/Image.xpf is missing; looked for it in";

@@ -29,7 +29,8 @@ bool DrawsWithProcessor(SDL_Renderer* renderer)
     if (!std::string_view(info.name).starts_with("opengl"))
         return false;
     const std::string_view name = GlRendererName();
-    return std::ranges::any_of(softwareGl, [name](std::string_view part) { return name.find(part) != name.npos; });
+    return std::any_of(std::begin(softwareGl), std::end(softwareGl),
+                       [name](std::string_view part) { return name.find(part) != name.npos; });
 }
 
 bool WouldDrawWithProcessor(SDL_Window* window)

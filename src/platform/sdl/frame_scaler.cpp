@@ -45,7 +45,7 @@ void CFrameScaler::ScaleRows(const uint16_t* frame, int begin, int end, uint8_t*
 {
     const ScaleKernels& kernels = BestScaleKernels();
     const size_t count = static_cast<size_t>(pictureSize.x);
-    std::ranges::fill(wideRowNumbers, NO_ROW); // the frame may have changed
+    std::fill(std::begin(wideRowNumbers), std::end(wideRowNumbers), NO_ROW); // the frame may have changed
     for (int row = begin; row < end; ++row, target += targetRowBytes) {
         const uint32_t first = rows.first[static_cast<size_t>(row)];
         const uint32_t weight = rows.weights[static_cast<size_t>(row)];

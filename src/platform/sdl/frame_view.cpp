@@ -35,7 +35,7 @@ void CFrameView::Show(bool all)
         output = nullptr;
         std::fprintf(stderr, "%s: cannot show frames any more: %s\n", SDL_GetWindowTitle(window), SDL_GetError());
     }
-    std::ranges::fill(frame.changed, false);
+    std::fill(std::begin(frame.changed), std::end(frame.changed), false);
 }
 
 /// A renderer can be had even where there is no surface any more, and in place of one that was lost.

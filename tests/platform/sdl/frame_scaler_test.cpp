@@ -49,7 +49,7 @@ uint32_t Expected(const std::vector<uint32_t>& frame, SDL_Point picture, int x, 
 TEST(FrameScaler, WidensPixelsAsSdlDoes)
 {
     std::vector<uint16_t> pixels(65536);
-    std::ranges::generate(pixels, [next = 0]() mutable { return static_cast<uint16_t>(next++); });
+    std::generate(pixels.begin(), pixels.end(), [next = 0]() mutable { return static_cast<uint16_t>(next++); });
     std::vector<uint32_t> expected(pixels.size());
     SDL_ConvertPixels(256, 256, SDL_PIXELFORMAT_RGB565, pixels.data(), 512, SDL_PIXELFORMAT_ARGB8888, expected.data(),
                       1024);
@@ -73,7 +73,7 @@ TEST(FrameScaler, MagnifiesSharplyAndFromThereLinearly)
     constexpr uint32_t GUARD = 0x12345678;
     std::mt19937 random(1);
     std::vector<uint16_t> pixels(static_cast<size_t>(FRAME.x) * FRAME.y);
-    std::ranges::generate(pixels, [&random] { return static_cast<uint16_t>(random()); });
+    std::generate(pixels.begin(), pixels.end(), [&random] { return static_cast<uint16_t>(random()); });
     std::vector<uint32_t> frame(pixels.size());
     SDL_ConvertPixels(FRAME.x, FRAME.y, SDL_PIXELFORMAT_RGB565, pixels.data(), FRAME.x * 2, SDL_PIXELFORMAT_ARGB8888,
                       frame.data(), FRAME.x * 4);

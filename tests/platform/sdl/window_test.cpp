@@ -144,7 +144,7 @@ TEST_F(WindowTest, SaysOnceThatItCannotShowFrames)
         EXPECT_TRUE(picture.DrawToDC(GetDC(window), 0, 0, 0, 0, 1, 1)) << "it is kept";
     const std::string said = testing::internal::GetCapturedStderr();
     EXPECT_EQ(said.find("Test: cannot show frames any more: "), 0u) << said;
-    EXPECT_EQ(std::ranges::count(said, '\n'), 1) << said;
+    EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1) << said;
 }
 
 TEST_F(WindowTest, UndoesWhatTheBorderDoesUnlessTheWindowManagerInsists)
