@@ -1,8 +1,6 @@
-#include "platform/kernel.h"
 #include "platform/multimedia.h"
 
 #include <chrono>
-#include <thread>
 
 namespace
 {
@@ -14,9 +12,4 @@ DWORD timeGetTime()
 {
     using namespace std::chrono;
     return static_cast<DWORD>(duration_cast<milliseconds>(steady_clock::now() - programStart).count());
-}
-
-void Sleep(DWORD milliseconds)
-{
-    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
 }

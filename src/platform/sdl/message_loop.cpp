@@ -1,4 +1,5 @@
 #include "platform/sdl/events.h"
+#include "platform/sdl/idle.h"
 #include "platform/sdl/messages.h"
 #include "platform/sdl/native_window.h"
 
@@ -7,10 +8,6 @@
 namespace
 {
 std::optional<int> quitCode;
-
-/// A program that polls an empty queue gives up the processor for a moment each time, less if something happens: it
-/// then needs a few per cent of it instead of all, and the game's 40 ms frame starts at most this much late.
-constexpr int EMPTY_QUEUE_PAUSE_MS = 1;
 
 constexpr LPARAM ALT_HELD = 1 << 29;
 
@@ -33,6 +30,22 @@ LRESULT SystemCommand(HWND window, WPARAM command)
     }
     return 0;
 }
+
+/// The message that is next, which stays in the queue. False when there is none.
+bool FindMessage(MSG& message)
+{
+    CollectEvents();
+    if (const MSG* due = DueMessage()) {
+        message = *due;
+        return true;
+    }
+    if (!quitCode)
+        return false;
+    message = {};
+    message.message = WM_QUIT;
+    message.wParam = static_cast<WPARAM>(*quitCode);
+    return true;
+}
 }
 
 void PostQuitMessage(int exitCode)
@@ -42,19 +55,10 @@ void PostQuitMessage(int exitCode)
 
 BOOL PeekMessageA(MSG* message, HWND, UINT, UINT, UINT)
 {
-    CollectEvents();
-    if (const MSG* due = DueMessage()) {
-        *message = *due;
+    if (FindMessage(*message))
         return TRUE;
-    }
-    if (quitCode) {
-        *message = {};
-        message->message = WM_QUIT;
-        message->wParam = static_cast<WPARAM>(*quitCode);
-        return TRUE;
-    }
-    SDL_WaitEventTimeout(nullptr, EMPTY_QUEUE_PAUSE_MS);
-    return FALSE;
+    Idle();
+    return FindMessage(*message); // what came meanwhile is for the frame that begins now
 }
 
 BOOL GetMessageA(MSG* message, HWND window, UINT first, UINT last)

@@ -2,13 +2,10 @@
 
 #include "platform/sdl/window_state.h"
 
-#include <chrono>
-
 namespace
 {
 constexpr Uint16 OUTPUT_FRAMES = 512; ///< mixed at a time: 23 ms
 constexpr Uint32 LONGEST_FADE_OUT_MS = 100;
-constexpr auto BETWEEN_LOOKS = std::chrono::seconds(1);
 }
 
 SDL_AudioDeviceID SoundOutput::OpenDevice()
@@ -30,23 +27,15 @@ bool SoundOutput::Open()
     if (device == 0)
         return false;
     SDL_PauseAudioDevice(device, 0);
-    watcher = std::jthread([this](const std::stop_token& stop) { Watch(stop); });
+    watch.Start([this] { ReopenLostDevice(); });
     return true;
 }
 
-void SoundOutput::Watch(const std::stop_token& stop)
-{
-    std::unique_lock lock(mutex);
-    while (!stop.stop_requested()) {
-        wake.wait_for(lock, stop, BETWEEN_LOOKS, [] { return false; });
-        if (!stop.stop_requested() && SDL_GetAudioDeviceStatus(device) == SDL_AUDIO_STOPPED)
-            Reopen();
-    }
-}
-
 /// SDL goes on asking for the sound of a device that has gone, so the old one stays open until there is another.
-void SoundOutput::Reopen()
+void SoundOutput::ReopenLostDevice()
 {
+    if (SDL_GetAudioDeviceStatus(device) != SDL_AUDIO_STOPPED)
+        return;
     // Libraries write their complaints where there is none.
     const SDL_AudioDeviceID opened = SDL_GetNumAudioDevices(0) > 0 ? OpenDevice() : 0;
     if (opened == 0)
@@ -58,7 +47,7 @@ void SoundOutput::Reopen()
 
 SoundOutput::~SoundOutput()
 {
-    watcher = {}; // it stops
+    watch.Stop();
     if (device != 0) {
         // Buffers released while they played are still fading out. A device that has stalled does not keep us.
         for (Uint32 waited = 0; !mixer.IsSilent() && waited < LONGEST_FADE_OUT_MS; waited += 5)

@@ -1,11 +1,9 @@
 #pragma once
 
 #include "platform/posix/mixer.h"
+#include "platform/sdl/device_watch.h"
 
 #include <SDL.h>
-#include <condition_variable>
-#include <mutex>
-#include <thread>
 
 /// The open audio device and its mix. The device object and every buffer hold it; the last one closes it.
 /// A device that goes, or whose sound server ends, is opened again as soon as there is one; until then the mix goes on
@@ -30,13 +28,9 @@ public:
 private:
     static void SDLCALL Fill(void* output, Uint8* bytes, int byteCount);
     SDL_AudioDeviceID OpenDevice();
-    void Watch(const std::stop_token& stop);
-    void Reopen();
+    void ReopenLostDevice();
 
     bool initialised = false;
-    SDL_AudioDeviceID device = 0; ///< 0 when none is open; the watcher's while it runs
-    std::mutex mutex;
-    std::condition_variable_any wake;
-    /// Looks after the device, on a thread of its own: opening and closing one takes longer than a frame may.
-    std::jthread watcher;
+    SDL_AudioDeviceID device = 0; ///< 0 when none is open; the watch's while it runs
+    DeviceWatch watch;
 };
