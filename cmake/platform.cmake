@@ -34,5 +34,7 @@ string(REGEX REPLACE "(..)" "0x\\1," ICON "${ICON}")
 file(CONFIGURE OUTPUT icon/icon_bytes.inc CONTENT "${ICON}")
 target_include_directories(tervalis_platform PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/icon)
 
+target_compile_definitions(tervalis_platform PRIVATE TERVALIS_ID="${TERVALIS_ID}")
+
 add_executable(tervalis src/platform/sdl/main.cpp)
 target_link_libraries(tervalis PRIVATE tervalis_game tervalis_platform)

@@ -78,7 +78,8 @@ def mask_faults(found, present):
 
 def pixel_faults(folder, present):
     """Pictures other than art/render made them."""
-    paths = {name: folder / name for name in present} | {pathlib.Path(manifest.ICON).name: ROOT / manifest.ICON}
+    icons = {pathlib.Path(icon).name: ROOT / icon for icon in manifest.ICONS}
+    paths = {name: folder / name for name in present} | icons
     recorded, faults = hashes.recorded(), []
     for name, path in sorted(paths.items()):
         if not path.exists():

@@ -8,7 +8,7 @@ BENCH_PACKAGES="libbenchmark-dev libpixman-1-dev python3"
 WINDOWS_PACKAGES="g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build nasm dpkg-dev googletest"
 WINE_PACKAGES="wine wine64 xvfb xauth xdotool imagemagick openbox x11-utils wmctrl"
 ARM64_PACKAGES="g++ cmake ninja-build pkg-config qemu-user mmdebstrap"
-CHECK_PACKAGES="clang clang-format clang-tidy"
+CHECK_PACKAGES="clang clang-format clang-tidy desktop-file-utils appstream man-db groff-base"
 
 say() { printf '%s\n' "$*" >&2; }
 

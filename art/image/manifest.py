@@ -2,7 +2,8 @@
 import pathlib
 
 COLOURS = ("red", "green", "blue", "orange", "purple")
-ICON = "packaging/tervalis.ico"
+ICONS = ["packaging/tervalis.ico",
+         *(f"packaging/icons/tervalis-{size}.png" for size in (16, 24, 32, 48, 64, 128, 256, 512))]
 TABLES = pathlib.Path(__file__).with_name("tables.txt")
 
 

@@ -25,6 +25,7 @@ mkdir -m 700 "$XDG_RUNTIME_DIR"
 touch "$folder/errors"
 
 install_program() {
+    id=$(sed -n 's/^StartupWMClass=//p' "${archive%/*.zip}"/packaging/*.desktop)
     if ! is_wine; then
         cp -r "$archive/tervalis" "$archive/Dat" "$archive/Wav" "$archive/docs" "$program/"
         return
@@ -157,6 +158,7 @@ homePlace=$place
 fullPlace=1280x1024+0+0
 await "the main menu" shows_menu
 is_wine || xprop -id "$window" _NET_WM_ICON | grep -qF "Icon (48 x 48)" || fail "the window has no icon"
+is_wine || xprop -id "$window" WM_CLASS | grep -qF "\"$id\"" || fail "no desktop knows the window"
 step "A second copy" && check_second_copy
 step "A new key" && bind_a_key
 step "A game" && play_a_game

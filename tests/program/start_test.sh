@@ -93,12 +93,21 @@ grep -q 'Can not load sound' errors || fail "nobody hears of the missing sounds"
 # What SDL loads for a display leaves memory behind, which is none of ours.
 ASAN_OPTIONS=detect_leaks=0 SDL_VIDEODRIVER=x11 DISPLAY=:nowhere start_elsewhere
 
+# Known by one name to whoever shows the program: installed_files.txt has it in the files' names.
+expect_same_id() {
+    local id
+    id=$(basename applications/*.desktop .desktop)
+    grep -qx "Icon=$id" applications/*.desktop && grep -qx "StartupWMClass=$id" applications/*.desktop &&
+        grep -qF "<id>$id</id>" metainfo/*.xml && grep -qF ">$id.desktop</launchable>" metainfo/*.xml ||
+        fail "desktop entry and metainfo differ in the program's id"
+}
+
 # Installed for all users, then moved as a whole: the log goes to the user's folder, even for one who may write to all.
 DESTDIR=$folder/stage cmake --install "$program" --prefix /usr >/dev/null || fail "cannot install"
 for list in 'cd stage/usr && find ! -type d -printf "%P\n"' "sed 's|^/usr/||' $program/install_manifest.txt"; do
     (cd "$folder" && eval "$list" | LC_ALL=C sort | diff "$installed" -) || fail "other files were installed"
 done
-mv "$folder/stage/usr" "$folder/moved" && cd "$folder/moved/bin" || exit 1
+mv "$folder/stage/usr" "$folder/moved" && cd "$folder/moved/share" && expect_same_id && cd ../bin || exit 1
 log=$folder/state/Tervalis/Log.txt
 run_until TERM
 expect_kept

@@ -35,6 +35,10 @@ void SetHints()
     SDL_SetHint(SDL_HINT_MOUSE_AUTO_CAPTURE, "1");                 // moves outside are seen while a button is held
     SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0"); // or the whole desktop changes with our window
     SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
+    SDL_SetHint(SDL_HINT_APP_NAME, "Tervalis");
+    // The class of the window, by which a desktop finds the name and the icon that belong to it.
+    SDL_setenv("SDL_VIDEO_X11_WMCLASS", TERVALIS_ID, 1);
+    SDL_setenv("SDL_VIDEO_WAYLAND_WMCLASS", TERVALIS_ID, 1);
 }
 
 /// The window is resizable only because window managers offer no maximise box otherwise. KeepClientSize undoes what
