@@ -1,5 +1,7 @@
 #include "support/allocations.h"
 
+#include "support/faults.h"
+
 #include <atomic>
 #include <cstddef>
 #include <cstdlib>
@@ -7,36 +9,20 @@
 
 namespace
 {
-std::atomic<int> allocations = 0;
 std::atomic<int> planesUntilFailure = 0;
-std::atomic<int> failingRequest = 0; ///< as `allocations` counts; 0: none
-std::atomic<bool> allBehindFail = false;
 
 /// Null where the test wants no memory to be found.
 void* Allocate(size_t size, size_t alignment)
 {
-    const int request = ++allocations;
-    const int failing = failingRequest;
-    if (failing != 0 && (request == failing || (request > failing && allBehindFail)))
+    if (IsToFail(Calls::MEMORY))
         return nullptr;
     return std::aligned_alloc(alignment, (size + alignment) / alignment * alignment);
 }
 }
 
-int AllocationCount()
-{
-    return allocations;
-}
-
 void FailPlane(int number)
 {
     planesUntilFailure = number;
-}
-
-void FailAllocation(int number, bool andAllBehind)
-{
-    failingRequest = number != 0 ? allocations + number : 0;
-    allBehindFail = andAllBehind;
 }
 
 // What has no form here falls back on one that has, or is a sanitiser's own and does not count.
