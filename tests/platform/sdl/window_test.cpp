@@ -19,12 +19,11 @@ constexpr uint16_t BLUE = 0x001F;
 class WindowTest : public WindowFixture
 {
 protected:
-    /// What the window is told of the mouse there.
-    LPARAM Mapped(int x, int y)
+    /// What the window gets of that event.
+    static std::string Given(const std::string& event)
     {
-        PushMouse(SDL_MOUSEMOTION, x, y);
-        RunMessages();
-        return received.back().lParam;
+        Push(event);
+        return RunFrames();
     }
     /// As 0xRRGGBB, each channel in the five bits that every conversion keeps.
     static uint32_t ScreenPixel(int x, int y) { return *ScreenMemory(x, y) & 0xF8F8F8; }
@@ -78,12 +77,10 @@ TEST_F(WindowTest, ShowsThePartThatLiesInItAndNothingNewWithoutTheFocus)
     EXPECT_EQ(ScreenPixel(639, 479), 0xF80000u) << "cut at the right and bottom";
     EXPECT_TRUE(draw(700, 0)) << "wholly outside is no failure";
 
-    PushWindowEvent(SDL_WINDOWEVENT_FOCUS_LOST);
-    RunMessages();
+    Given("blur");
     draw(5, 5);
     EXPECT_EQ(ScreenPixel(5, 5), 0x000000u);
-    PushWindowEvent(SDL_WINDOWEVENT_EXPOSED);
-    RunMessages();
+    Given("exposed");
     EXPECT_EQ(ScreenPixel(5, 5), 0xF80000u) << "the last frame when it is uncovered";
 }
 
@@ -98,12 +95,12 @@ TEST_P(EachWayWindowTest, ScalesFrameAndMouseToTheScreenAndIsGivenBack)
     DisplayPresent(halves);
     EXPECT_EQ(ScreenPixel(0, 378), 0xF80000u) << "the screen is 1.6 times as high as the frame";
     EXPECT_EQ(ScreenPixel(1023, 767), 0x0000F8u);
-    EXPECT_EQ(Mapped(1023, 767), MAKELPARAM(639, 479));
-    EXPECT_EQ(Mapped(-1, -17), MAKELPARAM(-1, -11)) << "left of and above the frame";
+    EXPECT_EQ(Given("M1023,767"), "M639,479");
+    EXPECT_EQ(Given("M-1,-17"), "M-1,-11") << "left of and above the frame";
 
     isWindowed = true;
     ASSERT_TRUE(DisplaySetMode(window, 640, 480, true));
-    EXPECT_EQ(Mapped(512, 384), MAKELPARAM(512, 384)) << "the window has its size again";
+    EXPECT_EQ(Given("M512,384"), "M512,384") << "the window has its size again";
     EXPECT_TRUE(GetWindowLongA(window, GWL_STYLE) & WS_VISIBLE);
 }
 
@@ -152,8 +149,7 @@ TEST_F(WindowTest, UndoesWhatTheBorderDoesUnlessTheWindowManagerInsists)
     int width = 0;
     const auto userResizes = [&](int wanted) {
         SDL_SetWindowSize(nativeWindow.handle, wanted, 500);
-        PushWindowEvent(SDL_WINDOWEVENT_RESIZED);
-        RunMessages();
+        Given("resized");
         SDL_GetWindowSize(nativeWindow.handle, &width, nullptr);
         return width;
     };
@@ -162,19 +158,7 @@ TEST_F(WindowTest, UndoesWhatTheBorderDoesUnlessTheWindowManagerInsists)
     for (int attempts = 0; attempts < 10 && width == 640; ++attempts)
         userResizes(900);
     EXPECT_EQ(width, 900) << "no endless quarrel";
-    EXPECT_EQ(Mapped(450, 250), MAKELPARAM(320, 240)) << "the frame is scaled to that size";
-}
-
-TEST_F(WindowTest, MaximisesAndClosesThroughTheProcedure)
-{
-    PushWindowEvent(SDL_WINDOWEVENT_MAXIMIZED);
-    PushWindowEvent(SDL_WINDOWEVENT_CLOSE);
-    PushMouse(SDL_MOUSEMOTION, 1, 1);
-    EXPECT_TRUE(RunMessages());
-    EXPECT_EQ(Messages(), (std::vector<UINT>{ WM_SYSCOMMAND, WM_SYSCOMMAND, WM_CLOSE, WM_DESTROY }));
-    EXPECT_EQ(received[0].wParam, SC_MAXIMIZE);
-    EXPECT_EQ(GetDC(window), nullptr);
-    EXPECT_FALSE(DestroyWindow(window));
+    EXPECT_EQ(Given("M450,250"), "M320,240") << "the frame is scaled to that size";
 }
 
 TEST_F(WindowTest, CannotBeMadeWithoutADisplay)
