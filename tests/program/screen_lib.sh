@@ -58,6 +58,7 @@ start_program() {
 }
 
 find_window() { window=$(xdotool search --onlyvisible --name "$windowName" 2>/dev/null) && look_at_place; }
+is_minimised() { xprop -id "$window" WM_STATE | grep -q Iconic; }
 has_ended() { ! kill -0 "$pid" 2>/dev/null; }
 
 # expect_end: the program ends by itself, as it should.
@@ -115,13 +116,6 @@ shows() {
         awk -v tolerance=$TOLERANCE '$1 < tolerance { alike = 1 } END { exit !alike }'
 }
 shows_menu() { shows MainMenu.jpg $WHOLE; }
-
-# lit AREA COLOUR: some of the area has that colour.
-lit() {
-    shot "$1" "$folder/area"
-    convert "$folder/area" -fuzz 20% -fill black +opaque "$2" -fill white -opaque "$2" -format '%[fx:mean*w*h]\n' info: |
-        awk '$1 >= 8 { lit = 1 } END { exit !lit }'
-}
 
 # rests: the whole picture stays as it is.
 rests() {

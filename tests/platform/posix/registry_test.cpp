@@ -22,11 +22,7 @@ using namespace std::string_literals;
 
 namespace
 {
-struct Stored {
-    DWORD type = 0;
-    std::string bytes;
-    bool operator==(const Stored&) const = default;
-};
+using Stored = std::pair<DWORD, std::string>; ///< type, bytes
 
 LONG Open(HKEY& key)
 {
@@ -35,29 +31,27 @@ LONG Open(HKEY& key)
 }
 
 /// One save that sets all these names to one value; the code of the step that failed.
-LONG Save(const std::vector<std::string>& names, const Stored& value)
+LONG Save(const std::vector<const char*>& names, const Stored& value)
 {
     HKEY key = nullptr;
     if (const LONG result = Open(key); result != 0)
         return result;
-    for (const std::string& name : names)
-        RegSetValueExA(key, name.c_str(), 0, value.type, reinterpret_cast<const BYTE*>(value.bytes.data()),
-                       static_cast<DWORD>(value.bytes.size()));
+    for (const char* name : names)
+        RegSetValueExA(key, name, 0, value.first, reinterpret_cast<const BYTE*>(value.second.data()),
+                       static_cast<DWORD>(value.second.size()));
     return RegCloseKey(key);
 }
 
 /// One value of a key opened for it.
-std::optional<Stored> Load(const std::string& name)
+std::optional<Stored> Load(const char* name)
 {
     HKEY key = nullptr;
-    if (Open(key) != 0)
-        return std::nullopt;
     Stored value = { 0, std::string(4096, '?') };
     DWORD size = 4096;
-    BYTE* const data = reinterpret_cast<BYTE*>(value.bytes.data());
-    const bool isThere = RegQueryValueExA(key, name.c_str(), nullptr, &value.type, data, &size) == 0;
+    BYTE* const data = reinterpret_cast<BYTE*>(value.second.data());
+    const bool isThere = Open(key) == 0 && RegQueryValueExA(key, name, nullptr, &value.first, data, &size) == 0;
     RegCloseKey(key);
-    value.bytes.resize(size);
+    value.second.resize(size);
     return isThere ? std::optional(value) : std::nullopt;
 }
 
@@ -105,10 +99,11 @@ TEST_F(RegistryTest, EveryValueComesBackByteForByte)
         { REG_SZ, "{ hex = \"41\" }" },
         { 3, allBytes }, // a type the game does not use
     };
-    for (size_t i = 0; i < std::size(values); ++i)
-        ASSERT_EQ(Save({ std::to_string(i) }, values[i]), 0);
-    for (size_t i = 0; i < std::size(values); ++i)
-        EXPECT_EQ(Load(std::to_string(i)), values[i]) << "value " << i;
+    for (const Stored& value : values) {
+        ASSERT_EQ(Save({ "v" }, value), 0);
+        EXPECT_EQ(Load("v"), value);
+    }
+    EXPECT_TRUE(folder.Read(SETTINGS_FILE).starts_with("v = { ")) << "on a line of its own";
 }
 
 TEST_F(RegistryTest, ReadsWhatAHandMayHaveWrittenAndKeepsIt)
@@ -193,7 +188,7 @@ TEST_F(RegistryTest, KilledAtAnyMomentLeavesOldOrNewValues)
         kill(child, SIGKILL);
         waitpid(child, nullptr, 0);
         const auto first = Load("first");
-        ASSERT_TRUE(first && first->bytes.size() == 3000) << "round " << round;
+        ASSERT_TRUE(first && first->second.size() == 3000) << "round " << round;
         ASSERT_EQ(first, Load("last")) << "round " << round;
     }
     saveBoth('a');

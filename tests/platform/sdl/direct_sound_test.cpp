@@ -26,10 +26,14 @@ protected:
         if (device)
             device->Release();
     }
-    HRESULT Create(WAVEFORMATEX format, DWORD bytes, IDirectSoundBuffer** buffer)
+    /// Null if it is refused.
+    IDirectSoundBuffer* Create(WAVEFORMATEX format, DWORD bytes)
     {
         const DSBUFFERDESC description{ sizeof description, DSBCAPS_LOCSOFTWARE, bytes, 0, &format, {} };
-        return device->CreateSoundBuffer(&description, buffer, nullptr);
+        IDirectSoundBuffer* buffer = nullptr;
+        const HRESULT result = device->CreateSoundBuffer(&description, &buffer, nullptr);
+        EXPECT_EQ(result == DS_OK, buffer != nullptr);
+        return buffer;
     }
     /// Waits until those bytes have been put out, at most some seconds.
     bool IsPutOut(const std::string& bytes) const
@@ -74,9 +78,8 @@ TEST_F(DirectSoundTest, RefusesBuffersThatItCannotPlay)
     };
     ASSERT_EQ(DirectSoundCreate(nullptr, &device, nullptr), DS_OK);
     for (const auto& row : cases) {
-        IDirectSoundBuffer* buffer = nullptr;
-        EXPECT_EQ(Create(row.format, row.bytes, &buffer) == DS_OK, row.isPlayable) << row.format.nSamplesPerSec;
-        EXPECT_EQ(buffer != nullptr, row.isPlayable);
+        IDirectSoundBuffer* const buffer = Create(row.format, row.bytes);
+        EXPECT_EQ(buffer != nullptr, row.isPlayable) << row.format.nSamplesPerSec;
         if (buffer)
             buffer->Release();
     }
@@ -93,15 +96,14 @@ TEST_F(DirectSoundTest, PutsTheSamplesOutOnTheDeviceThatFollowsALostOne)
 
     std::string samples;
     std::string expected;
-    for (int i = 0; i < 4000; ++i) {
+    for (int i = 1; i <= 4000; ++i) {
         const std::string sample = { static_cast<char>(i), static_cast<char>(i >> 8) }; // a ramp
         samples += sample;
         expected += sample + sample; // left and right
     }
-    IDirectSoundBuffer* buffer = nullptr;
+    IDirectSoundBuffer* const buffer = Create({ PCM, 1, 22050, 44100, 2, 16, 0 }, static_cast<DWORD>(samples.size()));
     LPVOID memory = nullptr;
     DWORD bytes = 0;
-    ASSERT_EQ(Create({ PCM, 1, 22050, 44100, 2, 16, 0 }, static_cast<DWORD>(samples.size()), &buffer), DS_OK);
     ASSERT_EQ(buffer->Lock(0, 0, &memory, &bytes, nullptr, nullptr, DSBLOCK_ENTIREBUFFER), DS_OK);
     ASSERT_EQ(bytes, samples.size());
     samples.copy(static_cast<char*>(memory), bytes);
@@ -110,6 +112,8 @@ TEST_F(DirectSoundTest, PutsTheSamplesOutOnTheDeviceThatFollowsALostOne)
     folder.Write("next", "");
     std::filesystem::rename("next", OUTPUT);
     EXPECT_TRUE(IsPutOut(expected));
+    EXPECT_EQ(buffer->Stop(), DS_OK);
+    EXPECT_TRUE(IsPutOut(std::string(expected.size(), 0))) << "silence";
     buffer->Release();
 }
 }
