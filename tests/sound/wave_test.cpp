@@ -83,7 +83,8 @@ TEST_F(WaveTest, ReadsSamplesBehindAndBeforeTheFormatButNoneThatTheFileDoesNotHo
     for (uint32_t i = 0; i < 99999; ++i)
         samples += static_cast<char>(i * i >> 3);
     const std::string dataChunk = Chunk("data", samples);
-    for (const std::string& chunks : { formatChunk + Chunk("fact", "xyz") + dataChunk, dataChunk + formatChunk }) {
+    const std::string fact = Chunk("fact", "xyz");
+    for (const std::string& chunks : { formatChunk + fact + dataChunk, fact + dataChunk + formatChunk }) {
         ASSERT_EQ(Open(Wave(chunks)), 0);
         ASSERT_EQ(SeekData(), 0);
         EXPECT_EQ(data.cksize, samples.size());

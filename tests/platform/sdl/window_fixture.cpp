@@ -30,7 +30,7 @@ const std::map<UINT, std::string> keySigns = {
 };
 const std::map<UINT, std::string> mouseSigns = {
     { WM_LBUTTONDOWN, "L+" }, { WM_LBUTTONUP, "L-" }, { WM_RBUTTONDOWN, "R+" },
-    { WM_RBUTTONUP, "R-" },   { WM_MOUSEMOVE, "M" },
+    { WM_RBUTTONUP, "R-" },   { WM_MOUSEMOVE, "to" },
 };
 const std::map<UINT, std::string> otherSigns = {
     { WM_SETFOCUS, "focus" },     { WM_KILLFOCUS, "blur" },  { WM_CLOSE, "close" },
@@ -91,19 +91,19 @@ SDL_Event KeyEvent(const std::string& word)
 
 SDL_Event MouseEvent(const std::string& word)
 {
-    SDL_Event event = {};
-    const bool moves = word[0] == 'M';
-    std::istringstream place(word.substr(moves ? 1 : 2));
+    std::istringstream place(word.substr(2));
     int x = 0;
     int y = 0;
     char comma = 0;
     place >> x >> comma >> y;
-    if (moves) {
-        event.motion = { SDL_MOUSEMOTION, 0, 0, 0, 0, x, y, 0, 0 };
-        return event;
-    }
     const bool down = word[1] == '+';
-    event.button = { down ? SDL_MOUSEBUTTONDOWN : SDL_MOUSEBUTTONUP, 0, 0, 0, buttons.at(word[0]), down, 1, 0, x, y };
+    SDL_Event event = {};
+    if (word.starts_with("to"))
+        event.motion = { SDL_MOUSEMOTION, 0, 0, 0, 0, x, y, 0, 0 };
+    else
+        event.button = {
+            down ? SDL_MOUSEBUTTONDOWN : SDL_MOUSEBUTTONUP, 0, 0, 0, buttons.at(word[0]), down, 1, 0, x, y
+        };
     return event;
 }
 
