@@ -2,8 +2,8 @@
 // and the nearest routine of other libraries. Names are ROUTINE/SIZE/WHO.
 #include "blit_peers.h"
 
-#include "gfx/blit.h"
 #include "gfx/display.h"
+#include "gfx/image.h"
 
 #include <memory>
 #include <string>

@@ -73,9 +73,9 @@ void AddBoxes(const std::string& file, std::span<const Item> items)
 void AddPanel(const CMenu& panel, const CImage* images, std::span<const PictureRow> rows)
 {
     const std::string file = FileOf(panel.background, images, rows);
-    AddBoxes<MenuButton>(file, { panel.buttons.get(), static_cast<size_t>(panel.buttonCount) });
-    AddBoxes<MenuToggle>(file, { panel.toggles.get(), static_cast<size_t>(panel.toggleCount) });
-    AddBoxes<MenuText>(file, { panel.texts.get(), static_cast<size_t>(panel.textCount) });
+    AddBoxes<MenuButton>(file, { panel.buttons, static_cast<size_t>(panel.buttonCount) });
+    AddBoxes<MenuToggle>(file, { panel.toggles, static_cast<size_t>(panel.toggleCount) });
+    AddBoxes<MenuText>(file, { panel.texts, static_cast<size_t>(panel.textCount) });
 }
 
 template <typename Owner>
@@ -100,11 +100,11 @@ int main(int, char** arguments)
     AddPictures(statusPictures);
     AddPictures(menuPictures);
     for (const CMenu* page : { &sectionMenu.mainMenu, &sectionMenu.optionsMenu, &sectionMenu.rankingMenu })
-        AddPanel(*page, sectionMenu.images.get(), menuPictures);
+        AddPanel(*page, sectionMenu.images, menuPictures);
     for (const CMenu& page : sectionMenu.helpMenus)
-        AddPanel(page, sectionMenu.images.get(), menuPictures);
+        AddPanel(page, sectionMenu.images, menuPictures);
     for (const CMenu* panel : { &bar.leftPanel, &bar.pausedPanel, &bar.confirmPanel, &bar.nextLevelPanel })
-        AddPanel(*panel, bar.images.get(), statusPictures);
+        AddPanel(*panel, bar.images, statusPictures);
     for (const std::string& line : lines)
         std::cout << line << '\n';
 }

@@ -14,8 +14,6 @@ constexpr int START_LIVES = 2;
 constexpr int BERRY_DISTANCE = 6; ///< cells that new berries keep from a head, in columns and in rows
 }
 
-CSnake::~CSnake() = default;
-
 bool CSnake::SnakeInit(int enterX, CPond* owner, int playerNumber, int up, int down, int left, int right)
 {
     const int32_t previousPlayer = player;

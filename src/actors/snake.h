@@ -4,8 +4,9 @@
 #include "game/geometry.h"
 #include "gfx/image.h"
 
+#include <array>
 #include <cstdint>
-#include <memory>
+#include <span>
 
 class CPond;
 
@@ -24,8 +25,7 @@ class CSnake
 {
 public:
     CSnake() = default;
-    /// Releases the images of body and shadow.
-    virtual ~CSnake();
+    virtual ~CSnake() = default;
 
     /// A new game: five segments below the pond's bottom edge at `enterX`, heading up. False when an image cannot be
     /// loaded; nothing else has changed then.
@@ -65,12 +65,12 @@ public:
     int32_t length = 0;           ///< segments in use
     int32_t arrowBlink = 0;
     CImage bodyImage;
-    std::unique_ptr<CImage[]> eyeImages;     ///< six expressions for each direction
-    std::unique_ptr<CImage[]> bumpEyeImages; ///< up, down, left, right
+    CImage eyeImages[EYE_IMAGES];          ///< six expressions for each direction
+    CImage bumpEyeImages[BUMP_EYE_IMAGES]; ///< up, down, left, right
     CImage shadowImage;
-    std::unique_ptr<CImage[]> arrowImages; ///< up, down, left, right
-    int32_t eyeFrame = 0;                  ///< expression, 0..5
-    Segment segments[MAX_SEGMENTS];        ///< 0 is the head
+    CImage arrowImages[ARROW_IMAGES]; ///< up, down, left, right
+    int32_t eyeFrame = 0;             ///< expression, 0..5
+    Segment segments[MAX_SEGMENTS];   ///< 0 is the head
     bool isDying = false;
     int32_t deathFrames = 0;
     int32_t movedFrames = 0; ///< since start, respawn or level end; collisions count above 50
@@ -141,7 +141,8 @@ private:
     void Respawn();
     void GoOut();
 
-    // Drawing.
+    // Pictures and drawing.
+    std::array<std::span<CImage>, SNAKE_IMAGE_SETS> ImageSets();
     void SnakeDraw(CImage& pondPicture);
     void SnakeDrawHead(CImage& pondPicture);
     void DrawBody(CImage& pondPicture);

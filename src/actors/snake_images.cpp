@@ -1,27 +1,28 @@
 #include "actors/snake.h"
 #include "app/log.h"
 
-#include <span>
-
 namespace
 {
 constexpr std::span<const PictureRow> allPictures = snakePictures;
 constexpr size_t BODIES = 2;
 }
 
+std::array<std::span<CImage>, SNAKE_IMAGE_SETS> CSnake::ImageSets()
+{
+    std::array<std::span<CImage>, SNAKE_IMAGE_SETS> sets;
+    sets[SNAKE_BODY] = { &bodyImage, 1 };
+    sets[SNAKE_EYES] = eyeImages;
+    sets[SNAKE_BUMP_EYES] = bumpEyeImages;
+    sets[SNAKE_ARROWS] = arrowImages;
+    sets[SNAKE_SHADOW] = { &shadowImage, 1 };
+    return sets;
+}
+
 bool CSnake::SnakeLoadImage()
 {
-    if (!AllocateImages(eyeImages, EYE_IMAGES) || !AllocateImages(bumpEyeImages, BUMP_EYE_IMAGES) ||
-        !AllocateImages(arrowImages, ARROW_IMAGES))
-        return false;
-    std::span<CImage> sets[SNAKE_IMAGE_SETS];
-    sets[SNAKE_BODY] = { &bodyImage, 1 };
-    sets[SNAKE_EYES] = { eyeImages.get(), EYE_IMAGES };
-    sets[SNAKE_BUMP_EYES] = { bumpEyeImages.get(), BUMP_EYE_IMAGES };
-    sets[SNAKE_ARROWS] = { arrowImages.get(), ARROW_IMAGES };
-    sets[SNAKE_SHADOW] = { &shadowImage, 1 };
     const size_t body = player == 1 ? 0 : 1;
-    if (!LoadPictures(sets, allPictures.subspan(body, 1)) || !LoadPictures(sets, allPictures.subspan(BODIES)))
+    if (!LoadPictures(ImageSets(), allPictures.subspan(body, 1)) ||
+        !LoadPictures(ImageSets(), allPictures.subspan(BODIES)))
         return false;
     WriteLog("CSnake::SnakeLoadImage");
     return true;
@@ -29,10 +30,6 @@ bool CSnake::SnakeLoadImage()
 
 void CSnake::SnakeFreeImage()
 {
-    bodyImage.Free();
-    shadowImage.Free();
-    eyeImages.reset();
-    bumpEyeImages.reset();
-    arrowImages.reset();
+    FreeImages(ImageSets());
     WriteLog("CSnake::SnakeFreeImage");
 }

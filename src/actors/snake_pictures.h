@@ -1,7 +1,7 @@
 #pragma once
 
 #include "game/geometry.h"
-#include "gfx/blit.h"
+#include "gfx/image.h"
 #include "res/picture_table.h"
 
 constexpr int EYE_IMAGES = 24;

@@ -1,4 +1,4 @@
-#include "actors/status_bar_rows.h"
+#include "actors/status_bar.h"
 #include "app/loading_steps.h"
 #include "app/log.h"
 
@@ -33,9 +33,7 @@ bool CStatusBar::LoadFont()
 
 bool CStatusBar::LoadImages()
 {
-    if (!AllocateImages(images, STATUS_IMAGES))
-        return false;
-    const std::span<CImage> sets[] = { { images.get(), STATUS_IMAGES } };
+    const std::span<CImage> sets[] = { images };
     return LoadPictures(sets, statusPictures);
 }
 
@@ -45,10 +43,10 @@ void CStatusBar::DataUnload()
     if (fontHandle != nullptr)
         DeleteObject(fontHandle);
     fontHandle = nullptr;
-    images.reset();
+    for (CImage& image : images)
+        image.Free();
     for (const PanelRow& row : PanelRows())
-        for (CMenu& panel : row.panels(*this))
-            panel.MenuFree();
+        row.panel.MenuFree();
     loadStep = 0;
     WriteLog("CStatusBar::DataUnload");
 }
@@ -65,7 +63,6 @@ void CStatusBar::StatusBarReset(CPond* owner)
     berryCountdown = 0;
     lifeMark[0] = lifeMark[1] = 0;
     for (const PanelRow& row : PanelRows())
-        for (CMenu& panel : row.panels(*this))
-            panel.Hide();
+        row.panel.Hide();
     leftPanel.Show();
 }

@@ -6,11 +6,20 @@
 #include "menu/help_page.h"
 #include "menu/menu.h"
 
+#include <array>
 #include <cstdint>
-#include <memory>
 #include <span>
 
 class CPond;
+
+/// Where a panel is made; some slide from there.
+enum class PanelPlace { CORNER, SCREEN_CENTRE, POND_CENTRE };
+
+/// A button over one that is part of the panel's picture.
+struct PanelButton {
+    int id;
+    MenuBox box;
+};
 
 constexpr int FIRST_TARGET = 500;   ///< score that clears level 1
 constexpr int COUNT_UP_FRAMES = 75; ///< of the target's figure at a new level
@@ -62,21 +71,28 @@ public:
     CMenu nextLevelPanel;
     CMenu helpPanels[HELP_PAGES];
     CMenu gameOverPanel;
-    std::unique_ptr<CImage[]> images;
+    CImage images[STATUS_IMAGES];
     CTextImage font;
     CPond* pond = nullptr;    ///< not owned
     int32_t lifeMark[2] = {}; ///< per player, score at the last extra life
 
 private:
-    struct PanelRow;
+    static constexpr int PANELS = 6 + HELP_PAGES;
+    /// All about a panel.
+    struct PanelRow {
+        CMenu& panel;
+        int picture;
+        PanelPlace place;
+        void (CStatusBar::*process)(); ///< each frame in which it takes input
+        std::span<const PanelButton> buttons;
+    };
     /// The panels in the order in which they are drawn and handled.
-    static std::span<const PanelRow> PanelRows();
+    std::array<PanelRow, PANELS> PanelRows();
     bool LoadFont(); // the steps of loading
     bool LoadImages();
     bool CreatePanels();
-    bool CreatePanel(const PanelRow& row);
-    bool AddHelp();
-    bool AddLevelTexts();
+    void CreatePanel(const PanelRow& row);
+    void AddLevelTexts();
 
     bool IsAnyCoiling() const;
     bool IsHelpVisible() const;

@@ -47,7 +47,7 @@ bool SlideOut(CMenu& panel)
 
 void ShowNumber(CMenu& panel, int textId, int number)
 {
-    std::snprintf(panel.FindText(textId)->text.get(), MENU_TEXT_SIZE, "%d", number);
+    std::snprintf(panel.FindText(textId)->text, MENU_TEXT_SIZE, "%d", number);
 }
 }
 

@@ -1,4 +1,4 @@
-#include "actors/status_bar_rows.h"
+#include "actors/status_bar.h"
 
 #include "app/frame_images.h"
 #include "app/input.h"
@@ -48,9 +48,8 @@ void CStatusBar::StatusBarProcess(CImage& screen)
         AwardExtraLives();
     }
     for (const PanelRow& row : PanelRows())
-        for (CMenu& panel : row.panels(*this))
-            if (&panel != &leftPanel)
-                panel.MenuProcess(screen);
+        if (&row.panel != &leftPanel)
+            row.panel.MenuProcess(screen);
     ProcessPanels();
     DropLevelBerries();
 }

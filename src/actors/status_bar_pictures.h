@@ -1,7 +1,7 @@
 #pragma once
 
 #include "game/geometry.h"
-#include "gfx/blit.h"
+#include "gfx/image.h"
 #include "menu/help_page.h"
 #include "res/picture_table.h"
 

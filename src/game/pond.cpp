@@ -3,7 +3,7 @@
 #include "app/frame_images.h"
 #include "app/random.h"
 #include "game/water.h"
-#include "gfx/blit.h"
+#include "gfx/image.h"
 #include "sound/sound.h"
 
 #include <algorithm>

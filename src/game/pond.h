@@ -5,13 +5,11 @@
 #include "game/geometry.h"
 #include "game/pond_pictures.h"
 #include "game/pond_records.h"
-#include "game/scenery.h"
 #include "gfx/image.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <span>
 
 /// Frames that the start-up highlight has been drawn; it blinks by it. Outlives a game.
@@ -67,12 +65,12 @@ public:
     Shockwave shockwave;
     CImage dayBackground;
     CImage nightBackground;
-    std::unique_ptr<CImage[]> objectImages;
+    CImage objectImages[OBJECT_IMAGES];
     CImage shadowImage;
     CImage lightImage;
-    std::unique_ptr<CImage[]> laserImages;
-    std::unique_ptr<CImage[]> popupImages;
-    std::unique_ptr<CImage[]> growthImages; ///< index colour * GROWTH_FRAMES + frame - 1
+    CImage laserImages[LASER_IMAGES];
+    CImage popupImages[POPUP_IMAGES];
+    CImage growthImages[GROWTH_IMAGES]; ///< index colour * GROWTH_FRAMES + frame - 1
     CImage moonImages[MOON_IMAGES];
     Laser lasers[2];
     Popup popups[20];

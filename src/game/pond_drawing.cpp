@@ -1,6 +1,6 @@
 #include "game/pond.h"
 
-#include "gfx/blit.h"
+#include "gfx/image.h"
 
 int32_t blinkCounter = 0;
 

@@ -2,7 +2,7 @@
 
 #include "game/geometry.h"
 #include "game/pond_records.h"
-#include "gfx/blit.h"
+#include "gfx/image.h"
 #include "res/picture_table.h"
 
 constexpr int OBJECT_IMAGES = 7; ///< six berries by colour, then the stone

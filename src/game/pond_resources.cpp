@@ -63,33 +63,26 @@ bool CPond::LoadBackgrounds()
 
 bool CPond::LoadImages()
 {
-    return AllocateImages(objectImages, OBJECT_IMAGES) && AllocateImages(laserImages, LASER_IMAGES) &&
-           AllocateImages(popupImages, POPUP_IMAGES) && AllocateImages(growthImages, GROWTH_IMAGES) &&
-           LoadPictures(ImageSets(), allPictures.subspan(BACKGROUND_PICTURES));
+    return LoadPictures(ImageSets(), allPictures.subspan(BACKGROUND_PICTURES));
 }
 
 std::array<std::span<CImage>, POND_IMAGE_SETS> CPond::ImageSets()
 {
     std::array<std::span<CImage>, POND_IMAGE_SETS> sets;
     sets[POND_DAY] = { &dayBackground, 1 };
-    sets[POND_OBJECTS] = { objectImages.get(), OBJECT_IMAGES };
+    sets[POND_OBJECTS] = objectImages;
     sets[POND_SHADOW] = { &shadowImage, 1 };
     sets[POND_LIGHT] = { &lightImage, 1 };
-    sets[POND_LASERS] = { laserImages.get(), LASER_IMAGES };
-    sets[POND_POPUPS] = { popupImages.get(), POPUP_IMAGES };
-    sets[POND_GROWTH] = { growthImages.get(), GROWTH_IMAGES };
+    sets[POND_LASERS] = laserImages;
+    sets[POND_POPUPS] = popupImages;
+    sets[POND_GROWTH] = growthImages;
     sets[POND_MOONS] = moonImages;
     return sets;
 }
 
 void CPond::UnDataLoad()
 {
-    for (CImage* image :
-         { &dayBackground, &nightBackground, &shadowImage, &lightImage, &moonImages[0], &moonImages[1] })
-        image->Free();
-    objectImages.reset();
-    laserImages.reset();
-    popupImages.reset();
-    growthImages.reset();
+    FreeImages(ImageSets());
+    nightBackground.Free();
     WriteLog("CPond::UnDataLoad");
 }

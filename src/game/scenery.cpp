@@ -1,6 +1,6 @@
 #include "app/frame_images.h"
 #include "game/pond.h"
-#include "gfx/blit.h"
+#include "gfx/image.h"
 
 SceneryState scenery;
 

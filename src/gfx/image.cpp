@@ -1,6 +1,5 @@
 #include "gfx/image.h"
 
-#include "gfx/blit.h"
 #include "gfx/error.h"
 
 #include <algorithm>
@@ -25,8 +24,6 @@ int64_t PitchOf(int64_t width)
     return (2 * width + 7) & ~int64_t{ 7 };
 }
 }
-
-CImage::CImage() : blit(BlitCopy) {}
 
 CImage::~CImage()
 {
@@ -188,11 +185,4 @@ void CImage::Draw(CImage& target, int targetX, int targetY, int anchorX, int anc
     height = savedSource[3];
     target.x = savedTarget[0];
     target.y = savedTarget[1];
-}
-
-bool AllocateImages(std::unique_ptr<CImage[]>& images, int count)
-{
-    images.reset();
-    images.reset(new (std::nothrow) CImage[static_cast<size_t>(count)]);
-    return images || FailWith(ENGINE_ALLOCATE_MEMORY);
 }

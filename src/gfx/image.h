@@ -5,12 +5,23 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 
 class CImage;
 
-/// Draws `source` onto `target`, placed and limited by the fields of both. See blit.h.
+/// Draws `source` onto `target`, placed and limited by the fields of both.
 using BlitRoutine = void (*)(CImage& target, const CImage& source);
+
+// The blit routines. The source's top-left pixel lands at (target.x - source.x, target.y - source.y); what lies
+// outside the target is clipped away.
+
+void BlitCopy(CImage& target, const CImage& source);            ///< replaces
+void BlitColorKey(CImage& target, const CImage& source);        ///< replaces, except where the source is COLOR_KEY
+void BlitAdd(CImage& target, const CImage& source);             ///< saturating add per channel
+void BlitSub(CImage& target, const CImage& source);             ///< saturating subtract per channel
+void BlitAlpha(CImage& target, const CImage& source);           ///< blends by the alpha plane
+void BlitAlphaOpacity(CImage& target, const CImage& source);    ///< blends by alpha plane times opacity
+void BlitOpacityColorKey(CImage& target, const CImage& source); ///< blends by opacity, except at COLOR_KEY
+void BlitFadeToBlack(CImage& target, const CImage& source);     ///< replaces, darkened by opacity
 
 /// As a position or size argument: the value stored in the image.
 constexpr int KEEP = static_cast<int>(0x80000000);
@@ -21,7 +32,7 @@ constexpr int KEEP = static_cast<int>(0x80000000);
 class CImage
 {
 public:
-    CImage();
+    CImage() = default;
     ~CImage();
     CImage(const CImage&) = delete;
     CImage& operator=(const CImage&) = delete;
@@ -69,7 +80,7 @@ public:
     uint32_t opacity = 0;        ///< 0 to 255, for the routines that use it
     bool pixelsBorrowed = false; ///< the plane belongs to another image
     bool alphaBorrowed = false;
-    BlitRoutine blit; ///< used when this image is the source; BlitCopy until set
+    BlitRoutine blit = BlitCopy; ///< used when this image is the source
 
 private:
     /// Replaces the pixel plane by a black one; on failure the size is 0.
@@ -78,5 +89,16 @@ private:
     void ReleaseAlpha();
 };
 
-/// Frees the images held, then makes `count` empty ones. False: ENGINE_ALLOCATE_MEMORY, and none are held.
-bool AllocateImages(std::unique_ptr<CImage[]>& images, int count);
+/// A rendered character to draw: the pen is at the target's anchor.
+struct GlyphView {
+    int32_t offsetX; ///< what the anchor is for images
+    int32_t offsetY;
+    int32_t width; ///< row length in bytes
+    int32_t height;
+    int32_t advance;     ///< pixels to the next pen position
+    const uint8_t* bits; ///< coverage, a byte a pixel, 0 empty to 16 full, rows of `width`; borrowed
+    uint16_t colour;     ///< RGB565
+};
+
+/// Blends the glyph's colour into the target by its coverage.
+void BlitGlyphSmooth(CImage& target, const GlyphView& glyph);

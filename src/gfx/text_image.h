@@ -1,6 +1,5 @@
 #pragma once
 
-#include "gfx/blit.h"
 #include "gfx/image.h"
 #include "platform/gdi.h"
 

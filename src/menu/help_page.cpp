@@ -14,14 +14,13 @@ constexpr MenuBox tabBoxes[HELP_PAGES] = {
 };
 }
 
-bool AddHelpButtons(CMenu& panel, int firstId, int page)
+void AddHelpButtons(CMenu& panel, int firstId, int page)
 {
-    bool ok = panel.AddButton({ .id = HelpCloseId(firstId, page), .box = closeBox });
+    panel.AddButton({ .id = HelpCloseId(firstId, page), .box = closeBox });
     for (int other = 0; other < HELP_PAGES; ++other) {
         if (other != page)
-            ok = ok && panel.AddButton({ .id = HelpTabId(firstId, page, other), .box = tabBoxes[other] });
+            panel.AddButton({ .id = HelpTabId(firstId, page, other), .box = tabBoxes[other] });
     }
-    return ok;
 }
 
 int ProcessHelpPage(CMenu& panel, int firstId, int page)

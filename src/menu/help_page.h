@@ -17,8 +17,7 @@ constexpr int HelpTabId(int firstId, int page, int otherPage)
     return HelpCloseId(firstId, page) + otherPage + (otherPage < page ? 1 : 0);
 }
 
-/// False when the panel has no room for them.
-bool AddHelpButtons(CMenu& panel, int firstId, int page);
+void AddHelpButtons(CMenu& panel, int firstId, int page);
 
 // What an open page may ask for instead of another page.
 constexpr int HELP_CLOSE = -1;

@@ -1,26 +1,24 @@
 #include "menu/menu.h"
 
-#include "gfx/error.h"
-
-#include <new>
-#include <utility>
+#include <algorithm>
 
 namespace
 {
+template <typename Item, int capacity>
+bool AddItem(Item (&items)[capacity], int32_t& count, const Item& item)
+{
+    if (count == capacity)
+        return false;
+    items[count++] = item;
+    return true;
+}
+
 template <typename Item>
 Item* FindItem(Item* items, int count, int id)
 {
-    for (int i = 0; i < count; ++i) {
-        if (items[i].id == id)
-            return &items[i];
-    }
-    return nullptr;
+    Item* item = std::find_if(items, items + count, [id](const Item& each) { return each.id == id; });
+    return item == items + count ? nullptr : item;
 }
-}
-
-CMenu::~CMenu()
-{
-    MenuFree();
 }
 
 bool CMenu::MenuCreate(int menuX, int menuY, CImage* picture)
@@ -29,60 +27,40 @@ bool CMenu::MenuCreate(int menuX, int menuY, CImage* picture)
     x = menuX;
     y = menuY;
     background = picture;
-    buttons.reset(new (std::nothrow) MenuButton[MAX_BUTTONS]);
-    toggles.reset(new (std::nothrow) MenuToggle[MAX_TOGGLES]);
-    texts.reset(new (std::nothrow) MenuText[MAX_TEXTS]);
-    return (buttons != nullptr && toggles != nullptr && texts != nullptr) || FailWith(ENGINE_ALLOCATE_MEMORY);
+    return true;
 }
 
 void CMenu::MenuFree()
 {
-    buttons.reset();
-    toggles.reset();
-    texts.reset();
-    buttonCount = 0;
-    toggleCount = 0;
-    textCount = 0;
+    buttonCount = toggleCount = textCount = 0;
 }
 
 bool CMenu::AddButton(const MenuButton& button)
 {
-    if (buttons == nullptr || buttonCount == MAX_BUTTONS)
-        return false;
-    buttons[buttonCount++] = button;
-    return true;
+    return AddItem(buttons, buttonCount, button);
 }
 
 bool CMenu::AddToggle(const MenuToggle& toggle)
 {
-    if (toggles == nullptr || toggleCount == MAX_TOGGLES)
-        return false;
-    toggles[toggleCount++] = toggle;
-    return true;
+    return AddItem(toggles, toggleCount, toggle);
 }
 
-bool CMenu::AddText(MenuText text)
+bool CMenu::AddText(const MenuText& text)
 {
-    if (texts == nullptr || textCount == MAX_TEXTS)
-        return false;
-    text.text.reset(new (std::nothrow) char[MENU_TEXT_SIZE]());
-    if (text.text == nullptr)
-        return FailWith(ENGINE_ALLOCATE_MEMORY);
-    texts[textCount++] = std::move(text);
-    return true;
+    return AddItem(texts, textCount, text);
 }
 
 MenuButton* CMenu::FindButton(int id)
 {
-    return FindItem(buttons.get(), buttonCount, id);
+    return FindItem(buttons, buttonCount, id);
 }
 
 MenuToggle* CMenu::FindToggle(int id)
 {
-    return FindItem(toggles.get(), toggleCount, id);
+    return FindItem(toggles, toggleCount, id);
 }
 
 MenuText* CMenu::FindText(int id)
 {
-    return FindItem(texts.get(), textCount, id);
+    return FindItem(texts, textCount, id);
 }

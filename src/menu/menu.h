@@ -4,7 +4,6 @@
 #include "gfx/text_image.h"
 
 #include <cstdint>
-#include <memory>
 
 /// Where an item is, in pixels relative to the menu.
 struct MenuBox {
@@ -52,13 +51,13 @@ struct MenuText {
     int32_t id = 0;
     MenuBox box = {};
     CImage* image = nullptr;
-    CTextImage* font = nullptr;             ///< not owned
-    uint16_t colour = 0;                    ///< RGB565
-    uint16_t focusColour = 0;               ///< of text and cursor while focused
-    std::unique_ptr<char[]> text = nullptr; ///< MENU_TEXT_SIZE bytes, zero-terminated; the owner may write it
-    int32_t key = 0;                        ///< in key capture: the virtual-key code captured last
-    int32_t maxLength = 0;                  ///< of typed text
-    int32_t room = 0;                       ///< width around the box's middle beyond which nothing is drawn; 0 = any
+    CTextImage* font = nullptr;     ///< not owned
+    uint16_t colour = 0;            ///< RGB565
+    uint16_t focusColour = 0;       ///< of text and cursor while focused
+    char text[MENU_TEXT_SIZE] = {}; ///< zero-terminated; the owner may write it
+    int32_t key = 0;                ///< in key capture: the virtual-key code captured last
+    int32_t maxLength = 0;          ///< of typed text
+    int32_t room = 0;               ///< width around the box's middle beyond which nothing is drawn; 0 = any
     int32_t align = ALIGN_LEFT;
     int32_t mode = TEXT_ENTRY;
     bool focused = false; ///< takes the keyboard; set and cleared by the owner
@@ -77,18 +76,18 @@ public:
     static constexpr int MAX_TEXTS = 20;
 
     CMenu() = default;
-    virtual ~CMenu();
+    virtual ~CMenu() = default;
     CMenu(const CMenu&) = delete;
     CMenu& operator=(const CMenu&) = delete;
 
-    /// Position, background (not owned, may be null) and room for the items. False when memory runs out.
+    /// Position and background (not owned, may be null) of a menu without items yet. Always true.
     bool MenuCreate(int menuX, int menuY, CImage* picture);
+    /// Drops the items.
     void MenuFree();
     /// The Add operations append a copy and answer false when their list is full.
     bool AddButton(const MenuButton& button);
     bool AddToggle(const MenuToggle& toggle);
-    /// Gives the text its buffer; false also when memory runs out.
-    bool AddText(MenuText text);
+    bool AddText(const MenuText& text);
     /// The first item with that id, or null.
     MenuButton* FindButton(int id);
     MenuToggle* FindToggle(int id);
@@ -108,9 +107,9 @@ public:
     int32_t buttonCount = 0;
     int32_t toggleCount = 0;
     int32_t textCount = 0;
-    std::unique_ptr<MenuButton[]> buttons;
-    std::unique_ptr<MenuToggle[]> toggles;
-    std::unique_ptr<MenuText[]> texts;
+    MenuButton buttons[MAX_BUTTONS];
+    MenuToggle toggles[MAX_TOGGLES];
+    MenuText texts[MAX_TEXTS];
     int32_t hoveredButton = -1; ///< ids under the mouse in the last frame, -1 none
     int32_t hoveredToggle = -1;
     int32_t cursorBlink = 1;
@@ -118,7 +117,7 @@ public:
 private:
     void DrawButtons(CImage& target) const;
     void DrawToggles(CImage& target) const;
-    void DrawTexts(CImage& target) const;
+    void DrawTexts(CImage& target);
     void ProcessButtons(CImage& target);
     void ProcessToggles(CImage& target);
     void ProcessTexts(CImage& target);

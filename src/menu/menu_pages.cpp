@@ -2,7 +2,6 @@
 #include "app/loading_steps.h"
 #include "app/log.h"
 #include "menu/menu_items.h"
-#include "menu/menu_pictures.h"
 #include "menu/section_menu.h"
 #include "sound/sound.h"
 
@@ -22,17 +21,6 @@ constexpr SoundFile menuSounds[] = {
     { SOUND_MENU_ENV_LAST, "Wav\\env13.wav" },
 };
 static_assert(AllIdsDiffer(menuSounds));
-
-struct MenuFont {
-    CTextImage CSectionMenu::*text;
-    int height; ///< pixels
-    int width;
-};
-
-constexpr MenuFont menuFonts[] = {
-    { &CSectionMenu::smallFont, 13, 5 },
-    { &CSectionMenu::largeFont, 18, 6 },
-};
 
 /// A part of a strip of pictures, from its top.
 struct PictureView {
@@ -117,9 +105,9 @@ constexpr RankingColumn rankingColumns[] = {
 };
 constexpr int RANKING_ROW_HEIGHT = 20;
 
-bool CreateCentred(CMenu& page, CImage& picture)
+void CreateCentred(CMenu& page, CImage& picture)
 {
-    return page.MenuCreate((backBuffer.width - picture.width) / 2, (backBuffer.height - picture.height) / 2, &picture);
+    page.MenuCreate((backBuffer.width - picture.width) / 2, (backBuffer.height - picture.height) / 2, &picture);
 }
 
 }
@@ -133,20 +121,14 @@ bool CSectionMenu::LoadSounds()
 
 bool CSectionMenu::LoadFonts()
 {
-    for (const MenuFont& row : menuFonts) {
-        // The text image keeps using the font, so it is never deleted.
-        const HFONT font = CreateVerdana(row.height, row.width);
-        if (!(this->*row.text).TextImageCreate(font, TEXT_GREY_LEVELS, TEXT_GLYPH_SLOTS))
-            return false;
-    }
-    return true;
+    // The text images keep using the fonts, so these are never deleted.
+    return smallFont.TextImageCreate(CreateVerdana(13, 5), TEXT_GREY_LEVELS, TEXT_GLYPH_SLOTS) &&
+           largeFont.TextImageCreate(CreateVerdana(18, 6), TEXT_GREY_LEVELS, TEXT_GLYPH_SLOTS);
 }
 
 bool CSectionMenu::LoadImages()
 {
-    if (!AllocateImages(images, MENU_IMAGES))
-        return false;
-    const std::span<CImage> sets[] = { { images.get(), MENU_IMAGES } };
+    const std::span<CImage> sets[] = { images };
     if (!LoadPictures(sets, menuPictures))
         return false;
     for (const PictureView& view : pictureViews)
@@ -154,74 +136,60 @@ bool CSectionMenu::LoadImages()
     return true;
 }
 
-bool CSectionMenu::BuildMainMenu()
+void CSectionMenu::BuildMainMenu()
 {
-    const bool created = mainMenu.MenuCreate(0, 0, &images[PICTURE_MAIN_MENU]);
+    mainMenu.MenuCreate(0, 0, &images[PICTURE_MAIN_MENU]);
     for (const auto& [id, box, hoverPicture] : mainButtons)
         mainMenu.AddButton({ .id = id,
                              .box = box,
                              .hoverImage = &images[hoverPicture],
                              .hoverSound = SOUND_MENU_HOVER,
                              .clickSound = SOUND_MENU_CLICK });
-    return created;
 }
 
-bool CSectionMenu::BuildOptionsPage()
+void CSectionMenu::BuildOptionsPage()
 {
-    bool created = CreateCentred(optionsMenu, images[PICTURE_OPTIONS]);
+    CreateCentred(optionsMenu, images[PICTURE_OPTIONS]);
     for (const auto& [id, group, box, checkedPicture] : optionsToggles)
         optionsMenu.AddToggle({ .id = id, .group = group, .box = box, .checkedImage = &images[checkedPicture] });
     for (const KeyBinding& binding : keyBindings)
-        created = created && optionsMenu.AddText({ .id = binding.field,
-                                                   .box = { binding.x, binding.y, KEY_FIELD_SIZE, KEY_FIELD_SIZE },
-                                                   .font = &largeFont,
-                                                   .colour = TEXT_WHITE,
-                                                   .focusColour = TEXT_YELLOW,
-                                                   .maxLength = KEY_NAME_LENGTH,
-                                                   .align = ALIGN_CENTRE,
-                                                   .mode = KEY_CAPTURE });
-    return created;
+        optionsMenu.AddText({ .id = binding.field,
+                              .box = { binding.x, binding.y, KEY_FIELD_SIZE, KEY_FIELD_SIZE },
+                              .font = &largeFont,
+                              .colour = TEXT_WHITE,
+                              .focusColour = TEXT_YELLOW,
+                              .maxLength = KEY_NAME_LENGTH,
+                              .align = ALIGN_CENTRE,
+                              .mode = KEY_CAPTURE });
 }
 
-bool CSectionMenu::BuildRankingPage()
+void CSectionMenu::BuildRankingPage()
 {
-    bool created = CreateCentred(rankingMenu, images[PICTURE_RANKING]);
+    CreateCentred(rankingMenu, images[PICTURE_RANKING]);
     for (const auto& [firstId, top, room] : rankingColumns) {
         for (int place = 0; place < RANKING_PLACES; ++place)
-            created = created &&
-                      rankingMenu.AddText({ .id = firstId + place,
-                                            .box = { top.x, top.y + RANKING_ROW_HEIGHT * place, top.width, top.height },
-                                            .font = &smallFont,
-                                            .colour = TEXT_WHITE,
-                                            .focusColour = TEXT_YELLOW,
-                                            .maxLength = PLAYER_NAME_LENGTH,
-                                            .room = room,
-                                            .align = ALIGN_CENTRE });
+            rankingMenu.AddText({ .id = firstId + place,
+                                  .box = { top.x, top.y + RANKING_ROW_HEIGHT * place, top.width, top.height },
+                                  .font = &smallFont,
+                                  .colour = TEXT_WHITE,
+                                  .focusColour = TEXT_YELLOW,
+                                  .maxLength = PLAYER_NAME_LENGTH,
+                                  .room = room,
+                                  .align = ALIGN_CENTRE });
     }
-    return created;
-}
-
-bool CSectionMenu::BuildHelpPages()
-{
-    for (int page = 0; page < HELP_PAGES; ++page) {
-        if (!CreateCentred(helpMenus[page], images[PICTURE_HELP_FIRST + page]))
-            return false;
-        AddHelpButtons(helpMenus[page], BUTTON_HELP_FIRST, page);
-    }
-    return true;
-}
-
-void CSectionMenu::BuildFootButtons()
-{
-    for (const auto& [page, id, box] : footButtons)
-        (this->*page).AddButton({ .id = id, .box = box });
 }
 
 bool CSectionMenu::BuildPages()
 {
-    if (!BuildMainMenu() || !BuildOptionsPage() || !BuildRankingPage() || !BuildHelpPages())
-        return false;
-    BuildFootButtons();
+    BuildMainMenu();
+    BuildOptionsPage();
+    BuildRankingPage();
+    for (const auto& [page, id, box] : footButtons)
+        (this->*page).AddButton({ .id = id, .box = box });
+    for (int page = 0; page < HELP_PAGES; ++page) {
+        CreateCentred(helpMenus[page], images[PICTURE_HELP_FIRST + page]);
+        AddHelpButtons(helpMenus[page], BUTTON_HELP_FIRST, page);
+    }
     return true;
 }
 
@@ -238,7 +206,8 @@ bool CSectionMenu::DataLoad(bool& done)
 
 void CSectionMenu::UnDataLoad()
 {
-    images.reset();
+    for (CImage& image : images)
+        image.Free();
     mainMenu.MenuFree();
     optionsMenu.MenuFree();
     rankingMenu.MenuFree();

@@ -10,9 +10,9 @@ namespace
 // What buttons and toggles have in common.
 
 template <typename Item>
-std::span<Item> ItemsOf(const std::unique_ptr<Item[]>& items, int count)
+std::span<Item> ItemsOf(Item* items, int count)
 {
-    return { items.get(), static_cast<size_t>(count) };
+    return { items, static_cast<size_t>(count) };
 }
 
 /// The box's edges belong to it.

@@ -32,7 +32,7 @@ bool IsCharacterKey(int key)
 }
 
 /// Writes the key's name into the field; false for a key that has none, and the text stays.
-bool ShowKey(const MenuText& item, int key)
+bool ShowKey(MenuText& item, int key)
 {
     if (IsCharacterKey(key)) {
         item.text[0] = static_cast<char>(key);
@@ -41,7 +41,7 @@ bool ShowKey(const MenuText& item, int key)
     }
     for (const NamedKey& named : namedKeys) {
         if (named.code == key) {
-            std::snprintf(item.text.get(), MENU_TEXT_SIZE, "%s", named.name);
+            std::snprintf(item.text, sizeof item.text, "%s", named.name);
             return true;
         }
     }
@@ -65,7 +65,7 @@ bool IsNameCharacter(char c)
 
 void DeleteLast(MenuText& item)
 {
-    const size_t length = std::strlen(item.text.get());
+    const size_t length = std::strlen(item.text);
     if (length == 0)
         return;
     item.text[length - 1] = 0;
@@ -76,7 +76,7 @@ void DeleteLast(MenuText& item)
 /// A full field leaves key and character to others.
 void Append(MenuText& item, char c)
 {
-    const size_t length = std::strlen(item.text.get());
+    const size_t length = std::strlen(item.text);
     if (static_cast<int>(length) >= std::min(item.maxLength, MENU_TEXT_SIZE - 1))
         return;
     item.text[length] = c;
@@ -101,7 +101,7 @@ int RoomLeft(const CMenu& menu, const MenuText& item)
 
 void DrawLine(CImage& target, const MenuText& item, POINT place, uint16_t colour, bool hasCursor)
 {
-    const char* text = item.text.get();
+    const char* text = item.text;
     item.font->TextDraw(target, place.x, place.y, colour, text);
     if (hasCursor)
         item.font->TextDraw(target, place.x + item.font->TextWidth(text), place.y, colour, CURSOR);
@@ -111,7 +111,7 @@ void DrawLine(CImage& target, const MenuText& item, POINT place, uint16_t colour
 /// Where the text begins. One that is wider than its room shows its end while it is typed, else its beginning.
 int CMenu::TextLeft(const MenuText& item) const
 {
-    const int textWidth = item.font->TextWidth(item.text.get());
+    const int textWidth = item.font->TextWidth(item.text);
     int left = x + item.box.x;
     if (item.align == ALIGN_CENTRE)
         left += (item.box.width - textWidth) / 2;
@@ -139,10 +139,10 @@ void CMenu::DrawTextItem(CImage& target, const MenuText& item, uint16_t colour, 
         DrawLine(room, item, { left - roomLeft + room.x, top }, colour, hasCursor);
 }
 
-void CMenu::DrawTexts(CImage& target) const
+void CMenu::DrawTexts(CImage& target)
 {
     for (int i = 0; i < textCount; ++i) {
-        const MenuText& item = texts[i];
+        MenuText& item = texts[i];
         if (!item.isVisible)
             continue;
         if (item.image != nullptr)

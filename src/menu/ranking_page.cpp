@@ -42,13 +42,13 @@ void CSectionMenu::RankingPageFill()
     for (int place = 0; place < RANKING_PLACES; ++place) {
         MenuText& name = *rankingMenu.FindText(FIELD_NAME_FIRST + place);
         const bool isShownEmpty = rankNames[place][0] == 0 && !name.focused;
-        snprintf(name.text.get(), MENU_TEXT_SIZE, "%s", isShownEmpty ? EMPTY_PLACE : rankNames[place]);
+        snprintf(name.text, MENU_TEXT_SIZE, "%s", isShownEmpty ? EMPTY_PLACE : rankNames[place]);
 
         MenuText& score = *rankingMenu.FindText(FIELD_SCORE_FIRST + place);
         if (rankScores[place] > 0)
-            snprintf(score.text.get(), MENU_TEXT_SIZE, "%d", rankScores[place]);
+            snprintf(score.text, MENU_TEXT_SIZE, "%d", rankScores[place]);
         else
-            snprintf(score.text.get(), MENU_TEXT_SIZE, "%s", EMPTY_PLACE);
+            snprintf(score.text, MENU_TEXT_SIZE, "%s", EMPTY_PLACE);
     }
 }
 
@@ -57,8 +57,8 @@ void CSectionMenu::RankingPageStore()
     for (int place = 0; place < RANKING_PLACES; ++place) {
         MenuText& name = *rankingMenu.FindText(FIELD_NAME_FIRST + place);
         name.focused = false;
-        const bool isEmpty = strcmp(name.text.get(), EMPTY_PLACE) == 0;
-        snprintf(rankNames[place], NAME_BYTES, "%s", isEmpty ? "" : name.text.get());
+        const bool isEmpty = strcmp(name.text, EMPTY_PLACE) == 0;
+        snprintf(rankNames[place], NAME_BYTES, "%s", isEmpty ? "" : name.text);
     }
 }
 

@@ -6,7 +6,7 @@
 #include "app/log.h"
 #include "app/random.h"
 #include "app/scenes.h"
-#include "gfx/blit.h"
+#include "gfx/image.h"
 #include "menu/menu_items.h"
 #include "platform/kernel.h"
 #include "platform/shell.h"
@@ -25,6 +25,11 @@ constexpr DWORD NO_FOCUS_SLEEP_MS = 100;
 constexpr uint32_t STILL_OPACITY = 128; // half brightness
 constexpr int AMBIENCE_FRAMES = 1000;   // each ambience sound comes once in as many frames, on average
 
+void OpenHomePage()
+{
+    ShowWindow(gameWindow, SW_MINIMIZE);
+    ShellExecuteA(gameWindow, nullptr, HOME_PAGE, nullptr, nullptr, SW_SHOWNORMAL);
+}
 }
 
 CSectionMenu::~CSectionMenu()
@@ -101,12 +106,15 @@ bool CSectionMenu::MainMenuProcess()
 {
     struct Row {
         int button;
-        void (CSectionMenu::*act)();
+        void (*act)(CSectionMenu& menu);
     };
     static constexpr Row actions[] = {
-        { BUTTON_HOME_PAGE, &CSectionMenu::OpenHomePage },      { BUTTON_ONE_PLAYER, &CSectionMenu::StartOnePlayer },
-        { BUTTON_TWO_PLAYERS, &CSectionMenu::StartTwoPlayers }, { BUTTON_RANKING, &CSectionMenu::OpenRanking },
-        { BUTTON_OPTIONS, &CSectionMenu::OpenOptions },         { BUTTON_HELP, &CSectionMenu::OpenHelp },
+        { BUTTON_HOME_PAGE, [](CSectionMenu&) { OpenHomePage(); } },
+        { BUTTON_ONE_PLAYER, [](CSectionMenu& menu) { menu.StartGame(0); } },
+        { BUTTON_TWO_PLAYERS, [](CSectionMenu& menu) { menu.StartGame(1); } },
+        { BUTTON_RANKING, [](CSectionMenu& menu) { menu.OpenRanking(); } },
+        { BUTTON_OPTIONS, [](CSectionMenu& menu) { menu.OpenOptions(); } },
+        { BUTTON_HELP, [](CSectionMenu& menu) { menu.OpenHelp(); } },
     };
 
     const auto isVisible = [](const CMenu& page) { return page.isVisible; };
@@ -114,7 +122,7 @@ bool CSectionMenu::MainMenuProcess()
         mainMenu.FindButton(BUTTON_HELP)->clicked = true;
     for (const Row& row : actions) {
         if (mainMenu.FindButton(row.button)->clicked) {
-            (this->*row.act)();
+            row.act(*this);
             return true;
         }
     }
@@ -122,22 +130,6 @@ bool CSectionMenu::MainMenuProcess()
         return true;
     DestroyWindow(gameWindow);
     return false;
-}
-
-void CSectionMenu::OpenHomePage()
-{
-    ShowWindow(gameWindow, SW_MINIMIZE);
-    ShellExecuteA(gameWindow, nullptr, HOME_PAGE, nullptr, nullptr, SW_SHOWNORMAL);
-}
-
-void CSectionMenu::StartOnePlayer()
-{
-    StartGame(0);
-}
-
-void CSectionMenu::StartTwoPlayers()
-{
-    StartGame(1);
 }
 
 void CSectionMenu::StartGame(uint32_t secondPlayer)

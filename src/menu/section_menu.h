@@ -5,11 +5,11 @@
 #include "gfx/text_image.h"
 #include "menu/help_page.h"
 #include "menu/menu.h"
+#include "menu/menu_pictures.h"
 #include "menu/settings.h"
 
 #include <array>
 #include <cstdint>
-#include <memory>
 
 /// The product's page, relative to the program's folder, which is the current one.
 constexpr char HOME_PAGE[] = "docs\\index.html";
@@ -44,7 +44,7 @@ public:
     void OptionsApply();
     void OptionsDefault();
 
-    std::unique_ptr<CImage[]> images;
+    CImage images[MENU_IMAGES];
     CMenu mainMenu;
     CMenu optionsMenu;
     CMenu rankingMenu;
@@ -65,17 +65,12 @@ private:
     bool LoadFonts();
     bool LoadImages();
     bool BuildPages();
-    bool BuildMainMenu();
-    bool BuildOptionsPage();
-    bool BuildRankingPage();
-    bool BuildHelpPages();
-    void BuildFootButtons();
+    void BuildMainMenu();
+    void BuildOptionsPage();
+    void BuildRankingPage();
 
     void DrawBackground();
     bool MainMenuProcess();
-    void OpenHomePage();
-    void StartOnePlayer();
-    void StartTwoPlayers();
     void StartGame(uint32_t secondPlayer);
     void OpenRanking();
     void OpenOptions();

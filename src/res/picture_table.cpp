@@ -7,10 +7,9 @@
 
 namespace
 {
-using ImageSets = std::span<const std::span<CImage>>;
 using Rows = std::span<const PictureRow>;
 
-CImage& ImageOf(ImageSets sets, const PictureRow& row, int index)
+CImage& ImageOf(PictureSets sets, const PictureRow& row, int index)
 {
     return sets[static_cast<size_t>(row.set)][static_cast<size_t>(row.image) + static_cast<size_t>(index)];
 }
@@ -32,7 +31,7 @@ bool ApplyMask(CImage& image, const CImage& mask)
 }
 
 /// One picture of each row, which share a mask.
-bool LoadMasked(ImageSets sets, Rows rows, int index)
+bool LoadMasked(PictureSets sets, Rows rows, int index)
 {
     for (const PictureRow& row : rows)
         if (!LoadPicture(ImageOf(sets, row, index), row, index))
@@ -45,7 +44,7 @@ bool LoadMasked(ImageSets sets, Rows rows, int index)
 }
 }
 
-bool LoadPictures(ImageSets sets, Rows rows)
+bool LoadPictures(PictureSets sets, Rows rows)
 {
     while (!rows.empty()) {
         const auto isOther = [&rows](const PictureRow& row) { return !ShareMask(row, rows[0]); };
@@ -57,6 +56,13 @@ bool LoadPictures(ImageSets sets, Rows rows)
         rows = rows.subspan(count);
     }
     return true;
+}
+
+void FreeImages(PictureSets sets)
+{
+    for (const std::span<CImage>& set : sets)
+        for (CImage& image : set)
+            image.Free();
 }
 
 FilePath PicturePath(const char* file, int index)

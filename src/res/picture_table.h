@@ -37,9 +37,11 @@ constexpr PictureSize SizeOf(const PictureRow& row, int index)
     return row.sides == nullptr ? row.size : PictureSize{ row.sides[index], row.sides[index] };
 }
 
-/// Loads the rows in their order; sets and images must be there. False at the first file that cannot be loaded, with
-/// its error in `lastError`.
-bool LoadPictures(std::span<const std::span<CImage>> sets, std::span<const PictureRow> rows);
+/// An owner's images, by the `set` of its rows.
+using PictureSets = std::span<const std::span<CImage>>;
+/// Loads the rows in their order. False at the first file that cannot be loaded, with its error in `lastError`.
+bool LoadPictures(PictureSets sets, std::span<const PictureRow> rows);
+void FreeImages(PictureSets sets);
 
 using FilePath = std::array<char, 64>; ///< zero-terminated
 /// The file of picture `index` of a series, from 0, as the file layer takes it.

@@ -1,4 +1,4 @@
-#include "gfx/blit.h"
+#include "gfx/image.h"
 
 #include "gfx/clip.h"
 #include "gfx/pixel_rules.h"

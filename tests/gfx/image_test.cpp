@@ -1,6 +1,5 @@
 #include "gfx/image.h"
 
-#include "gfx/blit.h"
 #include "gfx/error.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-#include "gfx/blit.h"
 #include "gfx/error.h"
+#include "gfx/image.h"
 #include "res/image_loader.h"
 #include "support/file_bytes.h"
 

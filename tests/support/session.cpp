@@ -9,7 +9,6 @@
 #include "app/scenes.h"
 #include "app/section_load.h"
 #include "game/geometry.h"
-#include "game/scenery.h"
 #include "game/section_main.h"
 #include "game/water.h"
 #include "gfx/display.h"

@@ -5,7 +5,6 @@
 #include "app/random.h"
 #include "app/scenes.h"
 #include "app/section_load.h"
-#include "game/scenery.h"
 #include "game/section_main.h"
 #include "game/water.h"
 #include "gfx/display.h"
@@ -81,7 +80,7 @@ void AddSnake(FieldList& list, const std::string& name, CSnake& s)
     for (int i = 0; i < s.turnCount; ++i)
         list.Add(At(name + ".turn", i), s.turnQueue[i]);
     list.AddText(name + ".pictures",
-                 std::to_string(s.bodyImage.width + s.shadowImage.width) + (s.arrowImages ? "+arrows" : ""));
+                 std::to_string(s.bodyImage.width + s.shadowImage.width) + (s.arrowImages[0].pixels ? "+arrows" : ""));
 }
 
 void AddMenu(FieldList& list, const std::string& name, CMenu& menu)
@@ -92,7 +91,7 @@ void AddMenu(FieldList& list, const std::string& name, CMenu& menu)
         list.Add(At(name + ".checked", menu.toggles[i].id), menu.toggles[i].checked);
     for (int i = 0; i < menu.textCount; ++i) {
         MenuText& item = menu.texts[i];
-        list.AddText(At(name + ".text", item.id), item.text.get());
+        list.AddText(At(name + ".text", item.id), item.text);
         list.AddText(At(name + ".colour", item.id), std::to_string(item.colour));
         list.Add(At(name + ".focused", item.id), item.focused);
         list.Add(At(name + ".key", item.id), item.key);

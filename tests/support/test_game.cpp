@@ -3,7 +3,6 @@
 #include "app/frame_images.h"
 #include "app/random.h"
 #include "app/scenes.h"
-#include "game/scenery.h"
 #include "game/water.h"
 
 PondTest::PondTest()
