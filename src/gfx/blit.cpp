@@ -10,22 +10,22 @@ SourceBox BoxOf(const CImage& image)
     return { image.x, image.y, image.width, image.height };
 }
 
-/// Applies kernel(source pixels, target pixels, count, weight...) to each visible row.
+/// Applies kernel(target pixels, count, source pixels, weight...) to each visible row.
 template <typename Kernel, typename... Weight>
 void DrawRows(CImage& target, const CImage& source, Kernel kernel, Weight... weight)
 {
     ForEachVisibleRow(target, BoxOf(source), [&](int row, int column, uint16_t* pixels, size_t count) {
-        kernel(source.Row(row) + column, pixels, count, weight...);
+        kernel(pixels, count, source.Row(row) + column, weight...);
     });
 }
 
-/// Applies kernel(source pixels, source alpha, target pixels, count, scale...) to each visible row. A kernel may read
+/// Applies kernel(target pixels, count, source pixels, source alpha, scale...) to each visible row. A kernel may read
 /// three values past the row's end: behind the last row lies the plane's slack.
 template <typename Kernel, typename... Scale>
 void DrawAlphaRows(CImage& target, const CImage& source, Kernel kernel, Scale... scale)
 {
     ForEachVisibleRow(target, BoxOf(source), [&](int row, int column, uint16_t* pixels, size_t count) {
-        kernel(source.Row(row) + column, source.AlphaRow(row) + column, pixels, count, scale...);
+        kernel(pixels, count, source.Row(row) + column, source.AlphaRow(row) + column, scale...);
     });
 }
 
@@ -87,6 +87,6 @@ void BlitGlyphSmooth(CImage& target, const GlyphView& glyph)
     const RowKernels::GlyphRow kernel = BestRowKernels().glyph;
     ForEachVisibleRow(target, box, [&](int row, int column, uint16_t* pixels, size_t count) {
         const uint8_t* coverage = glyph.bits + static_cast<ptrdiff_t>(row) * glyph.width + column;
-        kernel(coverage, pixels, count, glyph.colour);
+        kernel(pixels, count, coverage, glyph.colour);
     });
 }

@@ -5,14 +5,14 @@
 
 namespace
 {
-/// Applies kernel(source row, target row, pixel count) to each row, in whole groups of four pixels.
+/// Applies kernel(target row, pixel count, source row) to each row, in whole groups of four pixels.
 template <typename Kernel>
 void ConvertRows(const CImage& image, void* surface, int rowSkip, Kernel kernel)
 {
     const int count = image.width / 4 * 4;
     uint8_t* target = static_cast<uint8_t*>(surface);
     for (int row = 0; row < image.height; ++row) {
-        kernel(image.Row(row), reinterpret_cast<uint16_t*>(target), static_cast<size_t>(count));
+        kernel(reinterpret_cast<uint16_t*>(target), static_cast<size_t>(count), image.Row(row));
         target += 2 * count + rowSkip;
     }
 }

@@ -38,10 +38,11 @@ struct TargetRule {
     }
 };
 
-template <class PixelRule>
-void MapRow(const PixelRule& rule, uint16_t* target, size_t count)
+/// Makes a row by a rule for pixels, which is made of what is given.
+template <class PixelRule, class... Given>
+void RuleRow(uint16_t* target, size_t count, Given... given)
 {
-    ApplyToRow(hn::ScalableTag<uint16_t>(), TargetRule<PixelRule>{ rule, target }, 0, count);
+    ApplyToRow(hn::ScalableTag<uint16_t>(), TargetRule<PixelRule>{ { given... }, target }, 0, count);
 }
 
 /// Pixels from vectors that each have one channel in its place; blue has nothing beside it.
@@ -252,52 +253,24 @@ struct Rgb555Rule {
     }
 };
 
-void CopyRow(const uint16_t* source, uint16_t* target, size_t count)
+void CopyRow(uint16_t* target, size_t count, const uint16_t* source)
 {
     std::memmove(target, source, count * sizeof(uint16_t)); // has its own forms for each instruction set
-}
-
-/// MapRow for a rule made of the arguments around target and count.
-template <class Rule>
-void SourceRow(const uint16_t* source, uint16_t* target, size_t count)
-{
-    MapRow(Rule{ source }, target, count);
-}
-
-template <class Rule>
-void WeightedRow(const uint16_t* source, uint16_t* target, size_t count, int weight)
-{
-    MapRow(Rule{ source, weight }, target, count);
-}
-
-void AlphaRow(const uint16_t* source, const uint8_t* alpha, uint16_t* target, size_t count)
-{
-    MapRow(AlphaRule{ source, alpha }, target, count);
-}
-
-void AlphaOpacityRow(const uint16_t* source, const uint8_t* alpha, uint16_t* target, size_t count, int scale)
-{
-    MapRow(AlphaOpacityRule{ source, alpha, scale }, target, count);
-}
-
-void GlyphRow(const uint8_t* coverage, uint16_t* target, size_t count, uint16_t colour)
-{
-    MapRow(GlyphRule{ coverage, colour }, target, count);
 }
 
 const RowKernels& Kernels()
 {
     static constexpr RowKernels kernels = {
         .copy = CopyRow,
-        .colorKey = SourceRow<ColorKeyRule>,
-        .add = SourceRow<AddRule>,
-        .sub = SourceRow<SubRule>,
-        .alpha = AlphaRow,
-        .alphaOpacity = AlphaOpacityRow,
-        .opacityColorKey = WeightedRow<OpacityColorKeyRule>,
-        .fadeToBlack = WeightedRow<FadeToBlackRule>,
-        .glyph = GlyphRow,
-        .toRgb555 = SourceRow<Rgb555Rule>,
+        .colorKey = RuleRow<ColorKeyRule>,
+        .add = RuleRow<AddRule>,
+        .sub = RuleRow<SubRule>,
+        .alpha = RuleRow<AlphaRule>,
+        .alphaOpacity = RuleRow<AlphaOpacityRule>,
+        .opacityColorKey = RuleRow<OpacityColorKeyRule>,
+        .fadeToBlack = RuleRow<FadeToBlackRule>,
+        .glyph = RuleRow<GlyphRule>,
+        .toRgb555 = RuleRow<Rgb555Rule>,
     };
     return kernels;
 }

@@ -6,12 +6,12 @@
 /// What the blit routines do to one row of `count` pixels. Nothing is written past the row's end, and nothing read
 /// there but what is said below. Rows of one image never overlap those of another, except that `copy` takes any.
 struct RowKernels {
-    using PixelRow = void (*)(const uint16_t* source, uint16_t* target, size_t count);
-    using AlphaRow = void (*)(const uint16_t* source, const uint8_t* alpha, uint16_t* target, size_t count);
-    using AlphaOpacityRow = void (*)(const uint16_t* source, const uint8_t* alpha, uint16_t* target, size_t count,
+    using PixelRow = void (*)(uint16_t* target, size_t count, const uint16_t* source);
+    using AlphaRow = void (*)(uint16_t* target, size_t count, const uint16_t* source, const uint8_t* alpha);
+    using AlphaOpacityRow = void (*)(uint16_t* target, size_t count, const uint16_t* source, const uint8_t* alpha,
                                      int scale);
-    using WeightedRow = void (*)(const uint16_t* source, uint16_t* target, size_t count, int weight);
-    using GlyphRow = void (*)(const uint8_t* coverage, uint16_t* target, size_t count, uint16_t colour);
+    using WeightedRow = void (*)(uint16_t* target, size_t count, const uint16_t* source, int weight);
+    using GlyphRow = void (*)(uint16_t* target, size_t count, const uint8_t* coverage, uint16_t colour);
 
     PixelRow copy;
     PixelRow colorKey;

@@ -47,7 +47,7 @@ void DrawIn555(CImage& target, const CImage& source)
 {
     const SourceBox box = { source.x, source.y, source.width, source.height };
     ForEachVisibleRow(target, box, [&](int row, int column, uint16_t* pixels, size_t count) {
-        BestRowKernels().toRgb555(source.Row(row) + column, pixels, count);
+        BestRowKernels().toRgb555(pixels, count, source.Row(row) + column);
     });
 }
 
