@@ -13,7 +13,7 @@ using WindowEvents = WindowFixture;
 /// However the events fall between the polls of a frame.
 TEST_F(WindowEvents, ReachTheGameAsMessages)
 {
-    std::ifstream file(TEST_DATA_DIR "/window_events.txt");
+    std::ifstream file(EVENTS_FILE);
     int cases = 0;
     for (std::string why, in, out; std::getline(file, why);) {
         if (why.empty() || why[0] == '#')

@@ -38,7 +38,7 @@ const std::map<UINT, std::string> otherSigns = {
 };
 /// Bits of a key's or character's word: once, with Alt, held before.
 const std::map<uint32_t, const char*> keyWords = {
-    { 1, "" }, { 0x20000001, "/Alt" }, { 0x40000001, "*" }, { 0x60000001, "/Alt*" }
+    { 1, "" }, { 0x20000001, ":Alt" }, { 0x40000001, "*" }, { 0x60000001, ":Alt*" }
 };
 
 std::string received; ///< in the frame in the making
@@ -57,7 +57,7 @@ std::string Describe(UINT message, WPARAM wParam, LPARAM lParam)
     const auto place = [](WORD word) { return std::to_string(static_cast<int16_t>(word)); };
     if (mouseSigns.contains(message))
         return mouseSigns.at(message) + place(LOWORD(lParam)) + "," + place(HIWORD(lParam));
-    return otherSigns.at(message) + (wParam != 0 ? code : "");
+    return otherSigns.at(message) + (wParam != 0 ? code : "") + (lParam != 0 ? "?" : "");
 }
 
 LRESULT Procedure(HWND target, UINT message, WPARAM wParam, LPARAM lParam)
@@ -73,7 +73,7 @@ SDL_Event KeyEvent(const std::string& word)
 {
     std::istringstream parts(word.substr(1));
     std::string part;
-    std::getline(parts, part, '/');
+    std::getline(parts, part, ':');
     std::replace(part.begin(), part.end(), '_', ' ');
     SDL_Event event = {};
     event.type = word[0] == '-' ? SDL_KEYUP : SDL_KEYDOWN;
@@ -81,7 +81,7 @@ SDL_Event KeyEvent(const std::string& word)
     SDL_Keysym& key = event.key.keysym;
     key.scancode = SDL_GetScancodeFromName(part.c_str());
     key.sym = SDL_GetKeyFromScancode(key.scancode);
-    while (std::getline(parts, part, '/'))
+    while (std::getline(parts, part, ':'))
         if (part[0] == '=')
             key.sym = SDL_GetKeyFromName(part.c_str() + 1);
         else

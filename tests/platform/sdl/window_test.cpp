@@ -50,15 +50,21 @@ INSTANTIATE_TEST_SUITE_P(Platform, EachWayWindowTest, testing::Values("software"
 
 TEST(FrameView, ShowsTheFrameAsLargeAsItFits)
 {
-    const std::pair<SDL_Point, SDL_Rect> cases[] = {
-        { { 1280, 1024 }, { 0, 32, 1280, 960 } },   // bars above and below
-        { { 1920, 1080 }, { 240, 0, 1440, 1080 } }, // bars left and right
-        { { 320, 200 }, { 26, 0, 267, 200 } },      // smaller than the frame
-        { { 1, 1 }, { 0, 0, 1, 1 } },
+    const struct {
+        SDL_Point area;
+        SDL_Rect shown;
+        int factor; ///< the nearest whole one
+    } cases[] = {
+        { { 1280, 1024 }, { 0, 32, 1280, 960 }, 2 },   // bars above and below
+        { { 1920, 1080 }, { 240, 0, 1440, 1080 }, 2 }, // bars left and right
+        { { 1600, 1200 }, { 0, 0, 1600, 1200 }, 2 },   // of two equally near ones the smaller
+        { { 320, 200 }, { 26, 0, 267, 200 }, 1 },      // smaller than the frame
+        { { 1, 1 }, { 0, 0, 1, 1 }, 1 },
     };
-    for (const auto& [area, expected] : cases) {
-        const SDL_Rect shown = FitFrame({ 640, 480 }, area);
-        EXPECT_TRUE(SDL_RectEquals(&shown, &expected)) << area.x;
+    for (const auto& row : cases) {
+        const SDL_Rect shown = FitFrame({ 640, 480 }, row.area);
+        EXPECT_TRUE(SDL_RectEquals(&shown, &row.shown)) << row.area.x;
+        EXPECT_EQ(NearestWholeFactor(640, shown.w), row.factor) << row.area.x;
     }
 }
 
