@@ -26,28 +26,14 @@ std::string Rest(std::istream& line)
     return rest;
 }
 
-void ReadAction(std::istream& line, Recording& recording)
-{
-    Action action{};
-    line >> action.frame >> action.verb;
-    action.arguments = Rest(line);
-    recording.actions.push_back(action);
-}
-
-void ReadChange(const std::string& line, Recording& recording)
-{
-    const size_t nameEnd = line.find(' ', 1);
-    recording.stretches.back().changes[line.substr(1, nameEnd - 1)] = line.substr(nameEnd + 1);
-}
-
 void ReadLine(const std::string& text, Recording& recording)
 {
-    if (text.starts_with(' '))
-        return ReadChange(text, recording);
     std::istringstream line(text);
     std::string word;
     line >> word;
-    if (word == "about")
+    if (text.starts_with(' '))
+        recording.stretches.back().changes[word] = Rest(line);
+    else if (word == "about")
         recording.about = Rest(line);
     else if (word == "seed")
         line >> recording.seed;
@@ -55,9 +41,11 @@ void ReadLine(const std::string& text, Recording& recording)
         line >> recording.players;
     else if (word == "frames")
         line >> recording.frames;
-    else if (word == "at")
-        ReadAction(line, recording);
-    else if (word == "shows")
+    else if (word == "at") {
+        Action& action = recording.actions.emplace_back();
+        line >> action.frame >> action.verb;
+        action.arguments = Rest(line);
+    } else if (word == "shows")
         recording.shows.push_back(Rest(line));
     else if (word == "stretch") {
         Stretch& stretch = recording.stretches.emplace_back();
@@ -82,18 +70,13 @@ void Apply(State& state, const Stretch& stretch)
         state[name] = value;
 }
 
-std::string ValueIn(const State& state, const std::string& name)
+std::string FirstDifference(State is, State was)
 {
-    const auto found = state.find(name);
-    return found == state.end() ? ABSENT : found->second;
-}
-
-std::string FirstDifference(const State& is, const State& was)
-{
-    for (const State* state : { &is, &was })
-        for (const auto& [name, value] : *state)
-            if (ValueIn(is, name) != ValueIn(was, name))
-                return name + " " + ValueIn(is, name) + ", was " + ValueIn(was, name);
+    for (const auto& [name, value] : was)
+        is.try_emplace(name, ABSENT);
+    for (const auto& [name, value] : is)
+        if (const std::string& old = was.try_emplace(name, ABSENT).first->second; old != value)
+            return name + " " + value + ", was " + old;
     return "no field that is written down";
 }
 }

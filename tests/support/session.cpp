@@ -16,7 +16,7 @@
 #include "menu/section_menu.h"
 #include "res/pack_file.h"
 #include "sound/sound.h"
-#include "support/sound_calls.h"
+#include "support/sounds_heard.h"
 #include "support/test_pictures.h"
 #include "support/test_system.h"
 
@@ -59,26 +59,12 @@ const TempFolder& ProgramFolder()
     return pictures.folder;
 }
 
-void Rebuild(CGame& object)
+/// As at the program's start.
+template <typename Object, typename... Arguments>
+void Rebuild(Object& object, Arguments... arguments)
 {
-    std::destroy_at(&object); // saves the settings
-    std::construct_at(&object, "Tervalis", SCREEN_WIDTH, SCREEN_HEIGHT, true);
-}
-
-template <typename Scene>
-void Rebuild(Scene& scene)
-{
-    std::destroy_at(&scene);
-    std::construct_at(&scene);
-}
-
-void SetField(const std::string& name, int value)
-{
-    const std::vector<StateField> fields = StateFields();
-    const StateField* field = FindField(fields, name);
-    if (field == nullptr)
-        throw std::runtime_error("there is no field " + name);
-    field->Set(value);
+    std::destroy_at(&object);
+    std::construct_at(&object, arguments...);
 }
 }
 
@@ -93,7 +79,7 @@ Session::Session(int players, uint32_t seed) : folderBefore(std::filesystem::cur
     std::filesystem::current_path(folder.Path()); // for the program has gone to its own
     ClearLog();
     SoundSetMute(0);
-    TakeSoundCalls();
+    soundsHeard = {};
     input = InputState{};
     SeedRandom(seed);
     if (players == Recording::FROM_START)
@@ -156,7 +142,7 @@ void Session::Do(const Action& action)
     int first = 0;
     int second = 0;
     if (action.verb == "set" && arguments >> name >> first)
-        return SetField(name, first);
+        return Field(name).Set(first);
     if (action.verb == "type") {
         const int character = action.arguments[0];
         Send(WM_KEYDOWN, static_cast<WPARAM>(std::toupper(character)));
@@ -176,24 +162,10 @@ void Session::Frame()
 {
     nextFrameTime = 0; // due
     game.FrameTick();
-    HearSounds();
     if (!IsRunning())
         input = InputState{}; // what a window is told while it goes differs between systems
     for (const Action& release : std::exchange(releases, {}))
         Do(release);
-}
-
-void Session::HearSounds()
-{
-    for (const SoundCall& call : TakeSoundCalls()) {
-        plays[static_cast<size_t>(call.id)] += call.plays;
-        sounds.Add(static_cast<uint64_t>(call.id * 4 + call.plays * 2 + call.loops));
-    }
-}
-
-uint64_t Session::TakeSoundSum()
-{
-    return std::exchange(sounds, {}).Value();
 }
 
 void Session::Close()
@@ -202,27 +174,35 @@ void Session::Close()
         return;
     if (requestedSection != nullptr)
         DestroyWindow(gameWindow);
-    HearSounds();
     MSG message = {};
     while (GetMessageA(&message, nullptr, 0, 0))
         ; // up to the one that ends the program
     isOpen = false;
-    input = InputState{}; // as in Frame
-    Rebuild(game);
+    input = InputState{};                                         // as in Frame
+    Rebuild(game, "Tervalis", SCREEN_WIDTH, SCREEN_HEIGHT, true); // saves the settings
     instanceMutex = nullptr;
     packTable[0].Close(); // or its file could not be removed on every system
 }
 
-std::vector<StateField> Session::Fields()
+StateFields Session::Fields() const
 {
-    std::vector<StateField> fields = StateFields();
-    for (int id = 0; id < SOUND_IDS; ++id)
-        fields.push_back({ At("plays", id), nullptr, &plays[static_cast<size_t>(id)], {} });
+    StateFields fields = ProgramState();
+    for (size_t id = 0; id < soundsHeard.plays.size(); ++id)
+        fields.emplace(At("plays", static_cast<int>(id)), soundsHeard.plays[id]);
     for (const auto& [name, value] : StoredSettings())
-        fields.push_back({ "stored." + name, nullptr, nullptr, value });
+        fields.emplace("stored." + name, value);
     std::istringstream log(ProgramFolder().ReadText("Log.txt"));
     std::string line;
     for (int number = 0; std::getline(log, line); ++number)
-        fields.push_back({ At("log", number), nullptr, nullptr, line });
+        fields.emplace(At("log", number), line);
     return fields;
+}
+
+StateField Session::Field(const std::string& name)
+{
+    if (!known.contains(name))
+        known = Fields();
+    if (!known.contains(name))
+        throw std::runtime_error("there is no field " + name);
+    return known.at(name);
 }

@@ -3,7 +3,6 @@
 #include "support/recording.h"
 #include "support/state_fields.h"
 
-#include <array>
 #include <string>
 #include <vector>
 
@@ -25,21 +24,17 @@ public:
     void Close();
 
     /// Everything: the program's own state, the sounds started so far, log lines and stored settings.
-    std::vector<StateField> Fields();
-    /// Of the sounds started and stopped since the last call, in order.
-    uint64_t TakeSoundSum();
+    StateFields Fields() const;
+    /// One of them, which refers to the program's value as long as the session lasts. Throws when there is none.
+    StateField Field(const std::string& name);
 
 private:
     void ResetProgram();
     void BeginGame(int players);
-    void HearSounds();
     void Send(unsigned message, uintptr_t wParam = 0, intptr_t lParam = 0);
 
-    static constexpr int SOUND_IDS = 31;
-
-    std::string folderBefore;               ///< the current one
-    std::array<int32_t, SOUND_IDS> plays{}; ///< by sound id
-    Checksum sounds;
+    std::string folderBefore;     ///< the current one
+    StateFields known;            ///< when a field was last missing among them
     std::vector<Action> releases; ///< of what is held for one frame
     bool isOpen = true;
 };

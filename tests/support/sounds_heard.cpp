@@ -1,19 +1,8 @@
-#include "support/sound_calls.h"
+#include "support/sounds_heard.h"
 
 #include "sound/sound.h"
 
-#include <utility>
-
-namespace
-{
-std::vector<SoundCall> calls;
-
-void Record(const SoundCall& call)
-{
-    if (SoundGetMute() == 0)
-        calls.push_back(call);
-}
-}
+SoundsHeard soundsHeard;
 
 // The linker leads the game's calls here (CMakeLists.txt).
 extern "C" {
@@ -25,17 +14,16 @@ bool WrapSoundStop(int id) asm("__wrap__Z9SoundStopi");
 
 bool WrapSoundPlay(int id, bool loop)
 {
-    Record({ id, true, loop });
+    if (SoundGetMute() == 0) {
+        soundsHeard.calls.Add(static_cast<uint64_t>(id * 4 + 2 + loop));
+        ++soundsHeard.plays.at(static_cast<size_t>(id));
+    }
     return RealSoundPlay(id, loop);
 }
 
 bool WrapSoundStop(int id)
 {
-    Record({ id, false, false });
+    if (SoundGetMute() == 0)
+        soundsHeard.calls.Add(static_cast<uint64_t>(id * 4));
     return RealSoundStop(id);
-}
-
-std::vector<SoundCall> TakeSoundCalls()
-{
-    return std::exchange(calls, {});
 }
