@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <memory>
 #include <random>
 #include <utility>
 
@@ -16,11 +15,6 @@ struct AlignedDelete {
     void operator()(uint8_t* bytes) const { operator delete[](bytes, ALIGNMENT); }
 };
 
-std::shared_ptr<uint8_t> MakeBytes(size_t count)
-{
-    return { new (ALIGNMENT) uint8_t[count](), AlignedDelete() };
-}
-
 void Time(benchmark::State& state, const std::function<Work()>& makeWork)
 {
     const Work work = makeWork();
@@ -29,6 +23,11 @@ void Time(benchmark::State& state, const std::function<Work()>& makeWork)
         benchmark::ClobberMemory();
     }
 }
+}
+
+std::shared_ptr<uint8_t> MakeBytes(size_t count)
+{
+    return { new (ALIGNMENT) uint8_t[count](), AlignedDelete() };
 }
 
 void MakeTestImage(CImage& image, int width, int height, unsigned seed)

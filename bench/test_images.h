@@ -5,10 +5,14 @@
 #include <benchmark/benchmark.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 
 /// Work to be timed, with all it works on.
 using Work = std::function<void()>;
+
+/// So many zeros, aligned as image planes are.
+std::shared_ptr<uint8_t> MakeBytes(size_t count);
 
 /// Fills the image with runs of random pixels and of transparent ones, and with random alpha values: no shortcut
 /// helps.

@@ -16,10 +16,9 @@ namespace HWY_NAMESPACE
 namespace hn = hwy::HWY_NAMESPACE;
 
 /// Applies rule.Vector(lanes, i) to as many pixels from i on as there are lanes, and rule.Pixel(i) to those left over.
-template <class Rule>
-void ForEachPixel(const Rule& rule, size_t count)
+template <class Lanes, class Rule>
+void ForEachPixel(Lanes lanes, const Rule& rule, size_t count)
 {
-    constexpr hn::CappedTag<uint32_t, ScaleKernels::MOST_LANES> lanes;
     size_t i = 0;
     if constexpr (hn::MaxLanes(lanes) > 1)
         for (const size_t step = hn::Lanes(lanes); i + step <= count; i += step)
@@ -28,12 +27,7 @@ void ForEachPixel(const Rule& rule, size_t count)
         rule.Pixel(i);
 }
 
-/// Times 255/31 or 2040/63, rounded down, for what such a part of a pixel can be.
-template <int FACTOR, int SHIFT, class Lanes, class V>
-V Widen(Lanes lanes, V part)
-{
-    return hn::ShiftRight<SHIFT>(hn::Mul(part, hn::Set(lanes, FACTOR)));
-}
+constexpr hn::CappedTag<uint32_t, ScaleKernels::MOST_LANES> pixels;
 
 struct ConvertRule {
     const uint16_t* source;
@@ -44,53 +38,69 @@ struct ConvertRule {
     template <class Lanes>
     void Vector(Lanes lanes, size_t i) const
     {
-        const hn::Rebind<uint16_t, Lanes> words;
-        const auto all = hn::LoadU(words, source + i);
-        const auto red = Widen<1053, 7>(words, hn::ShiftRight<11>(all));
-        const auto blue = Widen<1053, 7>(words, hn::And(all, hn::Set(words, 31)));
-        const auto highGreen = Widen<259, 3>(words, hn::And(hn::ShiftRight<8>(all), hn::Set(words, 7)));
-        const auto lowGreen = hn::And(hn::ShiftRight<3>(all), hn::Set(words, 28));
-        const auto low = hn::Or(hn::ShiftLeft<8>(hn::Add(highGreen, lowGreen)), blue);
-        const auto high = hn::PromoteTo(lanes, hn::Or(red, hn::Set(words, 0xFF00)));
-        hn::StoreU(hn::Or(hn::ShiftLeft<16>(high), hn::PromoteTo(lanes, low)), lanes, target + i);
+        const auto all = hn::LoadU(lanes, source + i);
+        const auto wide5 = hn::Set(lanes, 1053); // times 255/31, rounded down, after a shift by 7
+        const auto red = hn::ShiftRight<7>(hn::Mul(hn::ShiftRight<11>(all), wide5));
+        const auto blue = hn::ShiftRight<7>(hn::Mul(hn::And(all, hn::Set(lanes, 31)), wide5));
+        const auto highGreen = hn::MulHigh(hn::And(all, hn::Set(lanes, 0x0700)), hn::Set(lanes, 8288)); // 2040/63
+        const auto green = hn::Add(highGreen, hn::And(hn::ShiftRight<3>(all), hn::Set(lanes, 28)));
+        const auto low = hn::Or(hn::ShiftLeft<8>(green), blue);
+        hn::StoreInterleaved2(low, hn::Or(red, hn::Set(lanes, 0xFF00)), lanes, reinterpret_cast<uint16_t*>(target + i));
     }
 };
 
-/// MixPixels of each lane; the even and the odd bytes each in 16 bits.
+/// MixPixels of each lane: the changes of the even and the odd bytes, each in 16 bits.
 template <class Lanes, class V>
 V Mix(Lanes lanes, V a, V b, V weights)
 {
-    const hn::Repartition<uint16_t, Lanes> channels;
-    const auto from = hn::BitCast(channels, a);
-    const auto to = hn::BitCast(channels, b);
-    const auto parts = hn::BitCast(channels, hn::Or(weights, hn::ShiftLeft<16>(weights)));
-    const auto low = hn::Set(channels, 0x00FF);
-    const auto high = hn::Set(channels, 0xFF00);
-    const auto half = hn::Set(channels, 128);
-    const auto evenChange = hn::Mul(hn::Sub(hn::And(to, low), hn::And(from, low)), parts);
-    const auto oddChange = hn::Mul(hn::Sub(hn::ShiftRight<8>(to), hn::ShiftRight<8>(from)), parts);
-    const auto even = hn::Add(hn::Add(hn::ShiftLeft<8>(from), half), evenChange);
-    const auto odd = hn::Add(hn::Add(hn::And(from, high), half), oddChange);
-    return hn::BitCast(lanes, hn::Or(hn::ShiftRight<8>(even), hn::And(odd, high)));
+    const hn::Repartition<uint16_t, Lanes> bytes;
+    const hn::Repartition<int16_t, Lanes> channels;
+    const auto from = hn::BitCast(bytes, a);
+    const auto to = hn::BitCast(bytes, b);
+    const auto shares = hn::BitCast(channels, weights);
+    const auto low = hn::Set(bytes, 0x00FF);
+    const auto even = hn::BitCast(channels, hn::Sub(hn::And(to, low), hn::And(from, low)));
+    const auto odd = hn::BitCast(channels, hn::Sub(hn::ShiftRight<8>(to), hn::ShiftRight<8>(from)));
+    const auto evenPart = hn::MulFixedPoint15(even, shares);
+    const auto oddPart = hn::ShiftLeft<8>(hn::MulFixedPoint15(odd, shares));
+    return hn::BitCast(lanes, hn::Add(hn::Add(hn::BitCast(channels, from), evenPart), oddPart));
 }
 
-struct StretchRule {
+struct RepeatRule {
     const uint32_t* source;
-    const uint32_t* first;
-    const uint32_t* weights;
+    StretchTable table;
     uint32_t* target;
 
-    void Pixel(size_t i) const { target[i] = MixPixels(source[first[i]], source[first[i] + 1], weights[i]); }
+    void Pixel(size_t i) const { target[i] = source[table.first[i]]; }
 
     template <class Lanes>
     void Vector(Lanes lanes, size_t i) const
     {
-        const uint32_t* const part = source + first[i];
-        const auto offsets = hn::Sub(hn::LoadU(lanes, first + i), hn::Set(lanes, first[i]));
-        const auto indices = hn::IndicesFromVec(lanes, offsets);
-        const auto a = hn::TableLookupLanes(hn::LoadU(lanes, part), indices);
-        const auto b = hn::TableLookupLanes(hn::LoadU(lanes, part + 1), indices);
-        hn::StoreU(Mix(lanes, a, b, hn::LoadU(lanes, weights + i)), lanes, target + i);
+        const auto offsets = hn::IndicesFromVec(lanes, hn::LoadU(lanes, table.offsets + i));
+        const auto part = hn::LoadU(lanes, source + table.first[i]);
+        hn::StoreU(hn::TableLookupLanes(part, offsets), lanes, target + i);
+    }
+};
+
+struct StretchRule {
+    const uint32_t* source;
+    StretchTable table;
+    uint32_t* target;
+
+    void Pixel(size_t i) const
+    {
+        const uint32_t* const first = source + table.first[i];
+        target[i] = MixPixels(first[0], first[1], table.weights[i]);
+    }
+
+    template <class Lanes>
+    void Vector(Lanes lanes, size_t i) const
+    {
+        const auto offsets = hn::IndicesFromVec(lanes, hn::LoadU(lanes, table.offsets + i));
+        const uint32_t* const part = source + table.first[i];
+        const auto a = hn::TableLookupLanes(hn::LoadU(lanes, part), offsets);
+        const auto b = hn::TableLookupLanes(hn::LoadU(lanes, part + 1), offsets);
+        hn::StoreU(Mix(lanes, a, b, hn::LoadU(lanes, table.weights + i)), lanes, target + i);
     }
 };
 
@@ -110,28 +120,52 @@ struct MixRule {
     }
 };
 
-void ConvertRow(const uint16_t* source, uint32_t* target, size_t count)
+/// A row made shorter goes pixel by pixel: those of a vector lie too far apart.
+template <class Rule>
+void WidenRow(const Rule& rule, size_t count)
 {
-    ForEachPixel(ConvertRule{ source, target }, count);
+    if (rule.table.first[count - 1] < count)
+        return ForEachPixel(pixels, rule, count);
+    for (size_t i = 0; i < count; ++i)
+        rule.Pixel(i);
 }
 
-void StretchRow(const uint32_t* source, const uint32_t* first, const uint32_t* weights, uint32_t* target, size_t count)
+void ConvertRow(const uint16_t* source, uint32_t* target, size_t count)
 {
-    const StretchRule rule = { source, first, weights, target };
-    if (first[count - 1] < count)
-        return ForEachPixel(rule, count);
-    for (size_t i = 0; i < count; ++i) // a row made shorter: a vector's pixels lie too far apart
-        rule.Pixel(i);
+    ForEachPixel(hn::ScalableTag<uint16_t>(), ConvertRule{ source, target }, count);
+}
+
+void FindOffsets(const uint32_t* first, uint32_t* offsets, size_t count)
+{
+    const size_t step = hn::Lanes(pixels);
+    for (size_t i = 0; i < count; ++i)
+        offsets[i] = first[i] - first[i / step * step];
+}
+
+void RepeatRow(const uint32_t* source, const StretchTable& table, uint32_t* target, size_t count)
+{
+    WidenRow(RepeatRule{ source, table, target }, count);
+}
+
+void StretchRow(const uint32_t* source, const StretchTable& table, uint32_t* target, size_t count)
+{
+    WidenRow(StretchRule{ source, table, target }, count);
 }
 
 void MixRows(const uint32_t* upper, const uint32_t* lower, uint32_t weight, uint32_t* target, size_t count)
 {
-    ForEachPixel(MixRule{ upper, lower, weight, target }, count);
+    ForEachPixel(pixels, MixRule{ upper, lower, weight, target }, count);
 }
 
 const ScaleKernels& Kernels()
 {
-    static constexpr ScaleKernels kernels = { .convert = ConvertRow, .stretch = StretchRow, .mix = MixRows };
+    static constexpr ScaleKernels kernels = {
+        .convert = ConvertRow,
+        .findOffsets = FindOffsets,
+        .repeat = RepeatRow,
+        .stretch = StretchRow,
+        .mix = MixRows,
+    };
     return kernels;
 }
 }

@@ -72,18 +72,18 @@ private:
     ChangedAreas Scale(const KeptFrame& frame, const SDL_Surface& surface, bool all)
     {
         ChangedAreas changed;
-        const auto isWanted = [&](int row) { return all || scaler.ShowsAny(frame.changed.data(), row); };
-        for (int row = 0; row < place.h; ++row) {
-            const int begin = row;
-            while (row < place.h && isWanted(row))
+        const auto isWanted = [&](size_t row) { return all || scaler.ShowsAny(frame.changed.data(), row); };
+        const size_t height = static_cast<size_t>(place.h);
+        for (size_t row = 0; row < height; ++row) {
+            const size_t begin = row;
+            while (row < height && isWanted(row))
                 ++row;
             if (row == begin)
                 continue;
-            const int y = place.y + begin;
-            uint8_t* const target =
-                static_cast<uint8_t*>(surface.pixels) + ptrdiff_t{ y } * surface.pitch + place.x * 4;
-            scaler.ScaleRows(frame.pixels.data(), begin, row, target, surface.pitch);
-            changed.Add({ place.x, y, place.w, row - begin });
+            const int y = place.y + static_cast<int>(begin);
+            uint8_t* const target = static_cast<uint8_t*>(surface.pixels) + ptrdiff_t{ y } * surface.pitch;
+            scaler.ScaleRows(frame.pixels.data(), { begin, row, target + place.x * 4, surface.pitch });
+            changed.Add({ place.x, y, place.w, static_cast<int>(row - begin) });
         }
         return changed;
     }

@@ -72,8 +72,9 @@ TEST(FrameScaler, MagnifiesSharplyAndFromThereLinearly)
             std::vector<uint32_t> shown(expected.size(), GUARD);
             CFrameScaler scaler;
             scaler.SetSizes(FRAME, picture);
-            scaler.ScaleRows(pixels.data(), 0, picture.y, reinterpret_cast<uint8_t*>(shown.data()),
-                             static_cast<int>(pitch * 4));
+            uint8_t* const target = reinterpret_cast<uint8_t*>(shown.data());
+            const size_t rows = static_cast<size_t>(picture.y);
+            scaler.ScaleRows(pixels.data(), { 0, rows, target, static_cast<ptrdiff_t>(pitch * 4) });
             EXPECT_EQ(shown, expected) << picture.x;
         });
     }
