@@ -127,6 +127,18 @@ else
     enter_and_leave_full_screen xdotool mousemove $((viewLeft + 200)) $((viewTop - 10)) click --repeat 2 --delay 100 1
     enter_and_leave_full_screen wmctrl -r Tervalis -b add,maximized_vert,maximized_horz
 fi
+if ! is_wine; then
+    step "A larger window"
+    press ctrl+plus "the window is twice as large" is_at 1280x960
+    enter_full_screen press_alt_enter
+    press_alt_enter
+    await "it is as large again" is_at 1280x960
+    quit
+    start_program
+    await "the size is remembered" is_at 1280x960
+    await "the menu twice as large" shows_menu
+    press ctrl+0 "the window is as before" is_at "$homePlace"
+fi
 step "Full screen"
 enter_and_leave_full_screen press_alt_enter
 enter_full_screen press_alt_enter

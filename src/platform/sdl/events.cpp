@@ -64,6 +64,7 @@ void HandleWindowEvent(const SDL_WindowEvent& event)
     case SDL_WINDOWEVENT_MAXIMIZED:
         return Maximise();
     case SDL_WINDOWEVENT_RESIZED:
+    case SDL_WINDOWEVENT_DISPLAY_CHANGED: // whose pixels may be of another size
         return KeepClientSize();
     case SDL_WINDOWEVENT_SIZE_CHANGED:
     case SDL_WINDOWEVENT_EXPOSED:

@@ -5,7 +5,12 @@
 
 SDL_Rect FitFrame(SDL_Point frame, SDL_Point area)
 {
-    const double scale = std::min(static_cast<double>(area.x) / frame.x, static_cast<double>(area.y) / frame.y);
+    constexpr int SPARE = 4;
+    const int whole = std::min(area.x / frame.x, area.y / frame.y);
+    const int left = std::min(area.x - frame.x * whole, area.y - frame.y * whole);
+    const bool isWhole = whole > 0 && left < SPARE;
+    const double fitting = std::min(static_cast<double>(area.x) / frame.x, static_cast<double>(area.y) / frame.y);
+    const double scale = isWhole ? whole : fitting;
     const int width = std::max(1, static_cast<int>(std::lround(frame.x * scale)));
     const int height = std::max(1, static_cast<int>(std::lround(frame.y * scale)));
     return { (area.x - width) / 2, (area.y - height) / 2, width, height };

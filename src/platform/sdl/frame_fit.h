@@ -2,7 +2,8 @@
 
 #include <SDL.h>
 
-/// Where a frame lies in an area (pixels): as large as fits with its shape kept, in the middle.
+/// Where a frame lies in an area (pixels): as large as fits with its shape kept, in the middle. An area that is but a
+/// few pixels larger than a whole multiple, as desktops with a fractional scale make them, shows just that.
 SDL_Rect FitFrame(SDL_Point frame, SDL_Point area);
 
 /// The whole factor nearest to the one by which a frame of that width is shown, at least 1.

@@ -48,8 +48,11 @@ bool CFrameView::ShowOtherwise()
 
 POINT CFrameView::FramePosition(int x, int y) const
 {
+    SDL_Point units = {};
     SDL_Point area = {};
-    SDL_GetWindowSize(window, &area.x, &area.y);
+    SDL_GetWindowSize(window, &units.x, &units.y);
+    SDL_GetWindowSizeInPixels(window, &area.x, &area.y);
     const SDL_Rect shown = FitFrame(frame.size, area);
-    return { ScaleDown(x - shown.x, frame.size.x, shown.w), ScaleDown(y - shown.y, frame.size.y, shown.h) };
+    return { ScaleDown(ScaleDown(x, area.x, units.x) - shown.x, frame.size.x, shown.w),
+             ScaleDown(ScaleDown(y, area.y, units.y) - shown.y, frame.size.y, shown.h) };
 }

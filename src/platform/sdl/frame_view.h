@@ -24,7 +24,7 @@ public:
     void ShowChanges() { Show(false); }
     /// Puts the whole frame on the screen, for a window that has lost it.
     void ShowAll() { Show(true); }
-    /// The frame's pixel under a position in the window, also beyond the frame's edges.
+    /// The frame's pixel under a position in the window, in its own units, also beyond the frame's edges.
     POINT FramePosition(int x, int y) const;
 
 private:

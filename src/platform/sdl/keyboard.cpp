@@ -1,6 +1,7 @@
 #include "platform/sdl/keyboard.h"
 
 #include "platform/sdl/messages.h"
+#include "platform/sdl/zoom.h"
 
 #include <array>
 #include <memory>
@@ -10,6 +11,9 @@ namespace
 /// The code under which each key went down, 0 while it is up. Its release has the same one, even if NumLock or the
 /// layout changed between.
 std::array<int, SDL_NUM_SCANCODES> heldCodes = {};
+
+/// In place of such a code: the key went down as a command of the window's own, and the game hears nothing of it.
+constexpr int OWN_COMMAND = -1;
 
 struct ControlCharacter {
     int key;
@@ -25,8 +29,9 @@ constexpr ControlCharacter controlCharacters[] = {
     { VK_ESCAPE, 0x1B, 0x1B },
 };
 
-/// The modifiers and the word of the latest key, for the text that comes behind it.
+/// The modifiers, the code and the word of the latest key, for the text that comes behind it.
 Uint16 latestModifiers = 0;
+int latestCode = 0;
 LPARAM latestWord = 0;
 
 /// The right Alt key chooses characters on many layouts, as Mode does: no command then, whatever else is held.
@@ -79,14 +84,25 @@ void PostControlCharacter(int code, bool control)
     }
 }
 
+bool IsOwnCommand(const SDL_Keysym& key)
+{
+    return IsControl(key.mod) && !(key.mod & KMOD_LALT) && HandleZoomKey(key);
+}
+
+int CodeOfPress(const SDL_Keysym& key)
+{
+    return IsOwnCommand(key) ? OWN_COMMAND : VirtualKey(key, HasLatinLetters());
+}
+
 void PressKey(const SDL_Keysym& key, bool repeatedBySystem)
 {
     int& held = heldCodes[key.scancode];
-    const int code = held != 0 ? held : VirtualKey(key, HasLatinLetters());
+    const int code = held != 0 ? held : CodeOfPress(key);
+    latestCode = code;
     latestWord = KeyWord(IsAlt(key.mod), held != 0 || repeatedBySystem, false);
-    if (code == 0)
-        return;
     held = code;
+    if (code == 0 || code == OWN_COMMAND)
+        return;
     const bool system = IsSystemKey(code, key);
     PostToWindow(system ? WM_SYSKEYDOWN : WM_KEYDOWN, static_cast<WPARAM>(code), latestWord);
     if (!system)
@@ -97,9 +113,9 @@ void ReleaseKey(const SDL_Keysym& key)
 {
     int& held = heldCodes[key.scancode];
     const int code = held;
-    if (code == 0)
-        return;
     held = 0;
+    if (code == 0 || code == OWN_COMMAND)
+        return;
     PostToWindow(IsSystemKey(code, key) ? WM_SYSKEYUP : WM_KEYUP, static_cast<WPARAM>(code),
                  KeyWord(IsAlt(key.mod), true, true));
 }
@@ -115,7 +131,7 @@ void HandleKey(const SDL_KeyboardEvent& event)
 
 void HandleText(const char* text)
 {
-    if (IsControl(latestModifiers) || IsAlt(latestModifiers))
+    if (IsControl(latestModifiers) || IsAlt(latestModifiers) || latestCode == OWN_COMMAND)
         return;
     const std::unique_ptr<char, decltype(&SDL_free)> ansi(
         SDL_iconv_string("CP1252", "UTF-8", text, SDL_strlen(text) + 1), SDL_free);
@@ -127,9 +143,10 @@ void ReleaseHeldKeys()
 {
     for (int& held : heldCodes) {
         // Never as a system key: a release that nobody meant must not switch the display.
-        if (held != 0)
+        if (held != 0 && held != OWN_COMMAND)
             PostToWindow(WM_KEYUP, static_cast<WPARAM>(held), KeyWord(false, true, true));
         held = 0;
     }
     latestModifiers = 0;
+    latestCode = 0;
 }

@@ -1,5 +1,7 @@
 #include "platform/sdl/native_window.h"
 
+#include "platform/sdl/screen.h"
+#include "platform/sdl/window_factor.h"
 #include "platform/sdl/x11_screen.h"
 
 NativeWindow nativeWindow;
@@ -9,6 +11,11 @@ namespace
 bool SameSize(SDL_Point a, SDL_Point b)
 {
     return a.x == b.x && a.y == b.y;
+}
+
+SDL_Point WindowSize(const NativeWindow& window)
+{
+    return ShownSize(window.clientSize, window.factor, WindowDesktop().scale);
 }
 
 /// What the window manager has put above the client area, pixels; 0 where that is not known.
@@ -46,9 +53,17 @@ void SetClientSize(NativeWindow& window, SDL_Point size)
 {
     window.clientSize = size;
     window.refusals = 0;
-    SDL_SetWindowSize(window.handle, size.x, size.y);
-    SDL_SetWindowMinimumSize(window.handle, size.x, size.y);
+    const SDL_Point shown = WindowSize(window);
+    SDL_SetWindowMinimumSize(window.handle, shown.x, shown.y); // first, or it would keep a window from shrinking
+    SDL_SetWindowSize(window.handle, shown.x, shown.y);
     window.view.SetFrameSize(size);
+}
+
+void PlaceClientArea(NativeWindow& window, SDL_Point middle, const SDL_Rect& usable)
+{
+    const SDL_Rect place = PlaceAround(middle, WindowSize(window), usable);
+    window.clientPosition = { place.x, place.y };
+    SDL_SetWindowPosition(window.handle, place.x, place.y);
 }
 
 void KeepClientSize()
@@ -59,7 +74,8 @@ void KeepClientSize()
     SDL_Point now = {};
     SDL_GetWindowSize(nativeWindow.handle, &now.x, &now.y);
     const bool isOwnSize = SDL_GetWindowFlags(nativeWindow.handle) & (SDL_WINDOW_FULLSCREEN | SDL_WINDOW_MAXIMIZED);
-    if (isOwnSize || SameSize(now, nativeWindow.clientSize))
+    const SDL_Point wanted = WindowSize(nativeWindow);
+    if (isOwnSize || SameSize(now, wanted))
         return;
     const Uint32 time = SDL_GetTicks();
     const bool again = SameSize(now, nativeWindow.refusedSize) && time - nativeWindow.refusalTime < IN_A_ROW_MS;
@@ -68,16 +84,18 @@ void KeepClientSize()
     nativeWindow.refusalTime = time;
     // A tiling window manager insists on its size; the frame is then scaled to it.
     if (nativeWindow.refusals <= MOST_REFUSALS)
-        SDL_SetWindowSize(nativeWindow.handle, nativeWindow.clientSize.x, nativeWindow.clientSize.y);
+        SDL_SetWindowSize(nativeWindow.handle, wanted.x, wanted.y);
 }
 
 bool EnterFullScreen(NativeWindow& window, SDL_Point frameSize)
 {
     window.titleHeight = TitleHeight(window.handle);
+    const std::optional<SDL_Rect> screen = X11Screen(window.handle); // before the window is anywhere else
     if (!window.view.SetFrameSize(frameSize) ||
         SDL_SetWindowFullscreen(window.handle, SDL_WINDOW_FULLSCREEN_DESKTOP) != 0)
         return false;
-    CoverX11Screen(window.handle);
+    if (screen)
+        CoverX11Screen(window.handle, *screen);
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/sdl/x11_screen.h"
 #include "platform/window.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace
@@ -11,6 +12,20 @@ namespace
 bool NeedsNoScreen(std::string_view driver)
 {
     return driver == "dummy" || driver == "offscreen" || driver == "evdev";
+}
+
+int ScreenIndex()
+{
+    return std::max(0, nativeWindow.handle ? SDL_GetWindowDisplayIndex(nativeWindow.handle) : 0);
+}
+
+double PixelsPerUnit()
+{
+    int units = 0;
+    int pixels = 0;
+    SDL_GetWindowSize(nativeWindow.handle, &units, nullptr);
+    SDL_GetWindowSizeInPixels(nativeWindow.handle, &pixels, nullptr);
+    return units > 0 && pixels > 0 ? static_cast<double>(pixels) / units : 1;
 }
 }
 
@@ -45,17 +60,28 @@ bool HasScreen()
     return driver && !NeedsNoScreen(driver);
 }
 
-SDL_Rect MainScreen()
+SDL_Rect WindowScreen()
 {
-    if (const std::optional<SDL_Rect> area = X11MainScreen(nativeWindow.handle))
+    if (const std::optional<SDL_Rect> area = X11Screen(nativeWindow.handle))
         return *area;
     SDL_Rect area = {};
-    SDL_GetDisplayBounds(0, &area);
+    SDL_GetDisplayBounds(ScreenIndex(), &area);
     return area;
+}
+
+Desktop WindowDesktop()
+{
+    const SDL_Rect screen = WindowScreen();
+    SDL_Rect free = {};
+    SDL_Rect usable = {};
+    // SDL may take several screens for one, or remember one that has changed since.
+    const bool isKnown =
+        SDL_GetDisplayUsableBounds(ScreenIndex(), &free) == 0 && SDL_IntersectRect(&screen, &free, &usable);
+    return { isKnown ? usable : screen, PixelsPerUnit() };
 }
 
 int GetSystemMetrics(int index)
 {
-    const SDL_Rect screen = MainScreen();
+    const SDL_Rect screen = WindowScreen();
     return index == SM_CXSCREEN ? screen.w : index == SM_CYSCREEN ? screen.h : 0;
 }

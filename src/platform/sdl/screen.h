@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/sdl/window_factor.h"
+
 #include <SDL.h>
 #include <string>
 
@@ -13,5 +15,9 @@ std::string ScreenDrivers();
 /// Whether somebody can see what is shown.
 bool HasScreen();
 
-/// The main screen's area among all screens; empty when there is none.
-SDL_Rect MainScreen();
+/// The area, among all screens, of the one that the window shows on, of the main one before it shows; empty when there
+/// is none.
+SDL_Rect WindowScreen();
+
+/// What that screen has for the window.
+Desktop WindowDesktop();

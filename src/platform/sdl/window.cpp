@@ -3,6 +3,7 @@
 #include "platform/sdl/native_window.h"
 #include "platform/sdl/screen.h"
 #include "platform/sdl/signals.h"
+#include "platform/sdl/zoom.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -11,7 +12,7 @@ namespace
 {
 /// Title and border of the windows as the game reckons with them, pixels. The window manager's own may differ by a
 /// few pixels; SDL places and sizes windows by their client area, so that only the centring is off by that much.
-constexpr RECT FRAME = { 4, 26, 4, 4 };
+constexpr RECT FRAME = { 4, TITLE_HEIGHT, 4, 4 };
 
 WNDPROC registeredProcedure = nullptr;
 HICON registeredIcon = nullptr;
@@ -47,7 +48,7 @@ bool OpenWindow(LPCSTR title)
 {
     const SDL_Point size = nativeWindow.clientSize;
     nativeWindow.handle = SDL_CreateWindow(title, SDL_WINDOWPOS_UNDEFINED, SDL_WINDOWPOS_UNDEFINED, size.x, size.y,
-                                           SDL_WINDOW_HIDDEN | SDL_WINDOW_RESIZABLE);
+                                           SDL_WINDOW_HIDDEN | SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI);
     if (!nativeWindow.handle)
         return false;
     SetIcon(nativeWindow.handle, registeredIcon);
@@ -65,15 +66,18 @@ void CloseWindow()
     SDL_QuitSubSystem(SDL_INIT_VIDEO);
 }
 
-/// A window manager takes the position of a window that it has not seen yet as that of the frame it will put around it.
+/// The game places a window that shows its frame pixel by pixel; magnified, it has the same middle.
 void SetOuterPosition(NativeWindow& window, int x, int y)
 {
     const RECT frame = FrameOf(window.style);
-    const SDL_Rect screen = MainScreen();
-    const SDL_Point outer = { screen.x + x, screen.y + y };
-    window.clientPosition = { outer.x + frame.left, outer.y + frame.top };
-    const SDL_Point position = (window.style & WS_VISIBLE) ? window.clientPosition : outer;
-    SDL_SetWindowPosition(window.handle, position.x, position.y);
+    const SDL_Rect screen = WindowScreen();
+    const SDL_Point client = { screen.x + x + frame.left, screen.y + y + frame.top };
+    const SDL_Point middle = { client.x + window.clientSize.x / 2, client.y + window.clientSize.y / 2 };
+    PlaceClientArea(window, middle, WindowDesktop().usable);
+    // A window manager takes the position of a window that it has not seen yet as that of the frame it will put
+    // around it.
+    if (!(window.style & WS_VISIBLE))
+        SDL_SetWindowPosition(window.handle, window.clientPosition.x - frame.left, window.clientPosition.y - frame.top);
 }
 
 void ShowFirstTime(NativeWindow& window)
@@ -166,8 +170,11 @@ BOOL SetWindowPos(HWND handle, HWND, int x, int y, int width, int height, UINT f
     NativeWindow* window = WindowOf(handle);
     if (!window)
         return FALSE;
-    if (!(flags & SWP_NOSIZE))
-        SetClientSize(*window, ClientSize(width, height, window->style));
+    if (!(flags & SWP_NOSIZE)) {
+        window->clientSize = ClientSize(width, height, window->style);
+        ChooseFactor(*window);
+        SetClientSize(*window, window->clientSize);
+    }
     if (!(flags & SWP_NOMOVE))
         SetOuterPosition(*window, x, y);
     if ((flags & SWP_SHOWWINDOW) && !(window->style & WS_VISIBLE))

@@ -49,9 +49,29 @@ bool HasSize(Display* display, Window window, const SDL_Rect& area)
     return getGeometry && getGeometry(display, window, &root, &x, &y, &width, &height, &border, &depth) &&
            static_cast<int>(width) == area.w && static_cast<int>(height) == area.h;
 }
+
+/// The screen with the middle of the window or, if that is on none, the main one.
+SDL_Rect ScreenOf(SDL_Window* window, std::span<const XRRMonitorInfo> monitors)
+{
+    SDL_Point middle = {};
+    SDL_Point size = {};
+    SDL_GetWindowPosition(window, &middle.x, &middle.y);
+    SDL_GetWindowSize(window, &size.x, &size.y);
+    middle = { middle.x + size.x / 2, middle.y + size.y / 2 };
+    const bool isShown = SDL_GetWindowFlags(window) & SDL_WINDOW_SHOWN;
+    std::optional<SDL_Rect> main;
+    for (const XRRMonitorInfo& one : monitors) {
+        const SDL_Rect area = { one.x, one.y, one.width, one.height };
+        if (isShown && SDL_PointInRect(&middle, &area))
+            return area;
+        if (!main || one.primary)
+            main = area;
+    }
+    return *main;
+}
 }
 
-std::optional<SDL_Rect> X11MainScreen(SDL_Window* window)
+std::optional<SDL_Rect> X11Screen(SDL_Window* window)
 {
     const std::optional<SDL_SysWMinfo> info = X11Window(window);
     const auto getMonitors = LoadXrandr<decltype(XRRGetMonitors)>("XRRGetMonitors");
@@ -64,20 +84,18 @@ std::optional<SDL_Rect> X11MainScreen(SDL_Window* window)
     if (!monitors)
         return std::nullopt;
     std::optional<SDL_Rect> area;
-    for (const XRRMonitorInfo& one : std::span(monitors, static_cast<size_t>(count)))
-        if (!area || one.primary)
-            area = SDL_Rect{ one.x, one.y, one.width, one.height };
+    if (count > 0)
+        area = ScreenOf(window, std::span(monitors, static_cast<size_t>(count)));
     freeMonitors(monitors);
     return area;
 }
 
-void CoverX11Screen(SDL_Window* window)
+void CoverX11Screen(SDL_Window* window, const SDL_Rect& area)
 {
     const std::optional<SDL_SysWMinfo> info = X11Window(window);
-    const std::optional<SDL_Rect> area = X11MainScreen(window);
     const auto moveResize = LoadX11<decltype(XMoveResizeWindow)>("XMoveResizeWindow");
-    if (!info || !area || !moveResize || HasSize(info->info.x11.display, info->info.x11.window, *area))
+    if (!info || !moveResize || HasSize(info->info.x11.display, info->info.x11.window, area))
         return;
-    moveResize(info->info.x11.display, info->info.x11.window, area->x, area->y, static_cast<unsigned>(area->w),
-               static_cast<unsigned>(area->h));
+    moveResize(info->info.x11.display, info->info.x11.window, area.x, area.y, static_cast<unsigned>(area.w),
+               static_cast<unsigned>(area.h));
 }

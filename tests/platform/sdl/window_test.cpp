@@ -59,6 +59,7 @@ TEST(FrameView, ShowsTheFrameAsLargeAsItFits)
         { { 1920, 1080 }, { 240, 0, 1440, 1080 }, 2 }, // bars left and right
         { { 1600, 1200 }, { 0, 0, 1600, 1200 }, 2 },   // of two equally near ones the smaller
         { { 320, 200 }, { 26, 0, 267, 200 }, 1 },      // smaller than the frame
+        { { 1921, 1443 }, { 0, 1, 1920, 1440 }, 3 },   // rounded up by a fractional scale: sharp all the same
         { { 1, 1 }, { 0, 0, 1, 1 }, 1 },
     };
     for (const auto& row : cases) {
@@ -151,6 +152,10 @@ TEST_F(WindowTest, UndoesWhatTheBorderDoesUnlessTheWindowManagerInsists)
         userResizes(900);
     EXPECT_EQ(width, 900) << "no endless quarrel";
     EXPECT_EQ(Given("to450,250"), "to320,240") << "the frame is scaled to that size";
+    SDL_SetWindowSize(nativeWindow.handle, 1920, 1440);
+    EXPECT_EQ(Given("to1919,1439"), "to639,479") << "the last pixels of a whole factor";
+    EXPECT_EQ(Given("to1917,2"), "to639,0");
+    EXPECT_EQ(Given("to1916,3"), "to638,1");
 }
 
 TEST_F(WindowTest, LetsAProgramThatIsToDoSoOutliveItsTerminal)
