@@ -11,6 +11,7 @@
 #include "platform/sdl/native_window.h"
 #include "support/allocations.h"
 #include "support/program_fixture.h"
+#include "support/test_system.h"
 
 namespace
 {
@@ -113,6 +114,7 @@ TEST_F(GameTest, AStartThatFailsLeavesNoWindow)
     constexpr int GLOBAL_IMAGES = 5; // of one plane each
     for (int failing = 1; failing <= GLOBAL_IMAGES; ++failing) {
         TearDown();
+        UseTestSystem(pictures.folder); // or the lock would be one that all tests share
         FailPlane(failing);
         testing::internal::CaptureStderr();
         EXPECT_FALSE(CreateGameWindow(nullptr)) << failing;
