@@ -20,6 +20,8 @@ public:
     SDL_Point FrameSize() const { return frame.size; }
     /// Replaces part of the frame; `rowBytes` is from row to row of `pixels`. False when it does not lie within.
     bool Update(const SDL_Rect& area, const void* pixels, int rowBytes) { return frame.Update(area, pixels, rowBytes); }
+    /// Whether something of the frame has changed since it was shown.
+    bool HasChanges() const { return frame.HasChanges(); }
     /// Puts on the screen what has changed of the frame since it was shown.
     void ShowChanges() { Show(false); }
     /// Puts the whole frame on the screen, for a window that has lost it.

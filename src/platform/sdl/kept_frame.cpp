@@ -2,6 +2,7 @@
 
 #include "platform/posix/out_of_memory.h"
 
+#include <algorithm>
 #include <cstring>
 
 bool KeptFrame::SetSize(SDL_Point newSize)
@@ -30,4 +31,9 @@ bool KeptFrame::Update(const SDL_Rect& area, const void* source, int rowBytes)
         changed[static_cast<size_t>(row)] = true;
     }
     return true;
+}
+
+bool KeptFrame::HasChanges() const
+{
+    return std::find(changed.begin(), changed.end(), true) != changed.end();
 }

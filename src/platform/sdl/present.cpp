@@ -2,6 +2,7 @@
 
 #include "platform/sdl/messages.h"
 #include "platform/sdl/native_window.h"
+#include "platform/sdl/screen_saver.h"
 #include "platform/sdl/window_state.h"
 
 namespace
@@ -16,7 +17,9 @@ bool IsWatched()
 
 void PresentFrame()
 {
-    if (IsWatched())
+    const bool isWatched = IsWatched();
+    NoteFrame(isWatched && nativeWindow.view.HasChanges());
+    if (isWatched)
         nativeWindow.view.ShowChanges();
     EndFrameOfMessages();
 }

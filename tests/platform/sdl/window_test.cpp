@@ -124,6 +124,27 @@ TEST_P(EachWayWindowTest, ScalesFrameAndMouseToTheScreenAndIsGivenBack)
     EXPECT_EQ(ScreenPixel(30, 0), 0xF80000u) << "all is drawn anew";
 }
 
+TEST_F(WindowTest, KeepsTheScreenSaverWaitingWhileThePictureMoves)
+{
+    CImage picture;
+    ASSERT_TRUE(picture.Create(640, 480));
+    const auto isFreeAfter = [&](int frames, uint16_t change) {
+        for (int i = 0; i < frames; ++i) {
+            picture.pixels[0] += change;
+            DisplayPresent(picture);
+        }
+        return SDL_IsScreenSaverEnabled() == SDL_TRUE;
+    };
+    EXPECT_TRUE(isFreeAfter(0, 1));
+    EXPECT_FALSE(isFreeAfter(200, 1));
+    EXPECT_FALSE(isFreeAfter(10, 0)) << "a moment's stillness";
+    EXPECT_TRUE(isFreeAfter(200, 0));
+    EXPECT_TRUE(isFreeAfter(10, 1)) << "a glimpse of movement";
+    EXPECT_FALSE(isFreeAfter(200, 1));
+    Given("blur");
+    EXPECT_TRUE(isFreeAfter(200, 1)) << "unseen";
+}
+
 TEST_F(WindowTest, SaysOnceThatItCannotShowFrames)
 {
     SDL_SetWindowSize(nativeWindow.handle, 100'000, 100'000); // no memory is that large
