@@ -4,14 +4,12 @@
 #include "app/game_window.h"
 #include "app/scenes.h"
 #include "app/section.h"
-#include "doubles/directx.h"
-#include "doubles/system.h"
+#include "game/section_main.h"
 #include "gfx/display.h"
 #include "gfx/error.h"
-#include "platform/sdl/native_window.h"
-#include "support/allocations.h"
+#include "menu/section_menu.h"
+#include "support/faults.h"
 #include "support/program_fixture.h"
-#include "support/test_system.h"
 
 namespace
 {
@@ -46,6 +44,7 @@ protected:
     {
         ProgramFixture::SetUp();
         requestedSection = &scene;
+        nextFrameTime = 0;
     }
     /// The scene's notes after a tick.
     std::string TickAfter(uint32_t ms)
@@ -59,6 +58,33 @@ protected:
     OtherScene other;
     ProbeScene twin;
 };
+
+void FailPlane(int number)
+{
+    FailCall(Calls::PLANES, number, false);
+}
+
+/// Lets each plane that `load` asks for be missing, one after the other.
+template <typename Load>
+void LackEachPlane(Load load)
+{
+    bool loaded = false;
+    for (int plane = 1; !loaded; ++plane) {
+        ASSERT_LT(plane, 999);
+        const int before = CallCount(Calls::PLANES);
+        FailPlane(plane);
+        loaded = load();
+        EXPECT_EQ(loaded, CallCount(Calls::PLANES) - before < plane) << plane;
+    }
+    FailPlane(0);
+}
+
+template <typename Owner>
+void LackEachPlaneOf(Owner& owner)
+{
+    for (bool done = false; !done && !testing::Test::HasFatalFailure();)
+        LackEachPlane([&] { return owner.DataLoad(done); });
+}
 }
 
 TEST_F(GameTest, RunsOneFrameEvery40MsAndNeverMakesUpLateOnes)
@@ -84,7 +110,6 @@ TEST_F(GameTest, RunsOneFrameEvery40MsAndNeverMakesUpLateOnes)
     EXPECT_EQ(other.notes, "bf") << "within one tick";
     DestroyWindow(gameWindow);
     EXPECT_EQ(other.notes, "bfe");
-    EXPECT_TRUE(pictures.folder.ReadText("Log.txt").ends_with("CGame::Destroy\n"));
     EXPECT_EQ(backBuffer.pixels, nullptr);
 }
 
@@ -113,13 +138,22 @@ TEST_F(GameTest, AStartThatFailsLeavesNoWindow)
     EXPECT_EQ(RunGame(nullptr), 0) << "another copy runs";
     constexpr int GLOBAL_IMAGES = 5; // of one plane each
     for (int failing = 1; failing <= GLOBAL_IMAGES; ++failing) {
-        TearDown();
-        UseTestSystem(pictures.folder); // or the lock would be one that all tests share
+        session.reset();
         FailPlane(failing);
         testing::internal::CaptureStderr();
-        EXPECT_FALSE(CreateGameWindow(nullptr)) << failing;
+        EXPECT_THROW(session.emplace(Recording::FROM_START, 1), std::runtime_error) << failing;
         EXPECT_EQ(testing::internal::GetCapturedStderr(), "Error: Can not allocate memory\n") << failing;
         EXPECT_FALSE(nativeWindow.handle) << failing;
     }
     FailPlane(0);
+}
+
+TEST_F(GameTest, LoadingMissesEachPlaneThatCannotBeHad)
+{
+    CPond& pond = sectionMain.pond;
+    LackEachPlaneOf(sectionMenu);
+    LackEachPlaneOf(pond);
+    LackEachPlaneOf(pond.statusBar);
+    LackEachPlane([&] { return pond.snake[1].SnakeInit(100, &pond, 2, 'W', 'S', 'A', 'D'); });
+    LackEachPlane([&] { return pond.snake[1].player == 2 && pond.snake[1].SnakeInit(100, &pond, 1, 1, 2, 3, 4); });
 }

@@ -1,9 +1,7 @@
 #include "gfx/display.h"
 
-#include "doubles/directx.h"
 #include "gfx/error.h"
 #include "gfx/pixel_rules.h"
-#include "platform/sdl/native_window.h"
 #include "support/program_fixture.h"
 
 #include <algorithm>

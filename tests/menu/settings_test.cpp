@@ -12,7 +12,7 @@ class SettingsTest : public testing::Test
 protected:
     SettingsTest() { UseFreshSettings(folder); }
     ~SettingsTest() override { UseNoSettings(); }
-    std::string Stored() const { return folder.ReadText(SETTINGS_FILE); }
+    std::string Stored() const { return folder.Read(SETTINGS_FILE); }
 
     TempFolder folder;
     CSectionMenu menu;

@@ -1,16 +1,11 @@
-#include "support/allocations.h"
-
 #include "support/faults.h"
 
-#include <atomic>
 #include <cstddef>
 #include <cstdlib>
 #include <new>
 
 namespace
 {
-std::atomic<int> planesUntilFailure = 0;
-
 /// Null where the test wants no memory to be found.
 void* Allocate(size_t size, size_t alignment)
 {
@@ -18,11 +13,6 @@ void* Allocate(size_t size, size_t alignment)
         return nullptr;
     return std::aligned_alloc(alignment, (size + alignment) / alignment * alignment);
 }
-}
-
-void FailPlane(int number)
-{
-    planesUntilFailure = number;
 }
 
 // What has no form here falls back on one that has, or is a sanitiser's own and does not count.
@@ -45,7 +35,7 @@ void* operator new[](size_t size, const std::nothrow_t&) noexcept
 
 void* operator new[](size_t size, std::align_val_t alignment, const std::nothrow_t&) noexcept
 {
-    if (planesUntilFailure > 0 && --planesUntilFailure == 0)
+    if (IsToFail(Calls::PLANES))
         return nullptr;
     return Allocate(size, static_cast<size_t>(alignment));
 }

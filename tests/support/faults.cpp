@@ -9,7 +9,7 @@ struct Plan {
     std::atomic<int> failing = 0; ///< as `count` counts; 0: none
     std::atomic<bool> allBehindFail = false;
 };
-Plan plans[3]; // by Calls
+Plan plans[4]; // by Calls
 
 Plan& PlanOf(Calls kind)
 {

@@ -35,8 +35,6 @@ public:
     explicit Recorder(const Recording& script) : recording(script), session(script.players, script.seed)
     {
         recording.stretches.clear();
-        for (const std::string& text : script.shows)
-            AddCondition(text);
     }
 
     Recording Run(std::vector<std::string>& unseen)
@@ -74,6 +72,8 @@ private:
         session.Frame();
         if ((acts || frame % PICTURE_STEP == 0) && backBuffer.pixels != nullptr)
             picture.AddBytes(backBuffer.pixels, static_cast<size_t>(backBuffer.pitch * backBuffer.height));
+        for (size_t i = 0; frame == 0 && i < recording.shows.size(); ++i) // a game has its snakes from now on
+            AddCondition(recording.shows[i]);
         std::erase_if(unmet, [](const auto& each) {
             return std::all_of(each.second.begin(), each.second.end(), std::mem_fn(&Comparison::Holds));
         });

@@ -23,6 +23,7 @@
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
+#include <fstream>
 #include <memory>
 #include <sstream>
 #include <stdexcept>
@@ -74,8 +75,10 @@ Session::Session(int players, uint32_t seed) : folderBefore(std::filesystem::cur
     ResetProgram();
     UseTestSystem(folder);
     folder.Write("Dat/Image.xpf", std::string("FPX_\0\0\0\0", 8)); // every picture is a loose file
-    if (!CreateGameWindow(nullptr))
+    if (!CreateGameWindow(nullptr)) {
+        Close();
         throw std::runtime_error("the program cannot start");
+    }
     std::filesystem::current_path(folder.Path()); // for the program has gone to its own
     ClearLog();
     SoundSetMute(0);
@@ -174,9 +177,7 @@ void Session::Close()
         return;
     if (requestedSection != nullptr)
         DestroyWindow(gameWindow);
-    MSG message = {};
-    while (GetMessageA(&message, nullptr, 0, 0))
-        ; // up to the one that ends the program
+    RunMessageLoop();
     isOpen = false;
     input = InputState{};                                         // as in Frame
     Rebuild(game, "Tervalis", SCREEN_WIDTH, SCREEN_HEIGHT, true); // saves the settings
@@ -191,7 +192,7 @@ StateFields Session::Fields() const
         fields.emplace(At("plays", static_cast<int>(id)), soundsHeard.plays[id]);
     for (const auto& [name, value] : StoredSettings())
         fields.emplace("stored." + name, value);
-    std::istringstream log(ProgramFolder().ReadText("Log.txt"));
+    std::ifstream log(ProgramFolder().Path() + "/Log.txt");
     std::string line;
     for (int number = 0; std::getline(log, line); ++number)
         fields.emplace(At("log", number), line);

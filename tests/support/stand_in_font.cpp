@@ -8,20 +8,20 @@
 
 namespace
 {
-/// An HFONT made here holds the cell's size in its bits, an HDC points at that of the font selected into it.
-struct CellSize {
-    int height;
-    int width;
-};
-
-HFONT FontOf(const CellSize& cell)
+/// A font made here is its cell's height and width, an HDC points at the font selected into it.
+HFONT FontOf(int height, int width)
 {
-    return reinterpret_cast<HFONT>(static_cast<uintptr_t>(cell.height << 8 | cell.width));
+    return reinterpret_cast<HFONT>(static_cast<uintptr_t>(height << 8 | width));
 }
 
-CellSize& SizeIn(HDC context)
+HGDIOBJ& FontIn(HDC context)
 {
-    return *reinterpret_cast<CellSize*>(context);
+    return *reinterpret_cast<HGDIOBJ*>(context);
+}
+
+DWORD HeightIn(HDC context)
+{
+    return static_cast<DWORD>(reinterpret_cast<uintptr_t>(FontIn(context)) >> 8);
 }
 
 constexpr BYTE FULL_COVERAGE = 16;
@@ -32,33 +32,32 @@ BYTE Coverage(UINT character, DWORD x, DWORD y)
 }
 
 /// Digits are equally wide.
-DWORD GlyphWidth(const CellSize& cell, UINT character)
+DWORD GlyphWidth(HDC context, UINT character)
 {
     const bool isDigit = character >= '0' && character <= '9';
-    return static_cast<DWORD>(cell.width) - 1 + (isDigit ? 2 : character % 4);
+    return static_cast<DWORD>(reinterpret_cast<uintptr_t>(FontIn(context)) & 0xFF) - 1 + (isDigit ? 2 : character % 4);
 }
 }
 
 HFONT WINAPI CreateFontA(int height, int width, int, int, int, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD,
                          LPCSTR)
 {
-    return FontOf({ height, width });
+    return FontOf(height, width);
 }
 
 HDC WINAPI CreateCompatibleDC(HDC)
 {
-    return reinterpret_cast<HDC>(new CellSize{ 13, 5 });
+    return reinterpret_cast<HDC>(new HGDIOBJ(FontOf(13, 5)));
 }
 
 HGDIOBJ WINAPI SelectObject(HDC context, HGDIOBJ font)
 {
-    const auto bits = static_cast<int>(reinterpret_cast<uintptr_t>(font));
-    return FontOf(std::exchange(SizeIn(context), { bits >> 8, bits & 0xFF }));
+    return std::exchange(FontIn(context), font);
 }
 
 BOOL WINAPI DeleteDC(HDC context)
 {
-    delete &SizeIn(context);
+    delete &FontIn(context);
     return TRUE;
 }
 
@@ -74,12 +73,9 @@ HGDIOBJ WINAPI GetStockObject(int)
 
 BOOL WINAPI GetTextMetricsA(HDC context, TEXTMETRICA* metrics)
 {
-    if (context == nullptr)
-        return FALSE;
-    const CellSize& cell = SizeIn(context);
     *metrics = {};
-    metrics->tmHeight = cell.height;
-    metrics->tmAscent = cell.height - 3;
+    metrics->tmHeight = static_cast<LONG>(HeightIn(context));
+    metrics->tmAscent = metrics->tmHeight - 3;
     return TRUE;
 }
 
@@ -89,10 +85,9 @@ DWORD WINAPI GetGlyphOutlineA(HDC context, UINT character, UINT, GLYPHMETRICS* m
 {
     if (context == nullptr)
         return GDI_ERROR;
-    const CellSize& cell = SizeIn(context);
     const bool isBlank = character <= ' ';
-    const DWORD width = isBlank ? 1 : GlyphWidth(cell, character);
-    const DWORD height = isBlank ? 1 : static_cast<DWORD>(cell.height) - (character < 'a' ? 4 : 6);
+    const DWORD width = isBlank ? 1 : GlyphWidth(context, character);
+    const DWORD height = isBlank ? 1 : HeightIn(context) - (character < 'a' ? 4 : 6);
     const DWORD rowBytes = (width + 3) & ~3u;
     *metrics = { width, height, { 1, static_cast<LONG>(height) }, static_cast<short>(width + 2), 0 };
     if (isBlank)

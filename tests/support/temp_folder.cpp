@@ -21,11 +21,6 @@ fs::path NewFolder()
     }
     throw std::runtime_error("no temporary folder");
 }
-
-std::string ReadStream(std::ifstream file)
-{
-    return { std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>() };
-}
 }
 
 TempFolder::TempFolder() : before(fs::current_path().string())
@@ -43,12 +38,8 @@ TempFolder::~TempFolder()
 
 std::string TempFolder::Read(const std::string& name) const
 {
-    return ReadStream(std::ifstream(fs::path(path) / name, std::ios::binary));
-}
-
-std::string TempFolder::ReadText(const std::string& name) const
-{
-    return ReadStream(std::ifstream(fs::path(path) / name));
+    std::ifstream file(fs::path(path) / name, std::ios::binary);
+    return { std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>() };
 }
 
 void TempFolder::Write(const std::string& name, const std::string& content) const

@@ -15,8 +15,6 @@ public:
     const std::string& Path() const { return path; }
     /// A file's whole content, empty when there is none.
     std::string Read(const std::string& name) const;
-    /// The same of a text file, each line ending in \n however the system stores it.
-    std::string ReadText(const std::string& name) const;
     /// Makes or replaces a file, and the folders on its way.
     void Write(const std::string& name, const std::string& content) const;
 

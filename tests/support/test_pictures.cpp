@@ -11,33 +11,21 @@
 #include <algorithm>
 #include <cstdint>
 #include <map>
+#include <random>
 #include <span>
 #include <stdexcept>
-#include <string>
-#include <vector>
 
 namespace
 {
 constexpr int BLOCK = 8; ///< pixels that a JPEG file codes together
 
-/// Numbers that are the same on every system, others for each picture.
-class Noise
-{
-public:
-    explicit Noise(const std::string& picture)
-    {
-        for (const char c : picture)
-            state = state * 31 + static_cast<uint8_t>(c);
-    }
-    uint32_t Below(uint32_t limit)
-    {
-        state = state * 1664525 + 1013904223;
-        return (state >> 16) % limit;
-    }
+/// Numbers that are the same on every system.
+using Noise = std::linear_congruential_engine<uint32_t, 1664525, 1013904223, 0>;
 
-private:
-    uint32_t state = 1;
-};
+uint32_t Below(uint32_t limit, Noise& noise)
+{
+    return (noise() >> 16) % limit;
+}
 
 /// Plain blocks, each of a colour of its own, in the middle of what RGB565 takes for one colour: however a decoder
 /// rounds, the picture is the same.
@@ -46,32 +34,22 @@ std::string BlockJpeg(Noise& noise, int width, int height)
     const int columns = (width + BLOCK - 1) / BLOCK;
     std::vector<uint8_t> colours(static_cast<size_t>(columns * (height + BLOCK - 1) / BLOCK + columns) * 3);
     for (size_t i = 0; i < colours.size(); ++i)
-        colours[i] = static_cast<uint8_t>(i % 3 == 1 ? noise.Below(64) * 4 + 2 : noise.Below(32) * 8 + 4);
+        colours[i] = static_cast<uint8_t>(i % 3 == 1 ? Below(64, noise) * 4 + 2 : Below(32, noise) * 8 + 4);
     std::vector<uint8_t> pixels;
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x) {
             const auto* colour = &colours[static_cast<size_t>(y / BLOCK * columns + x / BLOCK) * 3];
             pixels.insert(pixels.end(), colour, colour + 3);
         }
-    tjhandle codec = tjInitCompress();
-    unsigned char* bytes = nullptr;
-    unsigned long size = 0;
-    const bool done =
-        tjCompress2(codec, pixels.data(), width, 0, height, TJPF_BGR, &bytes, &size, TJSAMP_444, 100, 0) == 0;
-    const std::string file(reinterpret_cast<const char*>(bytes), size);
-    tjFree(bytes);
-    tjDestroy(codec);
-    if (!done)
-        throw std::runtime_error("no test picture");
-    return file;
+    return EncodeJpeg(pixels, width, height, TJPF_BGR);
 }
 
 /// Blue, green and red of a pixel: a third black, a third white, which is the colour key and a mask's full opacity,
 /// and the rest any grey for a mask, any colour else.
 void AppendPixel(std::string& file, Noise& noise, bool isMask, bool isWhite)
 {
-    const uint32_t kind = isWhite ? 1 : noise.Below(3);
-    const uint32_t colour = kind == 0 ? 0 : kind == 1 ? 0xFFFFFF : noise.Below(1 << 16) * 0x101;
+    const uint32_t kind = isWhite ? 1 : Below(3, noise);
+    const uint32_t colour = kind == 0 ? 0 : kind == 1 ? 0xFFFFFF : Below(1 << 16, noise) * 0x101;
     file += LittleEndian(isMask ? (colour & 0xFF) * 0x010101 : colour).substr(0, 3);
 }
 
@@ -94,7 +72,10 @@ void AddPicture(Files& files, const char* name, int number, const PictureSize& s
 {
     std::string path = PicturePath(name, number).data();
     std::replace(path.begin(), path.end(), '\\', '/');
-    Noise noise(path);
+    uint32_t seed = 1; // another one for each picture
+    for (const char c : path)
+        seed = seed * 31 + static_cast<uint8_t>(c);
+    Noise noise(seed);
     files[path] = path.ends_with(".jpg") ? BlockJpeg(noise, size.width, size.height)
                                          : NoiseBmp(noise, size.width, size.height, isMask);
 }
@@ -117,6 +98,20 @@ Files MakeFiles()
             AddPictures(files, row);
     return files;
 }
+}
+
+std::string EncodeJpeg(const std::vector<uint8_t>& pixels, int width, int height, int pixelFormat)
+{
+    const int sampling = pixelFormat == TJPF_GRAY ? TJSAMP_GRAY : TJSAMP_444;
+    tjhandle codec = tjInitCompress();
+    unsigned char* bytes = nullptr;
+    unsigned long size = 0;
+    if (tjCompress2(codec, pixels.data(), width, 0, height, pixelFormat, &bytes, &size, sampling, 100, 0) != 0)
+        throw std::runtime_error("no test picture");
+    std::string file(reinterpret_cast<const char*>(bytes), size);
+    tjFree(bytes);
+    tjDestroy(codec);
+    return file;
 }
 
 TestPictures::TestPictures()
