@@ -50,17 +50,6 @@ struct FrameCase {
     int amplitude;
     int damping, refraction;
     const char* why;
-
-    bool IsShown(int column, int row) const
-    {
-        return column >= x && column < x + shownWidth && row >= y && row < y + shownHeight;
-    }
-    /// Only whole groups of four are displaced, and neither the first row nor the last.
-    bool IsDisplaced(int column, int row) const
-    {
-        const int group = column / 4 * 4;
-        return group >= x && group + 4 <= x + shownWidth && row >= 1 && row <= HEIGHT - 2;
-    }
 };
 constexpr FrameCase frameCases[] = {
     { 140, 0, 0, 140, HEIGHT, 4, 5, 3, "flat samples among displaced ones" },
@@ -78,38 +67,45 @@ std::vector<int> Heights(const int16_t* heights)
     return { heights, heights + water.fieldWidth * water.fieldHeight };
 }
 
+using Pixels = std::vector<uint16_t>;
+
+/// Only whole groups of four are displaced, and neither the first row nor the last.
+Pixels ExpectedTarget(const FrameCase& given, const ReferenceWater& reference, const Pixels& source)
+{
+    Pixels target(source.size());
+    for (int y = given.y; y < given.y + given.shownHeight; ++y) {
+        for (int x = given.x; x < given.x + given.shownWidth; ++x) {
+            const int group = x / 4 * 4;
+            const bool isWhole = group >= given.x && group + 4 <= given.x + given.shownWidth;
+            const int i = y * given.width + x;
+            const int shown = isWhole && y >= 1 && y <= HEIGHT - 2 ? reference.Displaced(i) : i;
+            target[static_cast<size_t>(i)] = source[static_cast<size_t>(shown)];
+        }
+    }
+    return target;
+}
+
 void CompareFrames(const FrameCase& given)
 {
+    const auto& [width, x, y, shownWidth, shownHeight, amplitude, damping, refraction, why] = given;
     CImage planes[2];
-    for (CImage& plane : planes)
-        ASSERT_TRUE(plane.Create(given.width, HEIGHT));
-    WaterInit(planes[0], planes[1], given.damping, given.refraction);
+    ASSERT_TRUE(planes[0].Create(width, HEIGHT) && planes[1].Create(width, HEIGHT));
+    WaterInit(planes[0], planes[1], damping, refraction);
     std::mt19937 random(7);
-    std::vector<uint16_t> source(static_cast<size_t>(given.width * HEIGHT));
-    for (size_t i = 0; i < source.size(); ++i) {
-        source[i] = static_cast<uint16_t>(random());
-        const size_t row = i / static_cast<size_t>(given.width);
-        for (int16_t* heights : { water.current, water.previous })
-            if (row > 0 && row < HEIGHT - 1) // the others stay calm
-                heights[i] =
-                    static_cast<int16_t>(std::uniform_int_distribution(-given.amplitude, given.amplitude)(random));
-    }
+    std::uniform_int_distribution<int16_t> height(static_cast<int16_t>(-amplitude), static_cast<int16_t>(amplitude));
+    for (int16_t* heights : { water.current, water.previous }) // the first and last row stay calm
+        std::generate(heights + width, heights + width * (HEIGHT - 1), [&] { return height(random); });
+    Pixels source(static_cast<size_t>(width * HEIGHT));
+    std::generate(source.begin(), source.end(), [&] { return static_cast<uint16_t>(random()); });
     const auto counted = [](int shift) { return shift < 0 || shift > 15 ? 15 : shift; };
-    ReferenceWater reference = { given.width, counted(given.damping), counted(given.refraction), Heights(water.current),
+    ReferenceWater reference = { width, counted(damping), counted(refraction), Heights(water.current),
                                  Heights(water.previous) };
     for (int frame = 0; frame < 4; ++frame) {
-        std::vector<uint16_t> target(source.size());
-        WaterFrame(source.data(), given.x, given.y, given.shownWidth, given.shownHeight, target.data(), given.x,
-                   given.y, given.width * 2);
-        for (int i = 0; i < given.width * HEIGHT; ++i) {
-            const int x = i % given.width;
-            const int y = i / given.width;
-            const int shown = given.IsDisplaced(x, y) ? reference.Displaced(i) : i;
-            ASSERT_EQ(target[static_cast<size_t>(i)], given.IsShown(x, y) ? source[static_cast<size_t>(shown)] : 0)
-                << given.why << ", frame " << frame << " at " << x << ", " << y;
-        }
+        Pixels target(source.size());
+        WaterFrame(source.data(), x, y, shownWidth, shownHeight, target.data(), x, y, width * 2);
+        ASSERT_EQ(target, ExpectedTarget(given, reference, source)) << why << ", frame " << frame;
         reference.Step();
-        ASSERT_EQ(Heights(water.current), reference.current) << given.why;
+        ASSERT_EQ(Heights(water.current), reference.current) << why << ", frame " << frame;
     }
 }
 }
