@@ -2,7 +2,7 @@
 install(TARGETS tervalis DESTINATION .)
 install(DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/Dat ${CMAKE_CURRENT_BINARY_DIR}/Wav ${CMAKE_CURRENT_BINARY_DIR}/docs
         DESTINATION . PATTERN .copied EXCLUDE)
-install(FILES LICENSE DESTINATION . RENAME License.txt)
+install(FILES LICENSES/MIT.txt DESTINATION . RENAME License.txt)
 # The licences of what is linked into the program ask to travel with it.
 install(FILES ${TERVALIS_SOURCES}/libjpeg-turbo/LICENSE.md ${TERVALIS_SOURCES}/libjpeg-turbo/README.ijg
         DESTINATION Licenses/libjpeg-turbo)
