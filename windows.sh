@@ -12,8 +12,8 @@ install_packages $WINE_PACKAGES || say "Wine cannot be installed."
 tools/fetch_sources.sh libjpeg-turbo highway
 for preset in windows32 windows; do
     cmake --preset "$preset" >/dev/null
-    cmake --build --preset "$preset" --target package
-    say "The program: $(ls build/"$preset"/*.zip)"
+    cmake --build --preset "$preset" --target windows_package
+    say "The program: $(ls build/"$preset"/Tervalis-*.zip build/"$preset"/Tervalis-*-setup.exe)"
 done
 
 if ! command -v wine >/dev/null; then

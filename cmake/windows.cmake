@@ -1,6 +1,7 @@
 # The Windows program: the system's own libraries in the place of the platform layer, everything else inside the file.
 enable_language(RC)
-add_link_options(-static $<$<CONFIG:Release>:-s>)
+add_compile_options(-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=) # with the next line, the same program from every folder
+add_link_options(-static $<$<CONFIG:Release>:-s> -Wl,--no-insert-timestamp)
 include(cmake/windows_libraries.cmake)
 
 # On 64-bit Windows GCC aligns the stack to 16 bytes, yet moves vectors of 32 and 64 bytes as if it were aligned to them.
@@ -13,9 +14,11 @@ add_library(tervalis_platform_base INTERFACE)
 target_link_libraries(tervalis_platform_base INTERFACE user32 gdi32 ddraw dsound winmm advapi32 shell32)
 add_library(tervalis_platform ALIAS tervalis_platform_base)
 
+configure_file(packaging/tervalis.manifest.in packaging/tervalis.manifest @ONLY)
 configure_file(packaging/tervalis.rc.in tervalis.rc @ONLY)
 # WinMain is asked for by the C runtime, after all libraries: the entry point must be the program's own.
-add_executable(tervalis WIN32 src/app/entry.cpp ${CMAKE_CURRENT_BINARY_DIR}/tervalis.rc)
+add_executable(tervalis WIN32 src/app/entry.cpp src/platform/windows/process.cpp ${CMAKE_CURRENT_BINARY_DIR}/tervalis.rc)
 target_link_libraries(tervalis PRIVATE tervalis_game tervalis_platform)
+target_compile_definitions(tervalis PRIVATE TERVALIS_ID=L"${TERVALIS_ID}")
 
 include(cmake/windows_package.cmake)

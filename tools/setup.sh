@@ -5,7 +5,8 @@ BUILD_PACKAGES="g++ cmake ninja-build pkg-config libsdl2-dev libfreetype-dev lib
 TEST_PACKAGES="libgtest-dev xvfb xdotool imagemagick openbox x11-utils x11-xserver-utils wmctrl python3 python3-numpy
     python3-pil"
 BENCH_PACKAGES="libbenchmark-dev libpixman-1-dev libyuv-dev python3"
-WINDOWS_PACKAGES="g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build nasm dpkg-dev googletest"
+WINDOWS_PACKAGES="g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build nasm dpkg-dev googletest
+    nsis zip"
 WINE_PACKAGES="wine wine64 xvfb xauth xdotool imagemagick openbox x11-utils wmctrl"
 ARM64_PACKAGES="g++ cmake ninja-build pkg-config qemu-user mmdebstrap"
 CHECK_PACKAGES="clang clang-format clang-tidy desktop-file-utils appstream man-db groff-base"

@@ -1,15 +1,15 @@
 #!/usr/bin/env bash
 # Walks through the real program with real keys and mouse, as a player would who looks at the screen; the Windows
 # program under Wine.
-#     program_test.sh FOLDER_OF_THE_PROGRAM|WINDOWS_ARCHIVE FOLDER_OF_THE_PICTURES
+#     program_test.sh FOLDER_OF_THE_PROGRAM|WINDOWS_INSTALLER FOLDER_OF_THE_PICTURES
 # shellcheck source=tests/program/screen_lib.sh
 . "$(dirname "$0")/screen_lib.sh"
 set -u
 archive=$1
 pictures=$2
-is_wine() { [[ $archive == *.zip ]]; }
+is_wine() { [[ $archive == *.exe ]]; }
 folder=$(mktemp -d)
-program=$folder/program
+program=$folder/é池 # a name that no code page has but UTF-8
 log=$program/Log.txt
 settings=$folder/config/Tervalis/settings.toml
 windowName='^Tervalis$'
@@ -19,20 +19,23 @@ export PATH=$folder/bin:$PATH DBUS_SESSION_BUS_ADDRESS=disabled: # not the sessi
 # Libraries that SDL loads for a display and unloads again leave memory behind. The starts without one look for leaks.
 export ASAN_OPTIONS=detect_leaks=0
 export WINEPREFIX=$folder/wine WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d"
+export LC_ALL=C.UTF-8 # for the names of folders
 unset WAYLAND_DISPLAY SDL_VIDEODRIVER
 mkdir -p "$folder/bin" "$HOME" "$program"
 mkdir -m 700 "$XDG_RUNTIME_DIR"
 touch "$folder/errors"
 
-# shellcheck disable=SC2016 # for the script that is written
+id=$(sed -n 's/^StartupWMClass=//p' "${archive%/*.exe}"/packaging/*.desktop)
 if is_wine; then
-    cmake -E chdir "$program" cmake -E tar xf "$archive" && mv "$program"/*/* "$program/"
-    printf '#!/bin/sh\nexec wine "${0%%/*}/tervalis.exe"\n' >"$program/tervalis"
-    chmod +x "$program/tervalis"
     # A sound card that swallows everything, so that the sounds are loaded and played.
     export ALSA_CONFIG_PATH=$folder/asound.conf
     printf 'pcm.!default { type null }\nctl.!default { type null }\n' >"$ALSA_CONFIG_PATH"
     timeout 300 wineboot --init >/dev/null 2>&1 || fail "Wine does not start"
+    timeout 300 wine "$archive" /S "/D=Z:${program//\//\\}" || fail "it cannot be installed"
+    tr -d '\0' <"$program/tervalis.exe" | grep -aqF "$id" || fail "no task bar knows the program"
+    # shellcheck disable=SC2016 # for the script that is written
+    printf '#!/bin/sh\nexec wine "${0%%/*}/tervalis.exe"\n' >"$program/tervalis"
+    chmod +x "$program/tervalis"
 else
     cp -r "$archive/tervalis" "$archive/Dat" "$archive/Wav" "$archive/docs" "$program/"
 fi
@@ -81,6 +84,7 @@ homePlace=$place
 fullPlace=1280x1024+0+0
 await "the main menu" shows_menu
 is_wine || xprop -id "$window" _NET_WM_ICON | grep -qF "Icon (48 x 48)" || fail "the window has no icon"
+is_wine || xprop -id "$window" WM_CLASS | grep -qF "\"$id\"" || fail "no desktop knows the window"
 
 step "A second copy"
 cp "$log" "$folder/before"
@@ -148,7 +152,15 @@ start_program
 enter_full_screen true
 quit
 
-if ! is_wine; then
+if is_wine; then
+    step "The removal" # of what is not the player's
+    [ -n "$(find "$WINEPREFIX" -name Tervalis.lnk)" ] || fail "the start menu lacks the program"
+    timeout 300 wine "$program/uninstall.exe" /S "_?=Z:${program//\//\\}" || fail "it cannot be removed"
+    rm "$program/uninstall.exe" # which so called waits for the end, and cannot remove itself
+    [ "$(find "$program" -mindepth 1 -printf %P)" = tervalis ] || fail "files are left: $(ls -R "$program")"
+    [ -z "$(find "$WINEPREFIX" -name Tervalis.lnk)" ] || fail "the start menu keeps the program"
+    has_setting Windowed 0 || fail "the settings are gone"
+else
     step "A start that fails" # a program that is ended takes its message box, a process of its own, with it
     mv "$program/Dat" "$folder/"
     "$program/tervalis" 2>"$folder/errors" &
