@@ -9,7 +9,8 @@ WINDOWS_PACKAGES="g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake 
     nsis zip"
 WINE_PACKAGES="wine wine64 xvfb xauth xdotool imagemagick openbox x11-utils wmctrl"
 ARM64_PACKAGES="g++ cmake ninja-build pkg-config qemu-user mmdebstrap"
-CHECK_PACKAGES="clang clang-format clang-tidy desktop-file-utils appstream man-db groff-base"
+DEBIAN_PACKAGES="git dpkg-dev debhelper"
+CHECK_PACKAGES="clang clang-format clang-tidy desktop-file-utils appstream man-db groff-base lintian reuse"
 
 say() { printf '%s\n' "$*" >&2; }
 
@@ -35,7 +36,8 @@ install_packages() {
     local as_root=""
     if [ "$(id -u)" -ne 0 ]; then
         if ! command -v sudo >/dev/null; then
-            say "These packages are missing, and only root can install them: $missing"
+            say "Packages are missing that only root can install:"
+            say "    apt-get install --no-install-recommends $missing"
             return 1
         fi
         as_root="sudo"
