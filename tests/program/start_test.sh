@@ -59,11 +59,12 @@ expect_kept() {
     grep -qxF "CGame::Destroy" "$log" || fail "$PWD did not log its end"
 }
 
-# A copy that cannot start, from a folder of the user's, leaves that folder and the other copy's log as they were.
+# A copy that cannot start, from a folder of the user's and in another session, leaves that folder and the other copy's
+# log as they were.
 start_elsewhere() {
     cp Log.txt before
     mkdir -p "$folder/elsewhere"
-    (cd "$folder/elsewhere" && timeout 60 "$OLDPWD/tervalis" >"$folder/said" 2>&1) || fail "elsewhere it ended with $?"
+    (cd "$folder/elsewhere" && XDG_RUNTIME_DIR=$PWD timeout 60 "$OLDPWD/tervalis" >"$folder/said" 2>&1) || fail "elsewhere it ended with $?"
     [ -z "$(ls "$folder/elsewhere")" ] || fail "a copy that did not start wrote where the user was"
     cmp -s Log.txt before || fail "a second copy wrote to the log"
 }
