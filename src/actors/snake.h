@@ -51,6 +51,9 @@ public:
     /// The head is more than 6 columns or rows away from the cell, or off the pond.
     bool SnakeIsFarFrom(int cell) const;
 
+    /// It moves on by itself, into whatever lies ahead.
+    bool SnakeIsSwimming() const { return isActive && !isWaiting && !isDying && !isOut; }
+
     /// A level's end: the snake coils up into its head.
     void SnakeGather();
     /// The next level: five segments wait for the start key.

@@ -5,6 +5,7 @@
 #include "app/log.h"
 #include "app/scenes.h"
 #include "game/water.h"
+#include "platform/frame_hints.h"
 #include "platform/kernel.h"
 #include "platform/window.h"
 
@@ -39,6 +40,14 @@ void ShowOrHideCursor(bool panelOpen)
         SetCursor(nullptr);
     else
         SetCursor(LoadCursorA(nullptr, IDC_ARROW));
+}
+
+void TellPlayers(const CPond& pond)
+{
+    for (int i = 0; i <= pond.players && !pond.snake[0].isPaused; ++i) {
+        const CSnake& snake = pond.snake[i];
+        TellSteering({ snake.keyUp, snake.keyDown, snake.keyLeft, snake.keyRight }, snake.SnakeIsSwimming());
+    }
 }
 
 /// Only a player alone enters the ranking.
@@ -80,6 +89,7 @@ bool CSectionMain::SectionProcess()
     pond.GameFrame(pondImage, input.lastKeyDown);
     input.lastKeyDown = 0;
     input.lastKeyUp = 0;
+    TellPlayers(pond);
     if (pond.gameOver)
         LeaveForMenu(pond);
     ShowOrHideCursor(pond.statusBar.panelOpen);

@@ -1,6 +1,7 @@
 #include "menu/menu.h"
 
 #include "app/input.h"
+#include "platform/frame_hints.h"
 #include "sound/sound.h"
 
 #include <span>
@@ -13,6 +14,14 @@ template <typename Item>
 std::span<Item> ItemsOf(Item* items, int count)
 {
     return { items, static_cast<size_t>(count) };
+}
+
+template <typename Item>
+void TellItem(const CMenu& menu, const Item& item)
+{
+    const int left = menu.x + item.box.x;
+    const int top = menu.y + item.box.y;
+    TellClickable(left, top, left + item.box.width, top + item.box.height);
 }
 
 /// The box's edges belong to it.
@@ -58,7 +67,10 @@ Item* Hover(CImage& target, const CMenu& menu, std::span<Item> items, int32_t& h
 {
     Item* hovered = nullptr;
     for (Item& item : items) {
-        if (!item.isVisible || !item.isEnabled || !IsUnderMouse(menu, item))
+        if (!item.isVisible || !item.isEnabled)
+            continue;
+        TellItem(menu, item);
+        if (!IsUnderMouse(menu, item))
             continue;
         hovered = &item;
         const bool isPressed = input.mouseLeftDown && PressedPicture(item) != nullptr;

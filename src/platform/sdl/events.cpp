@@ -4,6 +4,7 @@
 #include "platform/sdl/messages.h"
 #include "platform/sdl/mouse.h"
 #include "platform/sdl/native_window.h"
+#include "platform/sdl/pads.h"
 #include "platform/sdl/window_state.h"
 
 #include <algorithm>
@@ -93,7 +94,7 @@ void HandleEvent(const SDL_Event& event)
     case SDL_QUIT: // the session ends or a signal asks the program to
         return PostToWindow(WM_SYSCOMMAND, SC_CLOSE, 0);
     default:
-        break;
+        return HandlePad(event);
     }
 }
 }

@@ -46,13 +46,27 @@ bool CFrameView::ShowOtherwise()
     return output && output->Show(frame, true);
 }
 
+CFrameView::Fit CFrameView::FitNow() const
+{
+    Fit fit = {};
+    SDL_GetWindowSize(window, &fit.units.x, &fit.units.y);
+    SDL_GetWindowSizeInPixels(window, &fit.area.x, &fit.area.y);
+    fit.shown = FitFrame(frame.size, fit.area);
+    return fit;
+}
+
 POINT CFrameView::FramePosition(int x, int y) const
 {
-    SDL_Point units = {};
-    SDL_Point area = {};
-    SDL_GetWindowSize(window, &units.x, &units.y);
-    SDL_GetWindowSizeInPixels(window, &area.x, &area.y);
-    const SDL_Rect shown = FitFrame(frame.size, area);
+    const auto [units, area, shown] = FitNow();
     return { ScaleDown(ScaleDown(x, area.x, units.x) - shown.x, frame.size.x, shown.w),
              ScaleDown(ScaleDown(y, area.y, units.y) - shown.y, frame.size.y, shown.h) };
+}
+
+SDL_Point CFrameView::WindowPosition(POINT pixel) const
+{
+    const auto [units, area, shown] = FitNow();
+    const int x = 2 * static_cast<int>(pixel.x) + 1; // in halves of a pixel
+    const int y = 2 * static_cast<int>(pixel.y) + 1;
+    return { ScaleDown(shown.x + ScaleDown(x, shown.w, 2 * frame.size.x), units.x, area.x),
+             ScaleDown(shown.y + ScaleDown(y, shown.h, 2 * frame.size.y), units.y, area.y) };
 }

@@ -28,8 +28,17 @@ public:
     void ShowAll() { Show(true); }
     /// The frame's pixel under a position in the window, in its own units, also beyond the frame's edges.
     POINT FramePosition(int x, int y) const;
+    /// The middle of the frame's pixel, in the window's units.
+    SDL_Point WindowPosition(POINT pixel) const;
 
 private:
+    /// How the frame lies in the window.
+    struct Fit {
+        SDL_Point units; ///< the window's size in its own units
+        SDL_Point area;  ///< and in pixels
+        SDL_Rect shown;  ///< the part of these with the frame
+    };
+    Fit FitNow() const;
     void Show(bool all);
     bool ShowOtherwise();
 

@@ -139,6 +139,20 @@ void HandleText(const char* text)
         PostCharacter(static_cast<unsigned char>(*c));
 }
 
+void TapKey(int code, char character)
+{
+    PostToWindow(WM_KEYDOWN, static_cast<WPARAM>(code), KeyWord(false, false, false));
+    if (character != 0)
+        PostToWindow(WM_CHAR, static_cast<WPARAM>(character), KeyWord(false, false, false));
+    PostToWindow(WM_KEYUP, static_cast<WPARAM>(code), KeyWord(false, true, true));
+}
+
+void TapKeyFirst(int code)
+{
+    PostFirstToWindow(WM_KEYUP, static_cast<WPARAM>(code), KeyWord(false, true, true));
+    PostFirstToWindow(WM_KEYDOWN, static_cast<WPARAM>(code), KeyWord(false, false, false));
+}
+
 void ReleaseHeldKeys()
 {
     for (int& held : heldCodes) {

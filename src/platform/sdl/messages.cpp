@@ -78,12 +78,12 @@ void DropWhatMustNotWait()
 
 void PostToWindow(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    MSG posted = {};
-    posted.hwnd = NativeHandle();
-    posted.message = message;
-    posted.wParam = wParam;
-    posted.lParam = lParam;
-    queue.push_back(posted);
+    queue.push_back({ NativeHandle(), message, wParam, lParam, 0, {} });
+}
+
+void PostFirstToWindow(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    queue.push_front({ NativeHandle(), message, wParam, lParam, 0, {} });
 }
 
 const MSG* DueMessage()

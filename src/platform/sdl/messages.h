@@ -9,6 +9,9 @@
 /// Puts a message at the end of the queue.
 void PostToWindow(UINT message, WPARAM wParam, LPARAM lParam);
 
+/// Puts it before all that waits.
+void PostFirstToWindow(UINT message, WPARAM wParam, LPARAM lParam);
+
 /// The first message, which stays in the queue; null when there is none or it waits for the frame.
 const MSG* DueMessage();
 

@@ -66,6 +66,25 @@ void HandleButton(const SDL_MouseButtonEvent& event)
     missedReleases &= ~mask;
 }
 
+POINT PointerPosition()
+{
+    return { static_cast<int16_t>(LOWORD(lastPosition)), static_cast<int16_t>(HIWORD(lastPosition)) };
+}
+
+void MovePointer(POINT position)
+{
+    lastPosition = MAKELPARAM(position.x, position.y);
+    PostToWindow(WM_MOUSEMOVE, 0, lastPosition);
+    const SDL_Point shown = nativeWindow.view.WindowPosition(position);
+    SDL_WarpMouseInWindow(nativeWindow.handle, shown.x, shown.y);
+}
+
+void ClickPointer()
+{
+    PostToWindow(WM_LBUTTONDOWN, 0, lastPosition);
+    PostToWindow(WM_LBUTTONUP, 0, lastPosition);
+}
+
 void ReleaseHeldButtons()
 {
     ReleaseButtons(heldButtons);

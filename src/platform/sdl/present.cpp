@@ -2,6 +2,7 @@
 
 #include "platform/sdl/messages.h"
 #include "platform/sdl/native_window.h"
+#include "platform/sdl/pads.h"
 #include "platform/sdl/screen_saver.h"
 #include "platform/sdl/window_state.h"
 
@@ -22,4 +23,5 @@ void PresentFrame()
     if (isWatched)
         nativeWindow.view.ShowChanges();
     EndFrameOfMessages();
+    EndFrameOfPads();
 }

@@ -1,6 +1,7 @@
 #include "platform/sdl/events.h"
 #include "platform/sdl/icon.h"
 #include "platform/sdl/native_window.h"
+#include "platform/sdl/pads.h"
 #include "platform/sdl/screen.h"
 #include "platform/sdl/signals.h"
 #include "platform/sdl/zoom.h"
@@ -57,6 +58,7 @@ bool OpenWindow(LPCSTR title)
 
 void CloseWindow()
 {
+    StopPads();
     nativeWindow.view.Close();
     if (nativeWindow.handle)
         SDL_DestroyWindow(nativeWindow.handle);
@@ -132,6 +134,7 @@ HWND CreateWindowExA(DWORD extendedStyle, LPCSTR, LPCSTR title, DWORD style, int
         CloseWindow();
         return nullptr;
     }
+    StartPads();
     return NativeHandle();
 }
 

@@ -1,0 +1,57 @@
+#include "platform/sdl/told_frame.h"
+
+#include <iterator>
+#include <utility>
+
+namespace
+{
+/// A list without memory of its own; what does not fit is left out.
+template <class Element, int ROOM>
+struct Told {
+    void Add(const Element& element)
+    {
+        if (count < ROOM)
+            elements[count++] = element;
+    }
+    std::span<const Element> All() const { return { elements, static_cast<size_t>(count) }; }
+
+    Element elements[ROOM] = {};
+    int count = 0;
+};
+
+struct Frame {
+    Told<RECT, 32> clickables;
+    Told<Steering, 2> players;
+};
+
+Frame lastFrame;
+Frame frameInTheMaking;
+}
+
+void TellClickable(int left, int top, int right, int bottom)
+{
+    frameInTheMaking.clickables.Add({ left, top, right, bottom });
+}
+
+void TellSteering(const SteeringKeys& keys, bool isMoving)
+{
+    frameInTheMaking.players.Add({ keys, isMoving });
+}
+
+std::span<const RECT> Clickables()
+{
+    return lastFrame.clickables.All();
+}
+
+std::span<const Steering> Players()
+{
+    return lastFrame.players.All();
+}
+
+bool EndToldFrame()
+{
+    if (frameInTheMaking.clickables.count == 0 && frameInTheMaking.players.count == 0)
+        return false;
+    lastFrame = std::exchange(frameInTheMaking, {});
+    return true;
+}
