@@ -29,6 +29,7 @@ TEST_F(SettingsTest, TakesValuesAsBytesWhateverTheirType)
     };
     const Case cases[] = {
         { "", 38, "", 0 },
+        { "\"Up 1\" = ''", 38, "", 0 },
         { "\"Up 1\" = 'A'", 'A', "", 0 }, // one byte of the default's four
         { "\"Up 1\" = 'ABCD'", 0x44434241, "", 0 },
         { "\"Up 1\" = 'ABCDE'", 38, "", 0 },

@@ -36,6 +36,7 @@ void UseTestSystem(const TempFolder& folder)
 {
     setenv("SDL_VIDEODRIVER", "dummy", 1);
     setenv("SDL_RENDER_DRIVER", "software", 1);
+    setenv("PATH", folder.Path().c_str(), 1); // no browser is there to open a page
     setenv("XDG_RUNTIME_DIR", folder.Path().c_str(), 1);
     std::filesystem::remove_all(folder.Path() + "/config");
     UseFreshSettings(folder);
