@@ -9,7 +9,7 @@ WINDOWS_PACKAGES="g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake 
     nsis zip"
 WINE_PACKAGES="wine wine64 xvfb xauth xdotool imagemagick openbox x11-utils wmctrl"
 ARM64_PACKAGES="g++ cmake ninja-build pkg-config qemu-user mmdebstrap"
-DEBIAN_PACKAGES="git dpkg-dev debhelper"
+DEBIAN_PACKAGES="git build-essential dpkg-dev debhelper"
 CHECK_PACKAGES="clang clang-format clang-tidy desktop-file-utils appstream man-db groff-base lintian reuse"
 
 say() { printf '%s\n' "$*" >&2; }
