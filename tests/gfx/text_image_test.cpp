@@ -70,6 +70,10 @@ TEST_F(TextImage, AsksTheFontOnceAndSkipsWhatItCannotRender)
     Create(1);
     const Pixels shown = Draw(text, "W");
     const Pixels blank(shown.size());
+    lastError = ENGINE_NO_ERROR;
+    EXPECT_EQ(Draw(text, "\x81 "), blank);
+    EXPECT_EQ(lastError, ENGINE_CREATE_CHAR) << "a character whose bits cannot be had";
+    EXPECT_EQ(Draw(text, "W"), shown);
     const HDC dc = text.dc;
     text.dc = nullptr; // any call to the font fails from here on
     lastError = ENGINE_NO_ERROR;

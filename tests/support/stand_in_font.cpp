@@ -25,6 +25,7 @@ DWORD HeightIn(HDC context)
 }
 
 constexpr BYTE FULL_COVERAGE = 16;
+constexpr UINT WITHOUT_BITS = 0x8120; ///< a character that has a size and cannot be had
 
 BYTE Coverage(UINT character, DWORD x, DWORD y)
 {
@@ -93,6 +94,8 @@ DWORD WINAPI GetGlyphOutlineA(HDC context, UINT character, UINT, GLYPHMETRICS* m
     if (isBlank)
         return 0;
     auto* target = static_cast<BYTE*>(buffer);
+    if (target != nullptr && character == WITHOUT_BITS)
+        return GDI_ERROR;
     for (DWORD i = 0; target != nullptr && i < rowBytes * height; ++i)
         target[i] = i % rowBytes < width ? Coverage(character, i % rowBytes, i / rowBytes) : BYTE{ 0 };
     return rowBytes * height;

@@ -4,28 +4,15 @@
 #include <fstream>
 #include <iterator>
 #include <random>
-#include <stdexcept>
 
 namespace fs = std::filesystem;
 
-namespace
-{
-/// No other process has the folder: making one that exists already is no success.
-fs::path NewFolder()
-{
-    std::random_device random;
-    for (int attempt = 0; attempt < 100; ++attempt) {
-        fs::path folder = fs::temp_directory_path() / ("tervalis-test-" + std::to_string(random()));
-        if (fs::create_directory(folder))
-            return folder;
-    }
-    throw std::runtime_error("no temporary folder");
-}
-}
-
 TempFolder::TempFolder() : before(fs::current_path().string())
 {
-    path = NewFolder().string();
+    std::random_device random;
+    do // no other process has the folder: making one that exists already is no success
+        path = (fs::temp_directory_path() / ("tervalis-test-" + std::to_string(random()))).string();
+    while (!fs::create_directory(path));
     fs::current_path(path);
 }
 
