@@ -1,7 +1,7 @@
 #include "bot.h"
 
-#include "actors/snake_rules.h"
-#include "menu/settings.h"
+#include "actors/snake.h"
+#include "menu/key_bindings.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "actors/snake_rules.h"
+#include "actors/snake.h"
 #include "bot.h"
 
 #include <algorithm>

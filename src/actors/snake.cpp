@@ -1,7 +1,6 @@
 #include "actors/snake.h"
 
-#include "actors/snake_rules.h"
-#include "game/geometry.h"
+#include "app/log.h"
 #include "game/pond.h"
 #include "game/water.h"
 #include "sound/sound.h"
@@ -10,6 +9,8 @@
 
 namespace
 {
+constexpr std::span<const PictureRow> allPictures = snakePictures;
+constexpr size_t BODIES = 2;
 constexpr int START_LIVES = 2;
 constexpr int BERRY_DISTANCE = 6; ///< cells that new berries keep from a head, in columns and in rows
 }
@@ -28,12 +29,9 @@ bool CSnake::SnakeInit(int enterX, CPond* owner, int playerNumber, int up, int d
     keyDown = down;
     keyLeft = left;
     keyRight = right;
-    turnCount = 0;
-
     length = START_LENGTH;
     for (int i = 0; i < length; ++i)
         segments[i] = { .x = startX, .y = POND_SIZE, .dir = keyUp };
-    speed = NORMAL_SPEED;
     lives = START_LIVES;
     isPaused = false;
     isWaiting = false;
@@ -42,18 +40,42 @@ bool CSnake::SnakeInit(int enterX, CPond* owner, int playerNumber, int up, int d
     isActive = true;
     isOut = false;
     frameCount = 0;
-    eyeFrame = 0;
     isDying = false;
     deathFrames = 0;
-    movedFrames = 0;
     score = 0;
     lastColour = NO_COLOUR;
     streak = 0;
     pendingEffect = NO_EFFECT;
     rainTimer = 0;
-    shrinkCount = 0;
-    speedUpTimer = 0;
+    Calm();
     return true;
+}
+
+std::array<std::span<CImage>, SNAKE_IMAGE_SETS> CSnake::ImageSets()
+{
+    std::array<std::span<CImage>, SNAKE_IMAGE_SETS> sets;
+    sets[SNAKE_BODY] = { &bodyImage, 1 };
+    sets[SNAKE_EYES] = eyeImages;
+    sets[SNAKE_BUMP_EYES] = bumpEyeImages;
+    sets[SNAKE_ARROWS] = arrowImages;
+    sets[SNAKE_SHADOW] = { &shadowImage, 1 };
+    return sets;
+}
+
+bool CSnake::SnakeLoadImage()
+{
+    const size_t body = player == 1 ? 0 : 1;
+    if (!LoadPictures(ImageSets(), allPictures.subspan(body, 1)) ||
+        !LoadPictures(ImageSets(), allPictures.subspan(BODIES)))
+        return false;
+    WriteLog("CSnake::SnakeLoadImage");
+    return true;
+}
+
+void CSnake::SnakeFreeImage()
+{
+    FreeImages(ImageSets());
+    WriteLog("CSnake::SnakeFreeImage");
 }
 
 void CSnake::SnakeClear()
@@ -128,18 +150,24 @@ void CSnake::SnakeGather()
     if (IsGone())
         return;
     isActive = false;
-    shrinkCount = 0;
-    speedUpTimer = 0;
     rainTimer = 0;
-    turnCount = 0;
-    eyeFrame = 0;
-    movedFrames = 0;
     streak = 0;
-    speed = NORMAL_SPEED;
     lastColour = NO_COLOUR;
     pendingEffect = NO_EFFECT;
+    Calm();
     SoundStop(BeatSound());
     SoundStop(RainSound());
+}
+
+/// Slow and straight on, safe at first.
+void CSnake::Calm()
+{
+    movedFrames = 0;
+    speed = NORMAL_SPEED;
+    shrinkCount = 0;
+    speedUpTimer = 0;
+    turnCount = 0;
+    eyeFrame = 0;
 }
 
 void CSnake::SnakeRestart()

@@ -1,5 +1,4 @@
 #include "actors/snake.h"
-#include "actors/snake_rules.h"
 #include "sound/sound.h"
 
 namespace
@@ -46,14 +45,9 @@ void CSnake::Respawn()
     --lives;
     isDying = false;
     deathFrames = 0;
-    movedFrames = 0;
     length = START_LENGTH;
-    speed = NORMAL_SPEED;
-    shrinkCount = 0;
-    speedUpTimer = 0;
     isWaiting = true;
-    turnCount = 0;
-    eyeFrame = 0;
+    Calm();
     const Segment place{ .x = segments[1].x, .y = segments[1].y, .dir = segments[0].dir };
     for (const int i : { 0, 2, 3, 4 })
         segments[i] = place;

@@ -1,6 +1,4 @@
 #include "actors/snake.h"
-#include "actors/snake_rules.h"
-#include "game/geometry.h"
 
 namespace
 {

@@ -1,27 +1,20 @@
 #include "actors/snake.h"
-#include "actors/snake_rules.h"
-#include "game/geometry.h"
 #include "game/pond.h"
 #include "sound/sound.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace
 {
 constexpr int SAFE_FRAMES = 50; ///< moved frames after a start in which nothing kills
-constexpr int NO_POPUP = -1;
 
-/// What a berry is worth. The popup shows what comes on top of the ordinary 5 points.
-struct BerryScore {
-    bool golden;
-    bool rain;
-    bool fast;
-    int points;
-    int popup;
-};
-constexpr BerryScore berryScores[] = {
-    { false, false, false, 5, NO_POPUP }, { false, false, true, 10, POPUP_5 },  { false, true, false, 15, POPUP_10 },
-    { false, true, true, 20, POPUP_15 },  { true, false, false, 35, POPUP_30 }, { true, false, true, 40, POPUP_35 },
-    { true, true, false, 45, POPUP_40 },  { true, true, true, 50, POPUP_45 },
-};
+// What a berry is worth. The popup shows what comes on top of the ordinary points.
+constexpr int BERRY_POINTS = 5;
+constexpr int GOLDEN_BONUS = 30;
+constexpr int RAIN_BONUS = 10;
+constexpr int FAST_BONUS = 5;
+constexpr int popupPoints[] = { 5, 10, 15, 30, 35, 40, 45 }; ///< by PopupKind
 }
 
 void CSnake::CheckHead()
@@ -70,16 +63,15 @@ void CSnake::CheckBerry()
 
 void CSnake::ScoreBerry(int colour)
 {
-    const bool golden = colour == GOLDEN;
-    const bool rain = rainTimer >= 1 && rainTimer < RAIN_FALLS;
-    const bool fast = speed == FAST_SPEED && !slowDownPending;
-    for (const BerryScore& row : berryScores) {
-        if (row.golden != golden || row.rain != rain || row.fast != fast)
-            continue;
-        score += row.points;
-        if (row.popup != NO_POPUP)
-            pond->ShowPopup(segments[0].x, segments[0].y, row.popup);
-    }
+    int bonus = colour == GOLDEN ? GOLDEN_BONUS : 0;
+    if (rainTimer >= 1 && rainTimer < RAIN_FALLS)
+        bonus += RAIN_BONUS;
+    if (speed == FAST_SPEED && !slowDownPending)
+        bonus += FAST_BONUS;
+    score += BERRY_POINTS + bonus;
+    const int* popup = std::find(std::begin(popupPoints), std::end(popupPoints), bonus);
+    if (popup != std::end(popupPoints))
+        pond->ShowPopup(segments[0].x, segments[0].y, static_cast<int>(popup - popupPoints));
 }
 
 void CSnake::CountStreak(int colour)

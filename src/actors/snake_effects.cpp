@@ -1,7 +1,5 @@
 #include "actors/snake.h"
-#include "actors/snake_rules.h"
 #include "app/random.h"
-#include "game/geometry.h"
 #include "game/pond.h"
 #include "game/water.h"
 #include "sound/sound.h"

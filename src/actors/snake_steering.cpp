@@ -1,21 +1,14 @@
 #include "actors/snake.h"
-#include "actors/snake_rules.h"
-#include "game/geometry.h"
 #include "game/pond.h"
 
 #include <algorithm>
+#include <iterator>
 
 Direction CSnake::DirectionOf(int key) const
 {
-    if (key == keyUp)
-        return Direction::UP;
-    if (key == keyDown)
-        return Direction::DOWN;
-    if (key == keyLeft)
-        return Direction::LEFT;
-    if (key == keyRight)
-        return Direction::RIGHT;
-    return Direction::NONE;
+    const int32_t keys[] = { keyUp, keyDown, keyLeft, keyRight };
+    const int32_t* place = std::find(std::begin(keys), std::end(keys), key);
+    return place == std::end(keys) ? Direction::NONE : static_cast<Direction>(place - keys);
 }
 
 int CSnake::Heading() const

@@ -3,7 +3,7 @@
 #include "game/pond.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <string>
 
 namespace
 {
@@ -58,12 +58,6 @@ bool IsBlinkedOff(int frames)
 {
     return frames % BLINK_PERIOD >= BLINK_SHOWN;
 }
-
-/// A figure as text; as long as any 32-bit number.
-struct Figure {
-    explicit Figure(int value) { std::snprintf(text, sizeof text, "%d", value); }
-    char text[12];
-};
 }
 
 void CStatusBar::StatusBarDraw(CImage& screen)
@@ -139,11 +133,8 @@ int CStatusBar::ProgressHeight() const
 {
     if (countUp == 0 && IsAnyCoiling())
         return PROGRESS_HEIGHT;
-    int score = 0;
-    for (int player = 0; IsInGame(player); ++player)
-        score += pond->snake[player].score;
     const int full = images[IMAGE_PROGRESS].height;
-    const int reached = (score - prevTarget) * full / (target - prevTarget);
+    const int reached = (pond->Score() - prevTarget) * full / (target - prevTarget);
     return std::min(std::max(reached, countUp * full / COUNT_UP_FRAMES), full);
 }
 
@@ -157,11 +148,11 @@ void CStatusBar::DrawProgress(CImage& screen)
 
 void CStatusBar::DrawNumber(CImage& screen, int x, int y, uint16_t colour, int value)
 {
-    font.TextDraw(screen, x, y, colour, Figure(value).text);
+    font.TextDraw(screen, x, y, colour, std::to_string(value).c_str());
 }
 
 void CStatusBar::DrawNumberCentred(CImage& screen, int centreX, int y, int value)
 {
-    const Figure figure(value);
-    font.TextDraw(screen, centreX - font.TextWidth(figure.text) / 2, y, WHITE, figure.text);
+    const std::string figure = std::to_string(value);
+    font.TextDraw(screen, centreX - font.TextWidth(figure.c_str()) / 2, y, WHITE, figure.c_str());
 }

@@ -1,6 +1,5 @@
 #include "actors/status_bar.h"
 
-#include "game/geometry.h"
 #include "game/pond.h"
 #include "game/water.h"
 #include "sound/sound.h"
@@ -53,7 +52,8 @@ void ShowNumber(CMenu& panel, int textId, int number)
 
 bool CStatusBar::IsAnyCoiling() const
 {
-    return !std::all_of(pond->snake, pond->snake + pond->players + 1, std::mem_fn(&CSnake::isActive));
+    const std::span<CSnake> snakes = pond->SnakesInPlay();
+    return !std::all_of(snakes.begin(), snakes.end(), std::mem_fn(&CSnake::isActive));
 }
 
 void CStatusBar::StatusBarLevelCleared()
@@ -62,14 +62,13 @@ void CStatusBar::StatusBarLevelCleared()
     prevTarget = target;
     target += FIRST_TARGET * level; // every level asks for FIRST_TARGET more points than the one before
 
-    int longest = 0;
-    for (int i = 0; i <= pond->players; ++i)
-        longest = std::max(longest, pond->snake[i].length);
-    coilWait = longest * CELL_SIZE / GATHER_SPEED;
-
     ClearBerries();
-    for (int i = 0; i <= pond->players; ++i)
-        pond->snake[i].SnakeGather();
+    int longest = 0;
+    for (CSnake& snake : pond->SnakesInPlay()) {
+        longest = std::max(longest, snake.length);
+        snake.SnakeGather();
+    }
+    coilWait = longest * CELL_SIZE / GATHER_SPEED;
 
     leftPanel.isActive = false;
     for (CMenu* panel : { &levelClearedPanel, &nextLevelPanel }) {
@@ -115,8 +114,8 @@ void CStatusBar::ProcessNextLevel()
 
 void CStatusBar::StatusBarNextLevel()
 {
-    for (int i = 0; i <= pond->players; ++i)
-        pond->snake[i].SnakeRestart();
+    for (CSnake& snake : pond->SnakesInPlay())
+        snake.SnakeRestart();
     berryCountdown = FRESH_BERRIES * BERRY_INTERVAL;
 }
 

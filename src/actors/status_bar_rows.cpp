@@ -1,7 +1,5 @@
 #include "actors/status_bar.h"
 
-#include "game/geometry.h"
-
 namespace
 {
 POINT PanelPosition(const CImage& picture, PanelPlace place)

@@ -31,22 +31,12 @@ bool EnterProgramFolder()
     return folderEnd != std::string::npos && SetCurrentDirectoryA(program.substr(0, folderEnd + 1).c_str());
 }
 
-bool IsOtherScene(const CSection& a, const CSection& b)
-{
-    return typeid(a) != typeid(b);
-}
-
 /// Makes the requested scene current if it is of another class. False when a scene operation failed.
 bool SwitchScene()
 {
-    if (!currentSection) {
-        currentSection = requestedSection;
-        if (!currentSection->SectionBegin())
-            return false;
-    }
-    if (!IsOtherScene(*requestedSection, *currentSection))
+    if (currentSection && typeid(*requestedSection) == typeid(*currentSection))
         return true;
-    if (!currentSection->SectionEnd())
+    if (currentSection && !currentSection->SectionEnd())
         return false;
     currentSection = requestedSection;
     return currentSection->SectionBegin();

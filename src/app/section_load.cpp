@@ -12,28 +12,14 @@
 namespace
 {
 constexpr uint16_t BLACK = 0;
-
-/// One step of whatever is not loaded yet. False when a step failed.
-bool LoadNext(bool& allLoaded)
-{
-    allLoaded = false;
-    if (!menuLoaded)
-        return sectionMenu.DataLoad(menuLoaded);
-    if (!pondLoaded)
-        return sectionMain.pond.DataLoad(pondLoaded);
-    if (!statusBarLoaded)
-        return sectionMain.pond.statusBar.DataLoad(statusBarLoaded);
-    allLoaded = true;
-    return true;
-}
 }
 
 bool CSectionLoad::SectionBegin()
 {
     sectionMenu.SettingsLoad();
     SetCursor(LoadCursorA(nullptr, IDC_ARROW));
-    OpenPack("Dat\\Image.xpf"); // without a pack the pictures may be loose files; if not, the first step that misses
-                                // one fails
+    // Without a pack the pictures may be loose files; if not, the first step that misses one fails.
+    OpenPack("Dat\\Image.xpf");
     WriteLog("CSectionLoad::SectionBegin");
     return true;
 }
@@ -46,13 +32,14 @@ bool CSectionLoad::SectionEnd()
 
 bool CSectionLoad::SectionProcess()
 {
-    bool allLoaded = false;
-    if (!LoadNext(allLoaded))
-        return false;
-    if (allLoaded) {
-        RequestMenu();
-        input.DropPresses(); // those from while the program loaded
-    }
     backBuffer.Fill(BLACK);
+    if (!menuLoaded)
+        return sectionMenu.DataLoad(menuLoaded);
+    if (!pondLoaded)
+        return sectionMain.pond.DataLoad(pondLoaded);
+    if (!statusBarLoaded)
+        return sectionMain.pond.statusBar.DataLoad(statusBarLoaded);
+    RequestMenu();
+    input.DropPresses(); // those from while the program loaded
     return true;
 }

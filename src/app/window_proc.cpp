@@ -23,10 +23,8 @@ LRESULT CGame::WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
         PostQuitMessage(0);
         return 0;
     case WM_SETFOCUS:
-        input.hasFocus = true;
-        return 0;
     case WM_KILLFOCUS:
-        input.hasFocus = false;
+        input.hasFocus = message == WM_SETFOCUS;
         return 0;
     case WM_ERASEBKGND:
         return 1;
@@ -58,20 +56,14 @@ LRESULT CGame::WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
         StoreMousePosition(lParam);
         return 0;
     case WM_LBUTTONDOWN:
-        StoreMousePosition(lParam);
-        input.mouseLeftDown = true;
-        return 0;
     case WM_LBUTTONUP:
-        input.mouseLeftDown = false;
         StoreMousePosition(lParam);
+        input.mouseLeftDown = message == WM_LBUTTONDOWN;
         return 0;
     case WM_RBUTTONDOWN:
-        StoreMousePosition(lParam);
-        input.mouseRightDown = true;
-        return 0;
     case WM_RBUTTONUP:
         StoreMousePosition(lParam);
-        input.mouseRightDown = false;
+        input.mouseRightDown = message == WM_RBUTTONDOWN;
         return 0;
     default:
         break;

@@ -54,6 +54,15 @@ constexpr const DirectionRow& RowOf(Direction direction)
     return directions[static_cast<int>(direction)];
 }
 
+/// NONE for what is no heading.
+constexpr Direction DirectionOfHeading(int heading)
+{
+    for (int i = 0; i < 4; ++i)
+        if (directions[i].heading == heading)
+            return static_cast<Direction>(i);
+    return Direction::NONE;
+}
+
 /// Berry colours. Golden berries only arise from lasers.
 enum BerryColour : int {
     RED = 0,

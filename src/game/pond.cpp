@@ -129,12 +129,17 @@ void CPond::DrawPausedFrame()
     statusBar.StatusBarProcess(backBuffer);
 }
 
-void CPond::CheckLevel()
+int CPond::Score()
 {
     int score = 0;
     for (const CSnake& each : SnakesInPlay())
         score += each.score;
-    if (score >= statusBar.target)
+    return score;
+}
+
+void CPond::CheckLevel()
+{
+    if (Score() >= statusBar.target)
         statusBar.StatusBarLevelCleared();
 }
 

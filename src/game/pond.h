@@ -53,6 +53,8 @@ public:
     void FireLaser(int x, int y, int heading);
     /// Starts a score popup; dropped when all slots are taken.
     void ShowPopup(int x, int y, int kind);
+    std::span<CSnake> SnakesInPlay() { return { snake, static_cast<size_t>(players) + 1 }; }
+    int Score();                        ///< of all players
     int CountBerries(int colour) const; ///< ripe ones
     int CountStones() const;
 
@@ -85,7 +87,6 @@ private:
     /// How many occupants each cell has.
     using CountGrid = std::array<int, CELL_COUNT>;
 
-    std::span<CSnake> SnakesInPlay() { return { snake, static_cast<size_t>(players) + 1 }; }
     CountGrid CountSnakes();
     bool InitSnakes(const uint32_t* keys1, const uint32_t* keys2);
     void ClearCells();
@@ -106,7 +107,6 @@ private:
     int EyeFrameBeside(int cell, int heading) const;
 
     // Lasers and shock wave
-    void StartShockwave(int x, int y, int maxRadius);
     void StepShockwave();
     void StrikeRingPoint(int x, int y, int radius);
     void StepLasers();

@@ -16,18 +16,13 @@ struct EyeTest {
     int eyeFrame; ///< 3 and 2 look at the snake's own left side and left-front, 5 and 4 at its right side
 };
 
-struct EyeTests {
-    int heading;
-    EyeTest tests[4]; ///< the first berry counts
-};
-
-// Heading down looks at its right side first, which decides the expression with a berry on either side. Kept: part of
-// how the game looks.
-constexpr EyeTests eyeTable[] = {
-    { HEADING_LEFT, { { 0, 1, 3 }, { -1, 1, 2 }, { 0, -1, 5 }, { -1, -1, 4 } } },
-    { HEADING_UP, { { -1, 0, 3 }, { -1, -1, 2 }, { 1, 0, 5 }, { 1, -1, 4 } } },
-    { HEADING_RIGHT, { { 0, -1, 3 }, { 1, -1, 2 }, { 0, 1, 5 }, { 1, 1, 4 } } },
-    { HEADING_DOWN, { { -1, 0, 5 }, { -1, 1, 4 }, { 1, 0, 3 }, { 1, 1, 2 } } },
+// By Direction; the first berry counts. Heading down looks at its right side first, which decides the expression with a
+// berry on either side. Kept: part of how the game looks.
+constexpr EyeTest eyeTable[][4] = {
+    { { -1, 0, 3 }, { -1, -1, 2 }, { 1, 0, 5 }, { 1, -1, 4 } },
+    { { -1, 0, 5 }, { -1, 1, 4 }, { 1, 0, 3 }, { 1, 1, 2 } },
+    { { 0, 1, 3 }, { -1, 1, 2 }, { 0, -1, 5 }, { -1, -1, 4 } },
+    { { 0, -1, 3 }, { 1, -1, 2 }, { 0, 1, 5 }, { 1, 1, 4 } },
 };
 
 constexpr int EYE_FRAME_EATING = 1;
@@ -73,8 +68,8 @@ void CPond::SplashLandedBerries()
             continue;
         cell.splashed = true;
         SplashCell(cell.x, cell.y, BERRY_SPLASH);
-        SoundStop(
-            SOUND_DROP); // its place is kept: a drop that still sounds goes on, an ended one starts from the front
+        // Its place is kept: a drop that still sounds goes on, an ended one starts from the front.
+        SoundStop(SOUND_DROP);
         SoundPlay(SOUND_DROP, false);
     }
 }
@@ -147,11 +142,10 @@ bool CPond::EatAt(int x, int y, int& colour, int heading, int& eyeFrame)
 
 int CPond::EyeFrameBeside(int cell, int heading) const
 {
-    const auto isThatHeading = [heading](const EyeTests& each) { return each.heading == heading; };
-    const EyeTests* row = std::find_if(std::begin(eyeTable), std::end(eyeTable), isThatHeading);
-    if (row == std::end(eyeTable))
+    const Direction direction = DirectionOfHeading(heading);
+    if (direction == Direction::NONE)
         return 0;
-    for (const EyeTest& test : row->tests)
+    for (const EyeTest& test : eyeTable[static_cast<int>(direction)])
         if (HasRipeBerry(cell % CELL_COLUMNS + test.columns, cell / CELL_COLUMNS + test.rows))
             return test.eyeFrame;
     return 0;

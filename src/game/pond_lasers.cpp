@@ -16,12 +16,11 @@ constexpr int RING_STEP = 3; ///< pixels a frame
 
 void MoveLaser(Laser& laser)
 {
-    const auto isItsHeading = [&laser](const DirectionRow& each) { return each.heading == laser.heading; };
-    const DirectionRow* row = std::find_if(std::begin(directions), std::end(directions), isItsHeading);
-    if (row == std::end(directions))
+    const Direction direction = DirectionOfHeading(laser.heading);
+    if (direction == Direction::NONE)
         return;
-    laser.x += row->dx * CELL_SIZE;
-    laser.y += row->dy * CELL_SIZE;
+    laser.x += RowOf(direction).dx * CELL_SIZE;
+    laser.y += RowOf(direction).dy * CELL_SIZE;
 }
 
 struct RingPoint {
@@ -99,7 +98,7 @@ void CPond::HitCell(Cell& cell)
     SoundPlay(SOUND_WARP, false);
     if (cell.ripe && cell.colour == GOLDEN) {
         cell.occupied = false;
-        StartShockwave(cell.x + CELL_SIZE / 2, cell.y + CELL_SIZE / 2, GOLDEN_RING_RADIUS);
+        shockwave = { cell.x + CELL_SIZE / 2, cell.y + CELL_SIZE / 2, 0, GOLDEN_RING_RADIUS };
         return;
     }
     cell.ripe = true;
@@ -113,11 +112,6 @@ void CPond::StepBurst(Laser& laser)
     ++laser.frame;
     if (laser.frame == BURST_FRAMES)
         laser.active = false;
-}
-
-void CPond::StartShockwave(int x, int y, int maxRadius)
-{
-    shockwave = { x, y, 0, maxRadius };
 }
 
 /// Eight points of the ring travel outward.

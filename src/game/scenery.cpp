@@ -27,20 +27,12 @@ bool SubtractGrey(CImage& light, int grey)
     return true;
 }
 
-/// A pond beside the pond, in whole ponds right and down.
-struct Copy {
-    int columns;
-    int rows;
-};
-constexpr Copy wrappedCopies[] = {
-    { 0, 0 }, { -1, 0 }, { 0, -1 }, { -1, -1 }, { 1, 0 }, { 0, 1 }, { 1, 1 }, { 1, -1 }, { -1, 1 },
-};
-
 /// The pond wraps around: a light near an edge also shines in from the opposite one.
 void DrawWrapped(CImage& light, CImage& target, int x, int y)
 {
-    for (const Copy& copy : wrappedCopies)
-        light.Draw(target, x + copy.columns * POND_SIZE, y + copy.rows * POND_SIZE);
+    for (const int right : { 0, -POND_SIZE, POND_SIZE })
+        for (const int down : { 0, -POND_SIZE, POND_SIZE })
+            light.Draw(target, x + right, y + down);
 }
 }
 

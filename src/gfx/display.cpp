@@ -1,8 +1,11 @@
 #include "gfx/display.h"
 
 #include "gfx/error.h"
+#include "gfx/row_kernels.h"
 #include "platform/gdi.h"
 #include "platform/release.h"
+
+#include <initializer_list>
 
 HWND displayWindow = nullptr;
 bool isWindowed = true;
@@ -30,13 +33,6 @@ struct WindowMode {
 const WindowMode windowedMode{ WS_POPUP | FRAME_STYLES, WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_MAXIMIZEBOX,
                                HWND_NOTOPMOST };
 const WindowMode fullScreenMode{ FRAME_STYLES, WS_POPUP, HWND_TOPMOST };
-
-/// Gives up what full screen has so far.
-bool FailFullScreen(EngineError code)
-{
-    DisplayRelease();
-    return FailWith(code);
-}
 
 DWORD RestyleWindow(const WindowMode& mode)
 {
@@ -73,39 +69,34 @@ bool EnterWindowed()
     return true;
 }
 
-bool CreateDirectDraw()
+// The steps into full screen; each returns its failure's code.
+
+EngineError CreateDirectDraw()
 {
-    if (DirectDrawCreate(nullptr, &directDraw, nullptr) != DD_OK) {
-        directDraw = nullptr;
-        return FailFullScreen(ENGINE_CREATE_DIRECTDRAW);
-    }
+    if (DirectDrawCreate(nullptr, &directDraw, nullptr) != DD_OK)
+        return ENGINE_CREATE_DIRECTDRAW;
     directDraw->SetCooperativeLevel(displayWindow, DDSCL_EXCLUSIVE | DDSCL_FULLSCREEN);
-    if (directDraw->SetDisplayMode(static_cast<DWORD>(displayWidth), static_cast<DWORD>(displayHeight), 16) != DD_OK)
-        return FailFullScreen(ENGINE_SET_DISPLAY_MODE);
-    return true;
+    const auto width = static_cast<DWORD>(displayWidth);
+    const auto height = static_cast<DWORD>(displayHeight);
+    return directDraw->SetDisplayMode(width, height, 16) == DD_OK ? ENGINE_NO_ERROR : ENGINE_SET_DISPLAY_MODE;
 }
 
-bool CreateSurfaces()
+EngineError CreateSurfaces()
 {
     surfaceDesc = DDSURFACEDESC{};
     surfaceDesc.dwSize = sizeof(surfaceDesc);
     surfaceDesc.dwFlags = DDSD_CAPS | DDSD_BACKBUFFERCOUNT;
     surfaceDesc.ddsCaps.dwCaps = DDSCAPS_PRIMARYSURFACE | DDSCAPS_FLIP | DDSCAPS_COMPLEX | DDSCAPS_3DDEVICE;
     surfaceDesc.dwBackBufferCount = 1;
-    if (directDraw->CreateSurface(&surfaceDesc, &primarySurface, nullptr) != DD_OK) {
-        primarySurface = nullptr;
-        return FailFullScreen(ENGINE_CREATE_SURFACE);
-    }
+    if (directDraw->CreateSurface(&surfaceDesc, &primarySurface, nullptr) != DD_OK)
+        return ENGINE_CREATE_SURFACE;
     DDSCAPS backCaps{};
     backCaps.dwCaps = DDSCAPS_BACKBUFFER;
-    if (primarySurface->GetAttachedSurface(&backCaps, &backSurface) != DD_OK) {
-        backSurface = nullptr;
-        return FailFullScreen(ENGINE_ATTACH_SURFACE);
-    }
-    return true;
+    const bool attached = primarySurface->GetAttachedSurface(&backCaps, &backSurface) == DD_OK;
+    return attached ? ENGINE_NO_ERROR : ENGINE_ATTACH_SURFACE;
 }
 
-/// Gives the clipper the window and the primary surface the clipper; returns the failed step's code.
+/// Gives the clipper the window and the primary surface the clipper.
 EngineError ConnectClipper(IDirectDrawClipper& clipper)
 {
     if (clipper.SetHWnd(0, displayWindow) != DD_OK)
@@ -115,14 +106,14 @@ EngineError ConnectClipper(IDirectDrawClipper& clipper)
     return ENGINE_NO_ERROR;
 }
 
-bool AttachClipper()
+EngineError AttachClipper()
 {
     IDirectDrawClipper* clipper = nullptr;
     if (directDraw->CreateClipper(0, &clipper, nullptr) != DD_OK)
-        return FailFullScreen(ENGINE_CREATE_CLIPPER);
+        return ENGINE_CREATE_CLIPPER;
     const EngineError code = ConnectClipper(*clipper);
     clipper->Release(); // the primary surface keeps its own reference
-    return code == ENGINE_NO_ERROR || FailFullScreen(code);
+    return code;
 }
 
 void ChooseRowConverter()
@@ -133,11 +124,27 @@ void ChooseRowConverter()
     convertRow = known && format.dwGBitMask == GREEN_MASK_555 ? ConvertRows555 : ConvertRowsCopy;
 }
 
+/// Applies kernel(target row, pixel count, source row) to each row, in whole groups of four pixels.
+template <typename Kernel>
+void ConvertRows(const CImage& image, void* surface, int rowSkip, Kernel kernel)
+{
+    const int count = image.width / 4 * 4;
+    uint8_t* target = static_cast<uint8_t*>(surface);
+    for (int row = 0; row < image.height; ++row) {
+        kernel(reinterpret_cast<uint16_t*>(target), static_cast<size_t>(count), image.Row(row));
+        target += 2 * count + rowSkip;
+    }
+}
+
 bool EnterFullScreen()
 {
     PlaceWindow(fullScreenMode);
-    if (!CreateDirectDraw() || !CreateSurfaces() || !AttachClipper())
-        return false;
+    for (const auto step : { CreateDirectDraw, CreateSurfaces, AttachClipper }) {
+        if (const EngineError code = step(); code != ENGINE_NO_ERROR) {
+            DisplayRelease();
+            return FailWith(code);
+        }
+    }
     ChooseRowConverter();
     return true;
 }
@@ -201,4 +208,14 @@ void DisplayPresent(const CImage& image)
         PresentInWindow(image);
     else if (backSurface && primarySurface)
         PresentFullScreen(image);
+}
+
+void ConvertRowsCopy(const CImage& image, void* surface, int rowSkip)
+{
+    ConvertRows(image, surface, rowSkip, BestRowKernels().copy);
+}
+
+void ConvertRows555(const CImage& image, void* surface, int rowSkip)
+{
+    ConvertRows(image, surface, rowSkip, BestRowKernels().toRgb555);
 }

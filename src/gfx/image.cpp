@@ -23,6 +23,15 @@ int64_t PitchOf(int64_t width)
 {
     return (2 * width + 7) & ~int64_t{ 7 };
 }
+
+template <typename Value>
+void ReleasePlane(Value*& plane, bool& isBorrowed)
+{
+    if (!isBorrowed)
+        operator delete[](plane, PLANE_ALIGNMENT);
+    plane = nullptr;
+    isBorrowed = false;
+}
 }
 
 CImage::~CImage()
@@ -32,33 +41,17 @@ CImage::~CImage()
 
 void CImage::Free()
 {
-    ReleasePixels();
-    ReleaseAlpha();
+    ReleasePlane(pixels, pixelsBorrowed);
+    ReleasePlane(alpha, alphaBorrowed);
     x = y = width = height = pitch = 0;
     opacity = 0;
     blit = BlitCopy;
 }
 
-void CImage::ReleasePixels()
+bool CImage::Create(int newWidth, int newHeight)
 {
-    if (!pixelsBorrowed)
-        operator delete[](pixels, PLANE_ALIGNMENT);
-    pixels = nullptr;
-    pixelsBorrowed = false;
-}
-
-void CImage::ReleaseAlpha()
-{
-    if (!alphaBorrowed)
-        operator delete[](alpha, PLANE_ALIGNMENT);
-    alpha = nullptr;
-    alphaBorrowed = false;
-}
-
-bool CImage::AllocatePixels(int newWidth, int newHeight)
-{
-    ReleasePixels();
-    width = height = pitch = 0; // an image without a plane must have nothing to draw
+    ReleasePlane(pixels, pixelsBorrowed);
+    x = y = width = height = pitch = 0; // an image without a plane must have nothing to draw
     const int64_t rowBytes = PitchOf(newWidth);
     const int64_t planeBytes = rowBytes * newHeight;
     if (newWidth < 0 || newHeight < 0 || rowBytes > MAX_PLANE_BYTES || planeBytes > MAX_PLANE_BYTES)
@@ -72,15 +65,9 @@ bool CImage::AllocatePixels(int newWidth, int newHeight)
     return true;
 }
 
-bool CImage::Create(int newWidth, int newHeight)
-{
-    x = y = 0;
-    return AllocatePixels(newWidth, newHeight);
-}
-
 bool CImage::CreateAlpha()
 {
-    ReleaseAlpha();
+    ReleasePlane(alpha, alphaBorrowed);
     const int64_t planeBytes = int64_t{ pitch } / 2 * height + ALPHA_SLACK;
     alpha = new (PLANE_ALIGNMENT, std::nothrow) uint8_t[static_cast<size_t>(planeBytes)]();
     return alpha || FailWith(ENGINE_ALLOCATE_MEMORY);
@@ -97,11 +84,11 @@ bool CImage::CreateView(CImage& parent, int viewX, int viewY, int viewWidth, int
     if (right <= left || bottom <= top)
         return FailWith(ENGINE_CREATE_IMAGE);
 
-    ReleasePixels();
+    ReleasePlane(pixels, pixelsBorrowed);
     pixels = parent.Row(top) + left;
     pixelsBorrowed = true;
     if (parent.alpha) {
-        ReleaseAlpha();
+        ReleasePlane(alpha, alphaBorrowed);
         alpha = parent.AlphaRow(top) + left;
         alphaBorrowed = true;
     }
@@ -115,11 +102,11 @@ bool CImage::CreateView(CImage& parent, int viewX, int viewY, int viewWidth, int
 
 bool CImage::Copy(CImage& source)
 {
+    opacity = source.opacity;
+    if (!Create(source.width, source.height))
+        return false;
     x = source.x;
     y = source.y;
-    opacity = source.opacity;
-    if (!AllocatePixels(source.width, source.height))
-        return false;
 
     const BlitRoutine sourceBlit = source.blit;
     source.blit = BlitCopy;

@@ -81,12 +81,6 @@ public:
     bool pixelsBorrowed = false; ///< the plane belongs to another image
     bool alphaBorrowed = false;
     BlitRoutine blit = BlitCopy; ///< used when this image is the source
-
-private:
-    /// Replaces the pixel plane by a black one; on failure the size is 0.
-    bool AllocatePixels(int newWidth, int newHeight);
-    void ReleasePixels();
-    void ReleaseAlpha();
 };
 
 /// A rendered character to draw: the pen is at the target's anchor.

@@ -79,7 +79,7 @@ bool CTextImage::TextImageCreate(HFONT font, int greyLevels, int slots)
 {
     TextImageFree();
     if (!Acquire(font, slots)) {
-        Release();
+        TextImageFree();
         return FailWith(ENGINE_CREATE_FONT);
     }
     capacity = slots;
@@ -89,9 +89,11 @@ bool CTextImage::TextImageCreate(HFONT font, int greyLevels, int slots)
 
 void CTextImage::TextImageFree()
 {
-    if (capacity == 0)
-        return;
-    Release();
+    keys.reset();
+    glyphs.reset();
+    if (dc != nullptr)
+        DeleteDC(dc);
+    dc = nullptr;
     capacity = 0;
     count = 0;
     clock = 0;
@@ -116,15 +118,6 @@ bool CTextImage::Acquire(HFONT font, int slots)
     ascent = static_cast<int32_t>(metrics.tmAscent);
     height = static_cast<int32_t>(metrics.tmHeight);
     return true;
-}
-
-void CTextImage::Release()
-{
-    keys.reset();
-    glyphs.reset();
-    if (dc != nullptr)
-        DeleteDC(dc);
-    dc = nullptr;
 }
 
 CGlyph* CTextImage::GetGlyph(uint32_t code)

@@ -64,7 +64,6 @@ public:
 
 private:
     bool Acquire(HFONT font, int slots);
-    void Release();
     CGlyph& TakeFreeSlot(uint32_t code, int place);
     CGlyph& ReplaceOldest(uint32_t code, int place);
     int OldestKey() const;

@@ -1,11 +1,10 @@
 #include "app/frame_images.h"
 #include "app/loading_steps.h"
 #include "app/log.h"
-#include "menu/menu_items.h"
 #include "menu/section_menu.h"
 #include "sound/sound.h"
 
-using namespace menu_items;
+using enum CSectionMenu::ItemId;
 
 namespace
 {
@@ -152,9 +151,9 @@ void CSectionMenu::BuildOptionsPage()
     CreateCentred(optionsMenu, images[PICTURE_OPTIONS]);
     for (const auto& [id, group, box, checkedPicture] : optionsToggles)
         optionsMenu.AddToggle({ .id = id, .group = group, .box = box, .checkedImage = &images[checkedPicture] });
-    for (const KeyBinding& binding : keyBindings)
-        optionsMenu.AddText({ .id = binding.field,
-                              .box = { binding.x, binding.y, KEY_FIELD_SIZE, KEY_FIELD_SIZE },
+    for (int i = 0; i < KEY_BINDINGS; ++i)
+        optionsMenu.AddText({ .id = FIELD_KEY_FIRST + i,
+                              .box = { keyBindings[i].x, keyBindings[i].y, KEY_FIELD_SIZE, KEY_FIELD_SIZE },
                               .font = &largeFont,
                               .colour = TEXT_WHITE,
                               .focusColour = TEXT_YELLOW,

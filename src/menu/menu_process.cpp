@@ -50,20 +50,10 @@ void StopAndPlay(int sound)
     SoundPlay(sound, false);
 }
 
-CImage* PressedPicture(const MenuButton& button)
-{
-    return button.pressedImage;
-}
-
-CImage* PressedPicture(const MenuToggle& toggle)
-{
-    return toggle.checkedImage;
-}
-
 /// Lights what the mouse is on. Returns the item hovered, the last of several, after its hover sound when the mouse
 /// has just come onto it; `hoveredId` remembers it between frames.
 template <typename Item>
-Item* Hover(CImage& target, const CMenu& menu, std::span<Item> items, int32_t& hoveredId)
+Item* Hover(CImage& target, const CMenu& menu, std::span<Item> items, CImage* Item::*pressedImage, int32_t& hoveredId)
 {
     Item* hovered = nullptr;
     for (Item& item : items) {
@@ -73,8 +63,8 @@ Item* Hover(CImage& target, const CMenu& menu, std::span<Item> items, int32_t& h
         if (!IsUnderMouse(menu, item))
             continue;
         hovered = &item;
-        const bool isPressed = input.mouseLeftDown && PressedPicture(item) != nullptr;
-        DrawAt(target, menu, item, isPressed ? PressedPicture(item) : item.hoverImage);
+        const bool isPressed = input.mouseLeftDown && item.*pressedImage != nullptr;
+        DrawAt(target, menu, item, isPressed ? item.*pressedImage : item.hoverImage);
     }
     const int32_t id = hovered != nullptr ? hovered->id : -1;
     if (hovered != nullptr && id != hoveredId)
@@ -133,14 +123,14 @@ void CMenu::DrawToggles(CImage& target) const
 
 void CMenu::ProcessButtons(CImage& target)
 {
-    MenuButton* hovered = Hover(target, *this, ItemsOf(buttons, buttonCount), hoveredButton);
+    MenuButton* hovered = Hover(target, *this, ItemsOf(buttons, buttonCount), &MenuButton::pressedImage, hoveredButton);
     if (TakeClick(hovered))
         hovered->clicked = true;
 }
 
 void CMenu::ProcessToggles(CImage& target)
 {
-    MenuToggle* hovered = Hover(target, *this, ItemsOf(toggles, toggleCount), hoveredToggle);
+    MenuToggle* hovered = Hover(target, *this, ItemsOf(toggles, toggleCount), &MenuToggle::checkedImage, hoveredToggle);
     if (!TakeClick(hovered))
         return;
     for (MenuToggle& toggle : ItemsOf(toggles, toggleCount)) {

@@ -1,15 +1,13 @@
 #include "app/input.h"
+#include "app/mode_switch.h"
 #include "gfx/display.h"
-#include "menu/menu_items.h"
 #include "menu/section_menu.h"
 #include "platform/window.h"
 #include "sound/sound.h"
 
-using namespace menu_items;
-
 MenuText& CSectionMenu::KeyField(int binding)
 {
-    return *optionsMenu.FindText(keyBindings[binding].field);
+    return *optionsMenu.FindText(FIELD_KEY_FIRST + binding);
 }
 
 void CSectionMenu::ShowDisplayMode(bool windowed)

@@ -1,13 +1,10 @@
 #include "app/frame_images.h"
 #include "app/input.h"
-#include "menu/menu_items.h"
 #include "menu/section_menu.h"
 #include "platform/window.h"
 
 #include <cstdio>
 #include <cstring>
-
-using namespace menu_items;
 
 namespace
 {

@@ -7,7 +7,6 @@
 #include "app/random.h"
 #include "app/scenes.h"
 #include "gfx/image.h"
-#include "menu/menu_items.h"
 #include "platform/kernel.h"
 #include "platform/shell.h"
 #include "platform/window.h"
@@ -15,8 +14,6 @@
 
 #include <algorithm>
 #include <iterator>
-
-using namespace menu_items;
 
 namespace
 {

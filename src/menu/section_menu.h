@@ -4,9 +4,9 @@
 #include "gfx/image.h"
 #include "gfx/text_image.h"
 #include "menu/help_page.h"
+#include "menu/key_bindings.h"
 #include "menu/menu.h"
 #include "menu/menu_pictures.h"
-#include "menu/settings.h"
 
 #include <array>
 #include <cstdint>
@@ -14,11 +14,44 @@
 /// The product's page, relative to the program's folder, which is the current one.
 constexpr char HOME_PAGE[] = "docs\\index.html";
 
+constexpr int RANKING_PLACES = 10;
+constexpr int NAME_BYTES = 256;
+
+// Text colours, RGB565.
+constexpr uint16_t TEXT_WHITE = 0xFFFF;
+constexpr uint16_t TEXT_YELLOW = 0xFFE0;
+constexpr uint16_t TEXT_RED = 0xF800;
+
 /// The main menu and its pages: options, ranking, help. It also carries the settings, so it must outlive the
 /// application object, which saves them.
 class CSectionMenu : public CSection
 {
 public:
+    /// Items of the pages.
+    enum ItemId : int {
+        BUTTON_HOME_PAGE = 0,
+        BUTTON_ONE_PLAYER = 1,
+        BUTTON_TWO_PLAYERS = 2,
+        BUTTON_RANKING = 3,
+        BUTTON_OPTIONS = 4,
+        BUTTON_HELP = 5,
+        BUTTON_QUIT = 6,
+        BUTTON_OPTIONS_OK = 7,
+        BUTTON_OPTIONS_CANCEL = 8,
+        BUTTON_OPTIONS_DEFAULT = 9,
+        GROUP_DISPLAY = 10,
+        TOGGLE_WINDOWED = 11,
+        TOGGLE_FULL_SCREEN = 12,
+        GROUP_SOUND = 13,
+        TOGGLE_SOUND_ON = 14,
+        TOGGLE_SOUND_OFF = 15,
+        FIELD_KEY_FIRST = 16, ///< eight key fields
+        BUTTON_RANKING_OK = 24,
+        FIELD_NAME_FIRST = 25,  ///< ten places
+        FIELD_SCORE_FIRST = 35, ///< ten places
+        BUTTON_HELP_FIRST = 45, ///< those of the help pages
+    };
+
     ~CSectionMenu() override;
     bool SectionBegin() override;
     bool SectionEnd() override;

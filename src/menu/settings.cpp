@@ -1,14 +1,13 @@
-#include "menu/settings.h"
+#include "menu/section_menu.h"
 
 #include "app/mode_switch.h"
 #include "gfx/display.h"
-#include "menu/section_menu.h"
 #include "platform/kernel.h"
 #include "platform/registry.h"
 #include "sound/sound.h"
 
-#include <cstdio>
 #include <cstring>
+#include <string>
 
 namespace
 {
@@ -61,17 +60,10 @@ void WriteName(HKEY key, const char* valueName, const char* name)
 }
 
 /// The value name of a ranking place, counted from 0: "Name 1" to "Name 10".
-struct PlaceName {
-    PlaceName(const char* kind, int place) { snprintf(text, sizeof text, "%s %d", kind, place + 1); }
-    char text[16];
-};
-
-}
-
-void ApplyDisplayMode(bool windowed)
+std::string PlaceName(const char* kind, int place)
 {
-    if (windowed != isWindowed)
-        SwitchDisplayMode(displayWindow, displayWidth, displayHeight, windowed);
+    return std::string(kind) + ' ' + std::to_string(place + 1);
+}
 }
 
 int CSectionMenu::SettingsLoad()
@@ -84,9 +76,9 @@ int CSectionMenu::SettingsLoad()
     for (size_t i = 0; i < keys.size(); ++i)
         keys[i] = ReadNumber(key, keyBindings[i].valueName, keyBindings[i].defaultKey);
     for (int place = 0; place < RANKING_PLACES; ++place)
-        ReadName(key, PlaceName("Name", place).text, rankNames[place]);
+        ReadName(key, PlaceName("Name", place).c_str(), rankNames[place]);
     for (int place = 0; place < RANKING_PLACES; ++place)
-        rankScores[place] = static_cast<int32_t>(ReadNumber(key, PlaceName("Rank", place).text, 0));
+        rankScores[place] = static_cast<int32_t>(ReadNumber(key, PlaceName("Rank", place).c_str(), 0));
     const LONG result = RegCloseKey(key); // a failure when a value was there but could not be read
     settingsRead = result == static_cast<LONG>(ERROR_SUCCESS);
     return result;
@@ -105,8 +97,8 @@ int CSectionMenu::SettingsSave()
     for (size_t i = 0; i < keys.size(); ++i)
         WriteNumber(key, keyBindings[i].valueName, keys[i]);
     for (int place = 0; place < RANKING_PLACES; ++place)
-        WriteName(key, PlaceName("Name", place).text, rankNames[place]);
+        WriteName(key, PlaceName("Name", place).c_str(), rankNames[place]);
     for (int place = 0; place < RANKING_PLACES; ++place)
-        WriteNumber(key, PlaceName("Rank", place).text, static_cast<uint32_t>(rankScores[place]));
+        WriteNumber(key, PlaceName("Rank", place).c_str(), static_cast<uint32_t>(rankScores[place]));
     return RegCloseKey(key);
 }
