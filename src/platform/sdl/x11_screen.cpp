@@ -2,6 +2,7 @@
 
 #include <SDL_syswm.h>
 #include <X11/extensions/Xrandr.h>
+#include <X11/extensions/scrnsaver.h>
 #include <span>
 
 namespace
@@ -98,4 +99,12 @@ void CoverX11Screen(SDL_Window* window, const SDL_Rect& area)
         return;
     moveResize(info->info.x11.display, info->info.x11.window, area.x, area.y, static_cast<unsigned>(area.w),
                static_cast<unsigned>(area.h));
+}
+
+void FreeX11ScreenSaver(SDL_Window* window)
+{
+    const std::optional<SDL_SysWMinfo> info = X11Window(window);
+    const auto suspend = info ? Load<decltype(XScreenSaverSuspend)>("libXss.so.1", "XScreenSaverSuspend") : nullptr;
+    if (suspend)
+        suspend(info->info.x11.display, False);
 }

@@ -9,3 +9,7 @@ std::optional<SDL_Rect> X11Screen(SDL_Window* window);
 
 /// Makes a full-screen window cover that area where no window manager has done so.
 void CoverX11Screen(SDL_Window* window, const SDL_Rect& area);
+
+/// Lets an X server's screen saver run again after SDL_EnableScreenSaver, which forgets to where it has made that
+/// server wait, there being no desktop to ask.
+void FreeX11ScreenSaver(SDL_Window* window);
