@@ -2,7 +2,6 @@
 #include "platform/sdl/window_fixture.h"
 
 #include <fstream>
-#include <iterator>
 #include <sstream>
 
 namespace
@@ -14,11 +13,10 @@ using WindowEvents = WindowFixture;
 TEST_F(WindowEvents, ReachTheGameAsMessages)
 {
     std::ifstream file(EVENTS_FILE);
-    int cases = 0;
+    ASSERT_TRUE(file.is_open());
     for (std::string why, in, out; std::getline(file, why);) {
         if (why.empty() || why[0] == '#')
             continue;
-        ++cases;
         ASSERT_TRUE(std::getline(file, in) && std::getline(file, out)) << why;
         for (const int polls : { 0, 1, 3 }) {
             TearDown();
@@ -36,7 +34,6 @@ TEST_F(WindowEvents, ReachTheGameAsMessages)
             EXPECT_EQ(got + RunFrames(), out) << why << ", " << polls << " polls";
         }
     }
-    EXPECT_GT(cases, 20);
 }
 
 /// SDL's driver without a screen has only the keyboard of the United States.
