@@ -76,7 +76,10 @@ Session::Session(int players, uint32_t seed) : folderBefore(std::filesystem::cur
     UseTestSystem(folder);
     folder.Write("Dat/Image.xpf", std::string("FPX_\0\0\0\0", 8)); // every picture is a loose file
     if (!CreateGameWindow(nullptr)) {
+        const bool hasWindow = requestedSection != nullptr;
         Close();
+        if (hasWindow)
+            throw std::logic_error("a start that failed has left its window");
         throw std::runtime_error("the program cannot start");
     }
     std::filesystem::current_path(folder.Path()); // for the program has gone to its own
