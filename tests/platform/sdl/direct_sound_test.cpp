@@ -74,6 +74,7 @@ TEST_F(DirectSoundTest, RefusesBuffersThatItCannotPlay)
         { { PCM, 1, 192000, 384000, 2, 16, 0 }, 4, true },
         { { PCM, 1, 192001, 384002, 2, 16, 0 }, 4 },
         { { PCM, 2, 22050, 88200, 4, 16, 0 }, 3 }, // less than a frame
+        { { PCM, 2, 22050, 88200, 4, 16, 0 }, 4, true },
         { { PCM, 2, 22050, 88200, 4, 16, 0 }, 0xFFFFFFFF },
     };
     ASSERT_EQ(DirectSoundCreate(nullptr, &device, nullptr), DS_OK);
