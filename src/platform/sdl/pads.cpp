@@ -4,6 +4,7 @@
 #include "platform/sdl/mouse.h"
 #include "platform/sdl/pad_pointer.h"
 #include "platform/sdl/told_frame.h"
+#include "platform/sdl/window_state.h"
 #include "platform/window.h"
 
 #include <algorithm>
@@ -22,7 +23,11 @@ struct Pad {
 /// One for each player. What is plugged in beyond that waits for a free place.
 Pad pads[2];
 
+/// A tenth of a frame.
+constexpr Uint32 POLL_MS = 4;
+
 bool isStarted = false;
+Uint32 lastPoll = 0; ///< ms
 
 constexpr Way WayOf(int button)
 {
@@ -143,6 +148,7 @@ void Remove(SDL_JoystickID id)
 
 void StartPads()
 {
+    SDL_SetHint(SDL_HINT_AUTO_UPDATE_JOYSTICKS, "0"); // PollPads does it
     isStarted = SDL_InitSubSystem(SDL_INIT_GAMECONTROLLER) == 0;
 }
 
@@ -155,6 +161,15 @@ void StopPads()
     if (isStarted)
         SDL_QuitSubSystem(SDL_INIT_GAMECONTROLLER);
     isStarted = false;
+}
+
+void PollPads()
+{
+    const Uint32 now = SDL_GetTicks();
+    if (!isStarted || !WindowHasFocus() || now - lastPoll < POLL_MS)
+        return;
+    lastPoll = now;
+    SDL_JoystickUpdate();
 }
 
 void HandlePad(const SDL_Event& event)

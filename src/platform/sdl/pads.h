@@ -11,6 +11,10 @@
 void StartPads();
 void StopPads();
 
+/// Asks the pads for their events now and then, for SDL does it too often when left to itself. To be called all the
+/// time; without the focus it does nothing.
+void PollPads();
+
 /// Posts what the event means. Each push is a key pressed and released at once: nothing is ever held.
 void HandlePad(const SDL_Event& event);
 
