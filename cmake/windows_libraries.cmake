@@ -14,7 +14,7 @@ ExternalProject_Add(libjpeg_turbo
     SOURCE_DIR ${TERVALIS_SOURCES}/libjpeg-turbo
     BINARY_DIR ${JPEG_DIR}
     CMAKE_ARGS -DCMAKE_TOOLCHAIN_FILE=${CMAKE_TOOLCHAIN_FILE} -DCMAKE_BUILD_TYPE=Release -DENABLE_SHARED=OFF
-               -DCMAKE_INSTALL_PREFIX=${JPEG_DIR}
+               -DCMAKE_INSTALL_PREFIX=${JPEG_DIR} -DBUILD=tervalis # else the day of the build is in the library
     BUILD_COMMAND ${CMAKE_COMMAND} --build <BINARY_DIR> --target turbojpeg-static
     INSTALL_COMMAND ""
     BUILD_BYPRODUCTS ${JPEG_DIR}/libturbojpeg.a)

@@ -10,7 +10,8 @@ x86_64) target=amd64-unicode ;;
 esac
 cd "$(dirname "$0")/.."
 export LC_ALL=C TZ=UTC
-SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}
+# In unpacked sources the files have the commit's time.
+SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct 2>/dev/null || stat -c %Y CHANGELOG.md)}
 export SOURCE_DATE_EPOCH
 
 stage=$build/stage/$name
