@@ -16,22 +16,19 @@ std::span<Item> ItemsOf(Item* items, int count)
     return { items, static_cast<size_t>(count) };
 }
 
+/// Its edges belong to it.
 template <typename Item>
-void TellItem(const CMenu& menu, const Item& item)
+RECT AreaOf(const CMenu& menu, const Item& item)
 {
     const int left = menu.x + item.box.x;
     const int top = menu.y + item.box.y;
-    TellClickable(left, top, left + item.box.width, top + item.box.height);
+    return { left, top, left + item.box.width, top + item.box.height };
 }
 
-/// The box's edges belong to it.
-template <typename Item>
-bool IsUnderMouse(const CMenu& menu, const Item& item)
+bool IsUnderMouse(const RECT& area)
 {
-    const int left = menu.x + item.box.x;
-    const int top = menu.y + item.box.y;
-    return input.mouseX >= left && input.mouseX <= left + item.box.width && input.mouseY >= top &&
-           input.mouseY <= top + item.box.height;
+    return input.mouseX >= area.left && input.mouseX <= area.right && input.mouseY >= area.top &&
+           input.mouseY <= area.bottom;
 }
 
 template <typename Item>
@@ -59,8 +56,9 @@ Item* Hover(CImage& target, const CMenu& menu, std::span<Item> items, CImage* It
     for (Item& item : items) {
         if (!item.isVisible || !item.isEnabled)
             continue;
-        TellItem(menu, item);
-        if (!IsUnderMouse(menu, item))
+        const RECT area = AreaOf(menu, item);
+        TellClickable(area);
+        if (!IsUnderMouse(area))
             continue;
         hovered = &item;
         const bool isPressed = input.mouseLeftDown && item.*pressedImage != nullptr;

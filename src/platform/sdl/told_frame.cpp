@@ -28,9 +28,9 @@ Frame lastFrame;
 Frame frameInTheMaking;
 }
 
-void TellClickable(int left, int top, int right, int bottom)
+void TellClickable(const RECT& area)
 {
-    frameInTheMaking.clickables.Add({ left, top, right, bottom });
+    frameInTheMaking.clickables.Add(area);
 }
 
 void TellSteering(const SteeringKeys& keys, bool isMoving)

@@ -108,15 +108,15 @@ protected:
     /// A frame in which two players can be steered, both on the move.
     static void PlayFrame()
     {
-        TellClickable(10, 433, 49, 447);
+        TellClickable({ 10, 433, 49, 447 });
         TellSteering({ VK_UP, VK_DOWN, VK_LEFT, VK_RIGHT }, true);
         TellSteering({ 'W', 'S', 'A', 'D' }, true);
         PresentFrame();
     }
     static void PageFrame()
     {
-        TellClickable(10, 20, 30, 40);
-        TellClickable(110, 20, 130, 40);
+        TellClickable({ 10, 20, 30, 40 });
+        TellClickable({ 110, 20, 130, 40 });
         PresentFrame();
     }
 };
