@@ -3,6 +3,7 @@
 #include "gfx/image.h"
 #include "gfx/text_image.h"
 
+#include <algorithm>
 #include <cstdint>
 
 /// Where an item is, in pixels relative to the menu.
@@ -83,15 +84,15 @@ public:
     /// Position and background (not owned, may be null) of a menu without items yet. Always true.
     bool MenuCreate(int menuX, int menuY, CImage* picture);
     /// Drops the items.
-    void MenuFree();
+    void MenuFree() { buttonCount = toggleCount = textCount = 0; }
     /// The Add operations append a copy and answer false when their list is full.
-    bool AddButton(const MenuButton& button);
-    bool AddToggle(const MenuToggle& toggle);
-    bool AddText(const MenuText& text);
+    bool AddButton(const MenuButton& button) { return AddItem(buttons, buttonCount, button); }
+    bool AddToggle(const MenuToggle& toggle) { return AddItem(toggles, toggleCount, toggle); }
+    bool AddText(const MenuText& text) { return AddItem(texts, textCount, text); }
     /// The first item with that id, or null.
-    MenuButton* FindButton(int id);
-    MenuToggle* FindToggle(int id);
-    MenuText* FindText(int id);
+    MenuButton* FindButton(int id) { return FindItem(buttons, buttonCount, id); }
+    MenuToggle* FindToggle(int id) { return FindItem(toggles, toggleCount, id); }
+    MenuText* FindText(int id) { return FindItem(texts, textCount, id); }
     /// Shown and hidden, the menu also takes and loses mouse and keyboard.
     void Show() { isVisible = isActive = true; }
     void Hide() { isVisible = isActive = false; }
@@ -115,6 +116,22 @@ public:
     int32_t cursorBlink = 1;
 
 private:
+    template <typename Item, int capacity>
+    static bool AddItem(Item (&items)[capacity], int32_t& count, const Item& item)
+    {
+        if (count == capacity)
+            return false;
+        items[count++] = item;
+        return true;
+    }
+
+    template <typename Item>
+    static Item* FindItem(Item* items, int count, int id)
+    {
+        Item* item = std::find_if(items, items + count, [id](const Item& each) { return each.id == id; });
+        return item == items + count ? nullptr : item;
+    }
+
     void DrawButtons(CImage& target) const;
     void DrawToggles(CImage& target) const;
     void DrawTexts(CImage& target);
