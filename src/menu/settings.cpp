@@ -24,22 +24,16 @@ LONG OpenSettings(HKEY& key)
 /// counts as absent.
 uint32_t ReadNumber(HKEY key, const char* name, uint32_t absent)
 {
-    BYTE bytes[sizeof(uint32_t)];
-    memcpy(bytes, &absent, sizeof bytes);
+    uint32_t value = absent;
     DWORD type = REG_DWORD;
-    DWORD size = sizeof bytes;
-    if (RegQueryValueExA(key, name, nullptr, &type, bytes, &size) != static_cast<LONG>(ERROR_SUCCESS))
-        return absent;
-    uint32_t value;
-    memcpy(&value, bytes, sizeof value);
-    return value;
+    DWORD size = sizeof value;
+    const LONG result = RegQueryValueExA(key, name, nullptr, &type, reinterpret_cast<BYTE*>(&value), &size);
+    return result == static_cast<LONG>(ERROR_SUCCESS) ? value : absent;
 }
 
 void WriteNumber(HKEY key, const char* name, uint32_t value)
 {
-    BYTE bytes[sizeof value];
-    memcpy(bytes, &value, sizeof bytes);
-    RegSetValueExA(key, name, 0, REG_DWORD, bytes, sizeof bytes);
+    RegSetValueExA(key, name, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&value), sizeof value);
 }
 
 /// A stored text, empty when it is absent or does not fit. It is stored without its terminating zero.
