@@ -2,7 +2,6 @@
 #include "res/bmp_file.h"
 #include "res/image_loader.h"
 #include "res/little_endian.h"
-#include "res/picture.h"
 
 namespace
 {

@@ -1,6 +1,5 @@
 #include "gfx/error.h"
 #include "res/image_loader.h"
-#include "res/picture.h"
 
 #include <turbojpeg.h>
 
