@@ -12,20 +12,8 @@ namespace
 /// stall the start.
 constexpr uint32_t MAX_FILE_BYTES = 4u << 20;
 
-/// A file on disk, closed when it goes out of scope.
-struct LooseFile {
-    explicit LooseFile(const char* path) : handle(OpenForReading(path)) {}
-    ~LooseFile()
-    {
-        if (IsOpen())
-            CloseHandle(handle);
-    }
-    LooseFile(const LooseFile&) = delete;
-    LooseFile& operator=(const LooseFile&) = delete;
-
-    bool IsOpen() const { return handle != INVALID_HANDLE_VALUE; }
-
-    HANDLE handle;
+struct CloseFile {
+    void operator()(HANDLE file) const { CloseHandle(file); }
 };
 
 void SeekTo(HANDLE file, uint32_t position)
@@ -37,9 +25,10 @@ void SeekTo(HANDLE file, uint32_t position)
 
 bool CFileData::Load(const char* path)
 {
-    const LooseFile loose(path);
-    if (loose.IsOpen())
-        return ReadFrom(loose.handle, 0, GetFileSize(loose.handle, nullptr));
+    if (const HANDLE file = OpenForReading(path); file != INVALID_HANDLE_VALUE) {
+        const std::unique_ptr<void, CloseFile> openFile(file);
+        return ReadFrom(file, 0, GetFileSize(file, nullptr));
+    }
 
     const CPackFile& pack = packTable[0];
     const PackEntry* entry = pack.Find(HashMember(path));
