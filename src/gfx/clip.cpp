@@ -4,13 +4,6 @@
 
 namespace
 {
-/// One axis of a DrawArea.
-struct Span {
-    int32_t source;
-    int32_t target;
-    int32_t length; ///< 0 or less: nothing is visible
-};
-
 // In 64 bits, since positions and anchors may be anywhere in 32.
 Span VisibleSpan(int64_t targetAnchor, int64_t targetSize, int64_t sourceAnchor, int64_t sourceSize)
 {
@@ -27,7 +20,7 @@ std::optional<DrawArea> VisibleArea(const CImage& target, const SourceBox& sourc
 {
     const Span columns = VisibleSpan(target.x, target.width, source.anchorX, source.width);
     const Span rows = VisibleSpan(target.y, target.height, source.anchorY, source.height);
-    if (columns.length <= 0 || rows.length <= 0)
+    if (columns.length == 0 || rows.length == 0)
         return std::nullopt;
-    return DrawArea{ columns.source, rows.source, columns.target, rows.target, columns.length, rows.length };
+    return DrawArea{ columns, rows };
 }

@@ -14,14 +14,17 @@ struct SourceBox {
     int32_t height;
 };
 
+/// Visible pixels in one direction: where they begin in the source and on the target.
+struct Span {
+    int32_t source;
+    int32_t target;
+    int32_t length; ///< 0: nothing is visible
+};
+
 /// The part of a source box that falls on the target.
 struct DrawArea {
-    int32_t sourceColumn;
-    int32_t sourceRow;
-    int32_t targetColumn;
-    int32_t targetRow;
-    int32_t width;
-    int32_t height;
+    Span columns;
+    Span rows;
 };
 
 /// Nothing when the box lies outside the target. Any positions and sizes will do.
@@ -34,8 +37,9 @@ void ForEachVisibleRow(CImage& target, const SourceBox& source, DrawRow drawRow)
     const std::optional<DrawArea> area = VisibleArea(target, source);
     if (!area)
         return;
-    for (int row = 0; row < area->height; ++row) {
-        uint16_t* pixels = target.Row(area->targetRow + row) + area->targetColumn;
-        drawRow(area->sourceRow + row, area->sourceColumn, pixels, static_cast<size_t>(area->width));
+    const auto& [columns, rows] = *area;
+    for (int row = 0; row < rows.length; ++row) {
+        uint16_t* pixels = target.Row(rows.target + row) + columns.target;
+        drawRow(rows.source + row, columns.source, pixels, static_cast<size_t>(columns.length));
     }
 }
