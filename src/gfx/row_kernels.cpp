@@ -93,17 +93,13 @@ struct ColorKeyRule {
     }
 };
 
-/// Blue alone, and blue with green, of which the carries and borrows between the two are part.
-template <class Lanes, class V>
-V BlueOf(Lanes lanes, V pixels)
-{
-    return hn::And(pixels, hn::Set(lanes, BLUE_MASK));
-}
+/// Of blue and green together, the carries and borrows between the two are part.
+constexpr uint16_t GREEN_AND_BLUE = GREEN_MASK | BLUE_MASK;
 
 template <class Lanes, class V>
-V GreenAndBlueOf(Lanes lanes, V pixels)
+V Masked(Lanes lanes, V pixels, uint16_t mask)
 {
-    return hn::And(pixels, hn::Set(lanes, GREEN_MASK | BLUE_MASK));
+    return hn::And(pixels, hn::Set(lanes, mask));
 }
 
 struct AddRule {
@@ -115,10 +111,9 @@ struct AddRule {
     V Vector(Lanes lanes, size_t i, V target) const
     {
         const V pixels = hn::LoadU(lanes, source + i);
-        const V green = hn::Add(GreenAndBlueOf(lanes, pixels), GreenAndBlueOf(lanes, target));
-        const V blue = hn::Add(BlueOf(lanes, pixels), BlueOf(lanes, target));
-        return JoinChannels(lanes, hn::SaturatedAdd(pixels, target),
-                            hn::Min(green, hn::Set(lanes, GREEN_MASK | BLUE_MASK)),
+        const V green = hn::Add(Masked(lanes, pixels, GREEN_AND_BLUE), Masked(lanes, target, GREEN_AND_BLUE));
+        const V blue = hn::Add(Masked(lanes, pixels, BLUE_MASK), Masked(lanes, target, BLUE_MASK));
+        return JoinChannels(lanes, hn::SaturatedAdd(pixels, target), hn::Min(green, hn::Set(lanes, GREEN_AND_BLUE)),
                             hn::Min(blue, hn::Set(lanes, BLUE_MASK)));
     }
 };
@@ -132,8 +127,8 @@ struct SubRule {
     V Vector(Lanes lanes, size_t i, V target) const
     {
         const V pixels = hn::LoadU(lanes, source + i);
-        const V green = hn::SaturatedSub(GreenAndBlueOf(lanes, target), GreenAndBlueOf(lanes, pixels));
-        const V blue = hn::SaturatedSub(BlueOf(lanes, target), BlueOf(lanes, pixels));
+        const V green = hn::SaturatedSub(Masked(lanes, target, GREEN_AND_BLUE), Masked(lanes, pixels, GREEN_AND_BLUE));
+        const V blue = hn::SaturatedSub(Masked(lanes, target, BLUE_MASK), Masked(lanes, pixels, BLUE_MASK));
         return JoinChannels(lanes, hn::SaturatedSub(target, pixels), green, blue);
     }
 };
@@ -220,7 +215,7 @@ struct FadeToBlackRule {
         const V weight = hn::Set(lanes, Low16(32 - blackWeight));
         const V red = hn::Add(hn::Mul(redAndGreen, hn::Set(lanes, Low16(-blackWeight))), pixels);
         const V green = hn::Mul(hn::And(redAndGreen, hn::Set(lanes, GREEN_MASK >> 5)), weight);
-        const V blue = hn::Mul(hn::And(pixels, hn::Set(lanes, BLUE_MASK)), weight);
+        const V blue = hn::Mul(Masked(lanes, pixels, BLUE_MASK), weight);
         return JoinChannels(lanes, red, green, hn::ShiftRight<5>(blue));
     }
 };
@@ -248,7 +243,7 @@ struct Rgb555Rule {
     V Vector(Lanes lanes, size_t i, V) const
     {
         const V pixels = hn::LoadU(lanes, source + i);
-        const V blue = hn::And(pixels, hn::Set(lanes, BLUE_MASK));
+        const V blue = Masked(lanes, pixels, BLUE_MASK);
         return hn::OrAnd(blue, hn::ShiftRight<1>(pixels), hn::Set(lanes, RED_GREEN_MASK_555));
     }
 };
