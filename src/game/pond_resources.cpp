@@ -33,7 +33,7 @@ constexpr SoundFile pondSounds[] = {
     { SOUND_RAIN_2, "Wav\\rainloop.wav" },
     { SOUND_BEAT_2, "Wav\\beat.wav" },
 };
-static_assert(AllIdsDiffer(pondSounds) && std::size(pondSounds) == SOUND_POND_LAST - SOUND_POND_FIRST + 1);
+static_assert(IdsAscend(pondSounds) && std::size(pondSounds) == SOUND_POND_LAST - SOUND_POND_FIRST + 1);
 
 constexpr std::span<const PictureRow> allPictures = pondPictures;
 constexpr size_t BACKGROUND_PICTURES = 1;

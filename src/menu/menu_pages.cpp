@@ -19,7 +19,7 @@ constexpr SoundFile menuSounds[] = {
     { SOUND_MENU_ENV_FIRST + 3, "Wav\\env12.wav" },
     { SOUND_MENU_ENV_LAST, "Wav\\env13.wav" },
 };
-static_assert(AllIdsDiffer(menuSounds));
+static_assert(IdsAscend(menuSounds));
 
 /// A part of a strip of pictures, from its top.
 struct PictureView {

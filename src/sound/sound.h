@@ -3,7 +3,7 @@
 #include "platform/directsound.h"
 #include "platform/types.h"
 
-#include <cstddef>
+#include <algorithm>
 #include <cstdint>
 #include <span>
 
@@ -43,13 +43,11 @@ struct SoundFile {
     int id;
     const char* path; ///< relative to the program's folder
 };
-constexpr bool AllIdsDiffer(std::span<const SoundFile> sounds)
+/// So that no id is given twice.
+constexpr bool IdsAscend(std::span<const SoundFile> sounds)
 {
-    for (size_t i = 0; i < sounds.size(); ++i)
-        for (size_t j = 0; j < i; ++j)
-            if (sounds[i].id == sounds[j].id)
-                return false;
-    return true;
+    const auto isOutOfOrder = [](const SoundFile& a, const SoundFile& b) { return a.id >= b.id; };
+    return std::adjacent_find(sounds.begin(), sounds.end(), isOutOfOrder) == sounds.end();
 }
 
 /// Sets up the sound device for that window. Without one the program runs on, silent.
