@@ -35,7 +35,6 @@ constexpr int FACE_FRAMES = 20; ///< a dead snake's bumped head shows before its
 class CSnake
 {
 public:
-    CSnake() = default;
     virtual ~CSnake() = default;
 
     /// A new game: five segments below the pond's bottom edge at `enterX`, heading up. False when an image cannot be

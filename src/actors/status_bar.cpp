@@ -4,17 +4,6 @@
 
 #include <algorithm>
 
-namespace
-{
-constexpr int FONT_HEIGHT = 13;
-constexpr int FONT_WIDTH = 5;
-}
-
-CStatusBar::~CStatusBar()
-{
-    DataUnload();
-}
-
 bool CStatusBar::DataLoad(bool& done)
 {
     static constexpr LoadingStep<CStatusBar> steps[] = {
@@ -27,6 +16,8 @@ bool CStatusBar::DataLoad(bool& done)
 
 bool CStatusBar::LoadFont()
 {
+    constexpr int FONT_HEIGHT = 13;
+    constexpr int FONT_WIDTH = 5;
     fontHandle = CreateVerdana(FONT_HEIGHT, FONT_WIDTH);
     return font.TextImageCreate(fontHandle, TEXT_GREY_LEVELS, TEXT_GLYPH_SLOTS);
 }

@@ -15,12 +15,6 @@ class CPond;
 /// Where a panel is made; some slide from there.
 enum class PanelPlace { CORNER, SCREEN_CENTRE, POND_CENTRE };
 
-/// A button over one that is part of the panel's picture.
-struct PanelButton {
-    int id;
-    MenuBox box;
-};
-
 constexpr int FIRST_TARGET = 500;   ///< score that clears level 1
 constexpr int COUNT_UP_FRAMES = 75; ///< of the target's figure at a new level
 
@@ -42,8 +36,7 @@ public:
         BUTTON_HELP_FIRST = 8, ///< those of the help pages
     };
 
-    CStatusBar() = default;
-    virtual ~CStatusBar();
+    virtual ~CStatusBar() { DataUnload(); }
 
     /// One loading step a call, until `done` is set. False when the font or a picture cannot be loaded.
     bool DataLoad(bool& done);
@@ -83,8 +76,8 @@ private:
         CMenu& panel;
         int picture;
         PanelPlace place;
-        void (CStatusBar::*process)(); ///< each frame in which it takes input
-        std::span<const PanelButton> buttons;
+        void (CStatusBar::*process)();       ///< each frame in which it takes input
+        std::span<const MenuButton> buttons; ///< over those that are part of its picture
     };
     /// The panels in the order in which they are drawn and handled.
     std::array<PanelRow, PANELS> PanelRows();

@@ -11,11 +11,6 @@
 
 namespace
 {
-bool IsDismissKey(int key)
-{
-    return key == VK_SPACE || key == VK_RETURN || key == VK_ESCAPE;
-}
-
 void Click(CMenu& panel, int button)
 {
     panel.FindButton(button)->clicked = true;
@@ -82,7 +77,7 @@ void CStatusBar::ProcessStrip()
 void CStatusBar::ProcessPaused()
 {
     panelOpen = true;
-    if (pond->snake[0].isPaused && IsDismissKey(input.lastKeyDown))
+    if (pond->snake[0].isPaused && input.TakeKey({ VK_SPACE, VK_RETURN, VK_ESCAPE }))
         Click(pausedPanel, BUTTON_RESUME);
     if (!IsHelpVisible() && input.TakeKey({ VK_F1 }))
         Click(pausedPanel, BUTTON_HELP);

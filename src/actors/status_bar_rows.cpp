@@ -18,16 +18,16 @@ POINT PanelPosition(const CImage& picture, PanelPlace place)
 
 std::array<CStatusBar::PanelRow, CStatusBar::PANELS> CStatusBar::PanelRows()
 {
-    static constexpr PanelButton strip[] = {
+    static constexpr MenuButton strip[] = {
         { BUTTON_PAUSE, { 10, 433, 39, 14 } },
         { BUTTON_HELP, { 61, 433, 39, 14 } },
         { BUTTON_QUIT, { 112, 433, 39, 14 } },
     };
-    static constexpr PanelButton paused[] = {
+    static constexpr MenuButton paused[] = {
         { BUTTON_RESUME, { 18, 63, 54, 14 } },
         { BUTTON_HELP, { 88, 63, 54, 14 } },
     };
-    static constexpr PanelButton confirm[] = {
+    static constexpr MenuButton confirm[] = {
         { BUTTON_YES, { 18, 63, 54, 14 } },
         { BUTTON_NO, { 88, 63, 54, 14 } },
     };
@@ -62,8 +62,8 @@ void CStatusBar::CreatePanel(const PanelRow& row)
     CImage& picture = images[row.picture];
     const POINT position = PanelPosition(picture, row.place);
     row.panel.MenuCreate(static_cast<int>(position.x), static_cast<int>(position.y), &picture);
-    for (const PanelButton& button : row.buttons)
-        row.panel.AddButton({ .id = button.id, .box = button.box });
+    for (const MenuButton& button : row.buttons)
+        row.panel.AddButton(button);
 }
 
 void CStatusBar::AddLevelTexts()

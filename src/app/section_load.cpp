@@ -9,11 +9,6 @@
 #include "platform/window.h"
 #include "res/pack_file.h"
 
-namespace
-{
-constexpr uint16_t BLACK = 0;
-}
-
 bool CSectionLoad::SectionBegin()
 {
     sectionMenu.SettingsLoad();
@@ -32,6 +27,7 @@ bool CSectionLoad::SectionEnd()
 
 bool CSectionLoad::SectionProcess()
 {
+    constexpr uint16_t BLACK = 0;
     backBuffer.Fill(BLACK);
     if (!menuLoaded)
         return sectionMenu.DataLoad(menuLoaded);

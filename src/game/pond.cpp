@@ -33,11 +33,6 @@ void PlayAmbience()
 }
 }
 
-CPond::~CPond()
-{
-    UnDataLoad();
-}
-
 bool CPond::NewGame(int playerMode, const uint32_t* keys1, const uint32_t* keys2)
 {
     snake[0].score = 0;

@@ -20,8 +20,7 @@ extern int32_t blinkCounter;
 class CPond
 {
 public:
-    CPond() = default;
-    virtual ~CPond();
+    virtual ~CPond() { UnDataLoad(); }
 
     /// Sets up a game of one (0) or two (1) players; keys are virtual-key codes up, down, left, right. False when a
     /// snake's image cannot be loaded.

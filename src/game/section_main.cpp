@@ -12,8 +12,8 @@
 namespace
 {
 constexpr int DAMPING_SHIFT = 5; ///< a wave keeps 31 of 32 parts of its height a frame
-constexpr int REFRACTION_SHIFT =
-    3; ///< a slope of 8 shows what lies a pixel further down, or half a pixel further right
+/// A slope of 8 shows what lies a pixel further down, or half a pixel further right.
+constexpr int REFRACTION_SHIFT = 3;
 constexpr int MOUSE_REST_FRAMES = 5 * FRAMES_PER_SECOND;
 
 /// Where the mouse was last seen, and for how many frames it has rested there.

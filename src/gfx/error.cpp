@@ -11,8 +11,6 @@ struct ErrorRow {
     const char* text;
 };
 
-constexpr char UNKNOWN_TEXT[] = "Unknown error";
-
 constexpr ErrorRow errorTexts[] = {
     { ENGINE_NO_ERROR, "No error" },
     { ENGINE_ALLOCATE_MEMORY, "Can not allocate memory" },
@@ -34,7 +32,6 @@ constexpr ErrorRow errorTexts[] = {
     { ENGINE_CREATE_CHAR, "Can not create char" },
     { ENGINE_CREATE_FONT, "Can not create font" },
     { ENGINE_BLIT_GDI, "Can not blit to GDI" },
-    { ENGINE_UNKNOWN, UNKNOWN_TEXT },
 };
 }
 
@@ -49,7 +46,7 @@ const char* ErrorText(int code)
     for (const ErrorRow& row : errorTexts)
         if (row.code == code)
             return row.text;
-    return UNKNOWN_TEXT;
+    return "Unknown error";
 }
 
 void ShowLastError()

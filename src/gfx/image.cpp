@@ -34,11 +34,6 @@ void ReleasePlane(Value*& plane, bool& isBorrowed)
 }
 }
 
-CImage::~CImage()
-{
-    Free();
-}
-
 void CImage::Free()
 {
     ReleasePlane(pixels, pixelsBorrowed);
@@ -126,9 +121,7 @@ bool CImage::Copy(CImage& source)
 
 void CImage::CopyAlpha(const CImage& source)
 {
-    if (!alpha && !CreateAlpha())
-        return;
-    if (!source.alpha)
+    if ((!alpha && !CreateAlpha()) || !source.alpha)
         return;
     const size_t columns = static_cast<size_t>(std::min(width, source.width));
     const int rows = std::min(height, source.height);
@@ -146,19 +139,13 @@ void CImage::Draw(CImage& target, int targetX, int targetY, int anchorX, int anc
 {
     const int32_t savedTarget[] = { target.x, target.y };
     const int32_t savedSource[] = { x, y, width, height };
-    if (targetX != KEEP)
-        target.x = targetX;
-    if (targetY != KEEP)
-        target.y = targetY;
-    if (anchorX != KEEP)
-        x = anchorX;
-    if (anchorY != KEEP)
-        y = anchorY;
+    target.x = ValueOr(targetX, target.x);
+    target.y = ValueOr(targetY, target.y);
+    x = ValueOr(anchorX, x);
+    y = ValueOr(anchorY, y);
     // A picture replaced by a smaller file must not be read past its end.
-    if (drawWidth != KEEP)
-        width = std::min(drawWidth, width);
-    if (drawHeight != KEEP)
-        height = std::min(drawHeight, height);
+    width = std::min(ValueOr(drawWidth, width), width);
+    height = std::min(ValueOr(drawHeight, height), height);
 
     if (!alpha && blit == BlitAlpha)
         blit = BlitColorKey;

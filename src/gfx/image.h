@@ -25,6 +25,10 @@ void BlitFadeToBlack(CImage& target, const CImage& source);     ///< replaces, d
 
 /// As a position or size argument: the value stored in the image.
 constexpr int KEEP = static_cast<int>(0x80000000);
+constexpr int ValueOr(int argument, int stored)
+{
+    return argument == KEEP ? stored : argument;
+}
 
 /// A plane of RGB565 pixels with an optional plane of alpha values 0 to 31, and the way it is drawn.
 /// Rows are padded to whole groups of four pixels, and owned planes have slack behind the last row, so that groups
@@ -33,7 +37,7 @@ class CImage
 {
 public:
     CImage() = default;
-    ~CImage();
+    ~CImage() { Free(); }
     CImage(const CImage&) = delete;
     CImage& operator=(const CImage&) = delete;
 

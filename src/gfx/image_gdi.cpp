@@ -28,15 +28,14 @@ BitFieldInfo DescribeRows(const CImage& image, int rows)
 bool CImage::DrawToDC(HDC context, int targetX, int targetY, int sourceX, int sourceY, int drawWidth,
                       int drawHeight) const
 {
-    const auto orDefault = [](int value, int stored) { return value == KEEP ? stored : value; };
-    const int firstColumn = orDefault(sourceX, x);
-    const int firstRow = orDefault(sourceY, y);
-    const int columns = orDefault(drawWidth, width);
-    const int rows = orDefault(drawHeight, height);
+    const int firstColumn = ValueOr(sourceX, x);
+    const int firstRow = ValueOr(sourceY, y);
+    const int columns = ValueOr(drawWidth, width);
+    const int rows = ValueOr(drawHeight, height);
 
     const BitFieldInfo info = DescribeRows(*this, rows);
     const int rowsSet =
-        SetDIBitsToDevice(context, orDefault(targetX, 0), orDefault(targetY, 0), static_cast<DWORD>(columns),
+        SetDIBitsToDevice(context, ValueOr(targetX, 0), ValueOr(targetY, 0), static_cast<DWORD>(columns),
                           static_cast<DWORD>(rows), firstColumn, 0, 0, static_cast<UINT>(rows), Row(firstRow),
                           reinterpret_cast<const BITMAPINFO*>(&info), DIB_RGB_COLORS);
     return rowsSet != 0 || FailWith(ENGINE_BLIT_GDI);

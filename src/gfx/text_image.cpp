@@ -70,11 +70,6 @@ HFONT CreateVerdana(int height, int width)
                        "Verdana");
 }
 
-CTextImage::~CTextImage()
-{
-    TextImageFree();
-}
-
 bool CTextImage::TextImageCreate(HFONT font, int greyLevels, int slots)
 {
     TextImageFree();

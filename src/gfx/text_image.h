@@ -36,10 +36,7 @@ public:
         uint16_t glyphIndex; ///< slot in `glyphs`
     };
 
-    CTextImage() = default;
-    ~CTextImage();
-    CTextImage(const CTextImage&) = delete;
-    CTextImage& operator=(const CTextImage&) = delete;
+    ~CTextImage() { TextImageFree(); }
 
     /// `font` stays the caller's. False: ENGINE_CREATE_FONT, and the text image draws nothing.
     bool TextImageCreate(HFONT font, int greyLevels, int slots);

@@ -29,11 +29,6 @@ void OpenHomePage()
 }
 }
 
-CSectionMenu::~CSectionMenu()
-{
-    UnDataLoad();
-}
-
 bool CSectionMenu::SectionBegin()
 {
     mainMenu.Show();

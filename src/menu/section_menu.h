@@ -52,7 +52,7 @@ public:
         BUTTON_HELP_FIRST = 45, ///< those of the help pages
     };
 
-    ~CSectionMenu() override;
+    ~CSectionMenu() override { UnDataLoad(); }
     bool SectionBegin() override;
     bool SectionEnd() override;
     bool SectionProcess() override;

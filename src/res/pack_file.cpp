@@ -47,11 +47,6 @@ HANDLE OpenForReading(const char* path)
     return CreateFileA(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
-CPackFile::~CPackFile()
-{
-    Close();
-}
-
 bool CPackFile::Open(const char* path)
 {
     Close();

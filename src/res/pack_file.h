@@ -17,10 +17,7 @@ struct PackEntry {
 class CPackFile
 {
 public:
-    CPackFile() = default;
-    ~CPackFile();
-    CPackFile(const CPackFile&) = delete;
-    CPackFile& operator=(const CPackFile&) = delete;
+    ~CPackFile() { Close(); }
 
     /// False: ENGINE_OPEN_PACK_FILE or ENGINE_READ_PACK_FILE; the slot is then free.
     bool Open(const char* path);
