@@ -15,7 +15,7 @@ bool SameSize(SDL_Point a, SDL_Point b)
 
 SDL_Point WindowSize(const NativeWindow& window)
 {
-    return ShownSize(window.clientSize, window.factor, WindowDesktop().scale);
+    return ShownSize(window.clientSize, window.factor, WindowDesktop(window.handle).scale);
 }
 
 /// What the window manager has put above the client area, pixels; 0 where that is not known.

@@ -1,8 +1,6 @@
 #include "platform/sdl/screen.h"
 
-#include "platform/sdl/native_window.h"
 #include "platform/sdl/x11_screen.h"
-#include "platform/window.h"
 
 #include <algorithm>
 #include <string_view>
@@ -14,17 +12,17 @@ bool NeedsNoScreen(std::string_view driver)
     return driver == "dummy" || driver == "offscreen" || driver == "evdev";
 }
 
-int ScreenIndex()
+int ScreenIndex(SDL_Window* window)
 {
-    return std::max(0, nativeWindow.handle ? SDL_GetWindowDisplayIndex(nativeWindow.handle) : 0);
+    return std::max(0, window ? SDL_GetWindowDisplayIndex(window) : 0);
 }
 
-double PixelsPerUnit()
+double PixelsPerUnit(SDL_Window* window)
 {
     int units = 0;
     int pixels = 0;
-    SDL_GetWindowSize(nativeWindow.handle, &units, nullptr);
-    SDL_GetWindowSizeInPixels(nativeWindow.handle, &pixels, nullptr);
+    SDL_GetWindowSize(window, &units, nullptr);
+    SDL_GetWindowSizeInPixels(window, &pixels, nullptr);
     return units > 0 && pixels > 0 ? static_cast<double>(pixels) / units : 1;
 }
 }
@@ -60,28 +58,22 @@ bool HasScreen()
     return driver && !NeedsNoScreen(driver);
 }
 
-SDL_Rect WindowScreen()
+SDL_Rect WindowScreen(SDL_Window* window)
 {
-    if (const std::optional<SDL_Rect> area = X11Screen(nativeWindow.handle))
+    if (const std::optional<SDL_Rect> area = X11Screen(window))
         return *area;
     SDL_Rect area = {};
-    SDL_GetDisplayBounds(ScreenIndex(), &area);
+    SDL_GetDisplayBounds(ScreenIndex(window), &area);
     return area;
 }
 
-Desktop WindowDesktop()
+Desktop WindowDesktop(SDL_Window* window)
 {
-    const SDL_Rect screen = WindowScreen();
+    const SDL_Rect screen = WindowScreen(window);
     SDL_Rect free = {};
     SDL_Rect usable = {};
     // SDL may take several screens for one, or remember one that has changed since.
     const bool isKnown =
-        SDL_GetDisplayUsableBounds(ScreenIndex(), &free) == 0 && SDL_IntersectRect(&screen, &free, &usable);
-    return { isKnown ? usable : screen, PixelsPerUnit() };
-}
-
-int GetSystemMetrics(int index)
-{
-    const SDL_Rect screen = WindowScreen();
-    return index == SM_CXSCREEN ? screen.w : index == SM_CYSCREEN ? screen.h : 0;
+        SDL_GetDisplayUsableBounds(ScreenIndex(window), &free) == 0 && SDL_IntersectRect(&screen, &free, &usable);
+    return { isKnown ? usable : screen, PixelsPerUnit(window) };
 }

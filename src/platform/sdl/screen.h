@@ -15,9 +15,9 @@ std::string ScreenDrivers();
 /// Whether somebody can see what is shown.
 bool HasScreen();
 
-/// The area, among all screens, of the one that the window shows on, of the main one before it shows; empty when there
-/// is none.
-SDL_Rect WindowScreen();
+/// The area, among all screens, of the one that the window shows on, of the main one for null or before it shows; empty
+/// when there is none.
+SDL_Rect WindowScreen(SDL_Window* window);
 
 /// What that screen has for the window.
-Desktop WindowDesktop();
+Desktop WindowDesktop(SDL_Window* window);

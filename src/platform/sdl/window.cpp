@@ -72,10 +72,10 @@ void CloseWindow()
 void SetOuterPosition(NativeWindow& window, int x, int y)
 {
     const RECT frame = FrameOf(window.style);
-    const SDL_Rect screen = WindowScreen();
+    const SDL_Rect screen = WindowScreen(window.handle);
     const SDL_Point client = { screen.x + x + frame.left, screen.y + y + frame.top };
     const SDL_Point middle = { client.x + window.clientSize.x / 2, client.y + window.clientSize.y / 2 };
-    PlaceClientArea(window, middle, WindowDesktop().usable);
+    PlaceClientArea(window, middle, WindowDesktop(window.handle).usable);
     // A window manager takes the position of a window that it has not seen yet as that of the frame it will put
     // around it.
     if (!(window.style & WS_VISIBLE))
@@ -225,4 +225,10 @@ BOOL RedrawWindow(HWND, const RECT*, HRGN, UINT)
 {
     nativeWindow.view.ShowAll();
     return TRUE;
+}
+
+int GetSystemMetrics(int index)
+{
+    const SDL_Rect screen = WindowScreen(nativeWindow.handle);
+    return index == SM_CXSCREEN ? screen.w : index == SM_CYSCREEN ? screen.h : 0;
 }

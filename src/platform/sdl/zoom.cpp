@@ -57,7 +57,7 @@ void Zoom(NativeWindow& window, int step)
 {
     if (SDL_GetWindowFlags(window.handle) & SDL_WINDOW_FULLSCREEN)
         return;
-    const Desktop desktop = WindowDesktop();
+    const Desktop desktop = WindowDesktop(window.handle);
     const int wanted = std::clamp(window.factor + step, 1, LargestFactor(window.clientSize, desktop));
     const int factor = step == 0 ? AutomaticFactor(window.clientSize, desktop) : wanted;
     if (step == 0 || factor != window.factor)
@@ -69,7 +69,7 @@ void Zoom(NativeWindow& window, int step)
 
 void ChooseFactor(NativeWindow& window)
 {
-    const Desktop desktop = WindowDesktop();
+    const Desktop desktop = WindowDesktop(window.handle);
     const bool isShown = window.style & WS_VISIBLE;
     const int chosen = isShown ? window.factor : RememberedFactor(SDL_GetWindowTitle(window.handle));
     window.factor = chosen == 0 ? AutomaticFactor(window.clientSize, desktop)
