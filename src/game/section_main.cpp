@@ -62,8 +62,6 @@ void LeaveForMenu(const CPond& pond)
 
 bool CSectionMain::SectionBegin()
 {
-    waterBufferA.Fill(0);
-    waterBufferB.Fill(0);
     WaterInit(waterBufferA, waterBufferB, DAMPING_SHIFT, REFRACTION_SHIFT);
     const auto& [players, keys1, keys2] = ChosenGame();
     if (!pond.NewGame(players, keys1, keys2))

@@ -2,7 +2,6 @@
 
 #include "gfx/error.h"
 #include "gfx/row_kernels.h"
-#include "platform/gdi.h"
 #include "platform/release.h"
 
 #include <initializer_list>

@@ -12,7 +12,10 @@ namespace
 {
 constexpr int BURST_FRAMES = 20;
 constexpr int GOLDEN_RING_RADIUS = 64;
-constexpr int RING_STEP = 3; ///< pixels a frame
+constexpr int RING_STEP = 3;       ///< pixels a frame
+constexpr int POPUP_OPACITY = 255; ///< at the start
+constexpr int POPUP_FADE = 10;     ///< a frame
+constexpr int POPUP_RISE = 2;      ///< pixels a frame
 
 void MoveLaser(Laser& laser)
 {
@@ -132,4 +135,22 @@ void CPond::StrikeRingPoint(int x, int y, int radius)
         return;
     cells[index].occupied = false;
     SplashCell(cells[index].x, cells[index].y, LIGHT_SPLASH);
+}
+
+void CPond::ShowPopup(int x, int y, int kind)
+{
+    Popup* slot = std::find_if_not(std::begin(popups), std::end(popups), std::mem_fn(&Popup::active));
+    if (slot != std::end(popups))
+        *slot = { .active = true, .x = x, .y = y, .kind = kind, .opacity = POPUP_OPACITY };
+}
+
+void CPond::RaisePopups()
+{
+    for (Popup& popup : popups) {
+        if (!popup.active)
+            continue;
+        popup.opacity -= POPUP_FADE;
+        popup.y -= POPUP_RISE;
+        popup.active = popup.opacity >= 0;
+    }
 }
