@@ -2,8 +2,6 @@
 #include "app/loading_steps.h"
 #include "app/log.h"
 
-#include <algorithm>
-
 bool CStatusBar::DataLoad(bool& done)
 {
     static constexpr LoadingStep<CStatusBar> steps[] = {

@@ -39,13 +39,12 @@ void WriteNumber(HKEY key, const char* name, uint32_t value)
 /// A stored text, empty when it is absent or does not fit. It is stored without its terminating zero.
 void ReadName(HKEY key, const char* valueName, char (&name)[NAME_BYTES])
 {
-    BYTE bytes[NAME_BYTES] = {};
+    memset(name, 0, sizeof name);
     DWORD type = REG_SZ;
-    DWORD size = sizeof bytes;
-    const LONG result = RegQueryValueExA(key, valueName, nullptr, &type, bytes, &size);
-    if (result != static_cast<LONG>(ERROR_SUCCESS) || memchr(bytes, 0, sizeof bytes) == nullptr)
-        bytes[0] = 0;
-    memcpy(name, bytes, sizeof bytes);
+    DWORD size = sizeof name;
+    const LONG result = RegQueryValueExA(key, valueName, nullptr, &type, reinterpret_cast<BYTE*>(name), &size);
+    if (result != static_cast<LONG>(ERROR_SUCCESS) || memchr(name, 0, sizeof name) == nullptr)
+        name[0] = 0;
 }
 
 void WriteName(HKEY key, const char* valueName, const char* name)

@@ -2,7 +2,6 @@
 #include "platform/posix/toml.h"
 
 #include <algorithm>
-#include <new>
 #include <sstream>
 #include <stdexcept>
 

@@ -3,7 +3,6 @@
 #include "platform/sdl/present.h"
 
 #include <cstring>
-#include <iterator>
 
 namespace
 {

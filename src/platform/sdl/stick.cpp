@@ -1,6 +1,5 @@
 #include "platform/sdl/stick.h"
 
-#include <algorithm>
 #include <cstdlib>
 
 namespace

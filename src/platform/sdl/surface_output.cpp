@@ -3,8 +3,6 @@
 #include "platform/sdl/frame_output.h"
 #include "platform/sdl/frame_scaler.h"
 
-#include <algorithm>
-
 namespace
 {
 bool SameSize(SDL_Point a, SDL_Point b)

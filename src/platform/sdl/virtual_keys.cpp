@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <string_view>
 
 namespace
 {
