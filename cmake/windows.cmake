@@ -2,7 +2,7 @@
 enable_language(RC)
 add_compile_options(-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=) # with the next line, the same program from every folder
 add_link_options(-static $<$<CONFIG:Release>:-s> -Wl,--no-insert-timestamp)
-include(cmake/windows_libraries.cmake)
+include(cmake/source_libraries.cmake)
 
 # On 64-bit Windows GCC aligns the stack to 16 bytes, yet moves vectors of 32 and 64 bytes as if it were aligned to them.
 add_compile_options(-Wa,-muse-unaligned-vector-move)

@@ -43,11 +43,11 @@ int stockBrush = BLACK_BRUSH;
 
 /// Fonts live until they are deleted or the process ends, so the table is never destroyed.
 union FontTable {
-    constexpr FontTable() : fonts() {}
+    FontTable() : fonts() {}
     ~FontTable() {}
     std::vector<std::unique_ptr<FontFace>> fonts;
 };
-constinit FontTable table;
+FontTable table;
 
 DWORD RowBytes(const FT_Bitmap& bitmap)
 {
