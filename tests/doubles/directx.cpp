@@ -134,7 +134,9 @@ struct SoundBuffer : Counted<IDirectSoundBuffer> {
 struct SoundDevice : Counted<IDirectSound> {
     HRESULT CreateSoundBuffer(const DSBUFFERDESC* description, IDirectSoundBuffer** buffer, IUnknown*) override
     {
-        return Make<SoundBuffer>(buffer, directX.Step("CreateSoundBuffer", { description->dwFlags }), *description);
+        const DWORD rate = description->lpwfxFormat ? description->lpwfxFormat->nSamplesPerSec : 0;
+        return Make<SoundBuffer>(buffer, directX.Step("CreateSoundBuffer", { description->dwFlags, rate }),
+                                 *description);
     }
     HRESULT SetCooperativeLevel(HWND, DWORD level) override { return directX.Step("SetSoundLevel", { level }); }
 };
