@@ -110,10 +110,10 @@ TEST_F(SoundTest, LoadsOnlyWholeWaveFiles)
         const char* what;
     } cases[] = {
         { "", false, "empty" },
-        { Chunk("RIFX", "WAVE" + formatChunk + data), false, "no RIFF" },
+        { Chunk("LIST", "WAVE" + formatChunk + data), false, "no RIFF" },
         { Chunk("RIFF", "AVI " + formatChunk + data), false, "no WAVE" },
         { Wave(data), false, "no format" },
-        { Wave(formatChunk), false, "no data" },
+        { Wave(formatChunk) + data, false, "data behind the RIFF chunk's end" },
         { Wave(data) + formatChunk, false, "format behind the RIFF chunk's end" },
         { Wave(Chunk("junk", "x", 0xFFFFFFFE) + formatChunk + data), false, "endless junk" },
         { Wave(data + Chunk("fmt ", Format().substr(0, 15))), false, "format of 15 bytes" },
