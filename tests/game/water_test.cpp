@@ -4,7 +4,6 @@
 #include "support/instruction_sets.h"
 
 #include <algorithm>
-#include <climits>
 #include <random>
 #include <vector>
 
@@ -116,51 +115,4 @@ TEST(Water, FollowsTheRulesOfItsSamplesOverRandomFields)
         for (const FrameCase& given : frameCases)
             CompareFrames(given);
     });
-}
-
-TEST(Water, RulesGiveTheHandWorkedValues)
-{
-    constexpr WaterNeighbours steep = { .up = 30000, .down = 30000, .left = -30000, .right = 20000 };
-    constexpr struct {
-        const char* reason;
-        int actual, expected;
-    } rules[] = {
-        { "first 0 + 30000 + 20000", NeighbourSum(steep, 0), 32767 },
-        { "second 32767 + 20000, less 30000", NeighbourSum(steep, 1), 2767 },
-        { "third as the second", NeighbourSum(steep, 2), 2767 },
-        { "fourth 32767 - 30000 + 20000", NeighbourSum(steep, 3), 22767 },
-        { "half the sum, rounded down, less the height before, less 1/32", NextHeight(-201, 219, 5), -310 },
-        { "a drop by 16 rows' height is two rows", DisplacementAt({ 0, 16, 0, 0 }, 3).rows, -2 },
-        { "half as far along the row, rounded down", DisplacementAt({ 0, 0, 0, 24 }, 3).columns, -2 },
-        { "slopes saturate", DisplacementAt({ 30000, -30000, 0, 0 }, 3).rows, 4095 },
-    };
-    for (const auto& rule : rules)
-        EXPECT_EQ(rule.actual, rule.expected) << rule.reason;
-}
-
-TEST(Water, ClipsDiscsToTheFieldWithoutItsTopAndBottomRows)
-{
-    constexpr int WIDTH = 60;
-    constexpr struct {
-        int x, y, radius;
-        int samples; ///< that are set
-        const char* why;
-    } discs[] = {
-        { 10, 10, 2, 9, "corners at distance 1.4 are inside 2" },
-        { -3, 10, 4, 5, "only column 0, no wrap-around" },
-        { WIDTH + 2, 10, 4, 5, "only the last column" },
-        { 10, 0, 2, 3, "row 0 is left out" },
-        { 10, HEIGHT - 1, 2, 3, "the last row is left out" },
-        { 10, 10, -5, 0, "negative radius" },
-        { INT_MIN, INT_MAX, INT_MAX, 0, "huge, beside the field" },
-        { 10, 10, INT_MAX, WIDTH * (HEIGHT - 2), "huge, around the field" },
-    };
-    CImage planes[2];
-    ASSERT_TRUE(planes[0].Create(WIDTH, HEIGHT) && planes[1].Create(WIDTH, HEIGHT));
-    for (const auto& [x, y, radius, samples, why] : discs) {
-        WaterInit(planes[0], planes[1], 5, 3);
-        DisturbWater(x, y, radius, 170);
-        EXPECT_EQ(std::count(water.current + WIDTH, water.current + WIDTH * (HEIGHT - 1), 170), samples) << why;
-        EXPECT_EQ(std::count(water.current, water.current + WIDTH * HEIGHT, 170), samples) << why;
-    }
 }
