@@ -83,17 +83,11 @@ public:
     int operator()(int low, int high) { return std::uniform_int_distribution<int>(low, high)(engine); }
 
     uint16_t Colour() { return static_cast<uint16_t>((*this)(0, 4) == 0 ? COLOR_KEY : (*this)(0, 0xFFFF)); }
-    /// Runs of 31 are common, so that whole groups are.
-    uint8_t Alpha()
-    {
-        if ((*this)(0, 20) == 0)
-            runAlpha = std::min((*this)(0, 60), 31);
-        return static_cast<uint8_t>((*this)(0, 9) == 0 ? (*this)(0, 31) : runAlpha);
-    }
+    /// Whole groups of 31 are common.
+    uint8_t Alpha() { return static_cast<uint8_t>((*this)(0, 5) == 0 ? (*this)(0, 31) : 31); }
 
 private:
     std::mt19937 engine{ 20240607 };
-    int runAlpha = 31;
 };
 
 /// A random picture with columns beside its rows and rows above and below.

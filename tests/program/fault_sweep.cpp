@@ -11,7 +11,7 @@
 #include "platform/multimedia.h"
 #include "platform/sdl/messages.h"
 #include "support/faults.h"
-#include "support/temp_folder.h"
+#include "support/settings_store.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -29,7 +29,6 @@ namespace
 constexpr unsigned RUN_SECONDS = 300; ///< of a run that hangs
 constexpr int LAST_FRAME = 90;
 constexpr int CALLS_AT_THE_END = 20; ///< behind the last frame, where settings are stored
-constexpr char SETTINGS[] = "config/Tervalis/settings.toml";
 
 constexpr Calls KINDS[] = { Calls::MEMORY, Calls::FILES, Calls::SDL };
 constexpr const char* KIND_NAMES[] = { "request for memory", "file call", "SDL call" };
@@ -105,10 +104,10 @@ auto LineCount(const std::string& text)
 /// False, with a line that says so, when the run did not end as it should.
 bool IsGood(const TempFolder& folder, const Fault& fault, const std::string& settings, int openFiles)
 {
-    folder.Write(SETTINGS, settings);
+    folder.Write(SETTINGS_FILE, settings);
     const int code = Run(folder, fault);
     const std::string said = folder.Read("said");
-    const std::string left = folder.Read(SETTINGS);
+    const std::string left = folder.Read(SETTINGS_FILE);
     const bool hasEnded = progress->frame >= LAST_FRAME || !said.empty();
     const bool areWhole = LineCount(left) == LineCount(settings);
     if (code == 0 && hasEnded && areWhole && progress->openFiles <= openFiles)
@@ -146,13 +145,13 @@ int main(int argc, char** argv)
     const TempFolder folder;
     setenv("SDL_VIDEODRIVER", "dummy", 1);
     setenv("SDL_AUDIODRIVER", "dummy", 1);
-    setenv("XDG_CONFIG_HOME", (folder.Path() + "/config").c_str(), 1);
+    UseFreshSettings(folder);
     setenv("XDG_RUNTIME_DIR", folder.Path().c_str(), 1);
     progress = static_cast<Progress*>(
         mmap(nullptr, sizeof(Progress), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
     int failures = Run(folder, {}) != 0 || progress->frame != LAST_FRAME;
     const Progress whole = *progress;
-    std::string settings = folder.Read(SETTINGS);
+    std::string settings = folder.Read(SETTINGS_FILE);
     failures += settings.find("\"T\"") == std::string::npos;             // the session no longer comes to the ranking
     settings.replace(settings.find("Windowed = 0"), 12, "Windowed = 1"); // clicks are meant for a window
     for (const Calls kind : KINDS) {

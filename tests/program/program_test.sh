@@ -87,11 +87,6 @@ await "the main menu" shows_menu
 is_wine || xprop -id "$window" _NET_WM_ICON | grep -qF "Icon (48 x 48)" || fail "the window has no icon"
 is_wine || xprop -id "$window" WM_CLASS | grep -qF "\"$id\"" || fail "no desktop knows the window"
 
-step "A second copy"
-cp "$log" "$folder/before"
-timeout $PATIENCE "$program/tervalis" || fail "a second copy ended with $?"
-cmp -s "$log" "$folder/before" || fail "a second copy wrote to the log"
-
 step "A new key"
 click 507 285 "the options page opens" shows Options.jpg 320x45+160+310 320x45+0+185
 xdotool key i

@@ -7,6 +7,7 @@
 #include <SDL.h>
 #include <algorithm>
 #include <cctype>
+#include <cstdio>
 #include <cstdlib>
 #include <map>
 #include <sstream>
@@ -91,11 +92,9 @@ SDL_Event KeyEvent(const std::string& word)
 
 SDL_Event MouseEvent(const std::string& word)
 {
-    std::istringstream place(word.substr(2));
     int x = 0;
     int y = 0;
-    char comma = 0;
-    place >> x >> comma >> y;
+    std::sscanf(word.c_str() + 2, "%d,%d", &x, &y);
     const bool down = word[1] == '+';
     SDL_Event event = {};
     if (word.starts_with("to"))
