@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <limits>
 #include <random>
 #include <set>
 #include <utility>
@@ -156,19 +155,6 @@ TEST(Blits, EqualTheirPixelRulesAtEveryWidthAndClippedEdgeOnEachInstructionSet)
         CompareWithReferences();
     });
     EXPECT_EQ(forms.size(), hwy::SupportedAndGeneratedTargets().size()) << "each has its own kernels";
-}
-
-TEST(Blits, SeeNothingFromPositionsThatMissTheTarget)
-{
-    constexpr int LOWEST = std::numeric_limits<int>::min();
-    constexpr int HIGHEST = std::numeric_limits<int>::max();
-    constexpr int farPlaces[][2] = { { -8, 0 }, { 8, 0 }, { LOWEST, HIGHEST }, { HIGHEST, LOWEST } };
-    CImage target;
-    ASSERT_TRUE(target.Create(8, 8));
-    for (const auto& [position, anchor] : farPlaces) {
-        target.x = position;
-        EXPECT_FALSE(VisibleArea(target, { anchor, 0, 8, 8 })) << position << " anchor " << anchor;
-    }
 }
 
 TEST(PixelRules, GiveTheHandWorkedValues)

@@ -64,6 +64,8 @@ TEST(Image, DrawUsesItsArgumentsForTheCallOnlyAndNeverMoreThanThereIs)
     MakeNumbered(source, 6, 6);
     target.x = 1;
     source.x = 9;
+    source.Draw(target, HUGE_SIZE, 0, -HUGE_SIZE, 0);
+    EXPECT_EQ(target.Row(1)[0], 0) << "the picture lies far away";
     source.Draw(target, 0, 2, 0, 1, 40, 40); // a picture smaller than expected
     EXPECT_TRUE(target.Row(1)[0] == 0 && target.Row(6)[5] == 35);
     EXPECT_TRUE(target.Row(6)[6] == 0 && target.Row(7)[0] == 0);

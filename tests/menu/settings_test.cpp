@@ -39,8 +39,6 @@ TEST_F(SettingsTest, TakesValuesAsBytesWhateverTheirType)
         { "\"Name 1\" = { type = 1, hex = '61620063' }", 38, "ab", 0 },
         { "\"Name 1\" = '" + std::string(256, 'x') + "'", 38, "", 0 },
         { "\"Rank 1\" = 4294967295", 38, "", -1 },
-        { "\"Rank 1\" = -5", 38, "", 0 },
-        { "damaged = = ", 38, "", 0 },
     };
     for (const Case& row : cases) {
         folder.Write(SETTINGS_FILE, row.line);

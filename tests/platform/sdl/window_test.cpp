@@ -71,11 +71,11 @@ TEST(FrameView, ShowsTheFrameAsLargeAsItFits)
 
 TEST_F(WindowTest, ShowsThePartThatLiesInItAndNothingNewWithoutTheFocus)
 {
-    CImage picture; // its last row is blue
-    ASSERT_TRUE(picture.Create(4, 3));
-    std::fill_n(picture.pixels, 12, RED);
-    std::fill_n(picture.Row(2), 4, BLUE);
-    const auto draw = [&](int x, int y) { return picture.DrawToDC(GetDC(window), x, y, 1, 0, 2, 3); };
+    CImage picture; // one pixel is blue
+    ASSERT_TRUE(picture.Create(4, 4));
+    std::fill_n(picture.pixels, 16, RED);
+    picture.Row(3)[2] = BLUE;
+    const auto draw = [&](int x, int y) { return picture.DrawToDC(GetDC(window), x, y, 1, 1, 2, 3); };
     EXPECT_TRUE(draw(-1, -2));
     EXPECT_EQ(ScreenPixel(0, 0), 0x0000F8u) << "cut at the left and top";
     EXPECT_EQ(ScreenPixel(1, 0), 0x000000u) << "beyond the width asked for";
