@@ -59,11 +59,6 @@ protected:
     ProbeScene twin;
 };
 
-void FailPlane(int number)
-{
-    FailCall(Calls::PLANES, number, false);
-}
-
 /// Lets each plane that `load` asks for be missing, one after the other.
 template <typename Load>
 void LackEachPlane(Load load)
@@ -72,11 +67,11 @@ void LackEachPlane(Load load)
     for (int plane = 1; !loaded; ++plane) {
         ASSERT_LT(plane, 999);
         const int before = CallCount(Calls::PLANES);
-        FailPlane(plane);
+        FailCall(Calls::PLANES, plane, false);
         loaded = load();
         EXPECT_EQ(loaded, CallCount(Calls::PLANES) - before < plane) << plane;
     }
-    FailPlane(0);
+    FailCall(Calls::PLANES, 0, false);
 }
 
 template <typename Owner>
@@ -141,13 +136,13 @@ TEST_F(GameTest, AStartThatFailsLeavesNoWindow)
     constexpr int GLOBAL_IMAGES = 5; // of one plane each
     for (int failing = 1; failing <= GLOBAL_IMAGES; ++failing) {
         session.reset();
-        FailPlane(failing);
+        FailCall(Calls::PLANES, failing, false);
         testing::internal::CaptureStderr();
         EXPECT_THROW(session.emplace(Recording::FROM_START, 1), std::runtime_error) << failing;
         EXPECT_EQ(testing::internal::GetCapturedStderr(), "Error: Can not allocate memory\n") << failing;
         EXPECT_FALSE(nativeWindow.handle) << failing;
     }
-    FailPlane(0);
+    FailCall(Calls::PLANES, 0, false);
 }
 
 TEST_F(GameTest, LoadingMissesEachPlaneThatCannotBeHad)

@@ -14,7 +14,6 @@ namespace
 /// Pictures are looked at in every so many frames, which is no divisor of anything that blinks, and in those with an
 /// action.
 constexpr int PICTURE_STEP = 7;
-const std::string NOTHING = "0"; ///< the value of a field that is not written down
 
 /// FIELD = NUMBER; also < and >.
 struct Comparison {
@@ -87,7 +86,7 @@ private:
         Checksum state;
         for (const auto& [name, field] : session.Fields()) {
             const std::string value = field.Value();
-            if (value == NOTHING)
+            if (value == Recording::ABSENT)
                 continue;
             now.emplace(name, value);
             state.Add(name + ' ' + value);
@@ -101,7 +100,7 @@ private:
                             std::inserter(stretch.changes, stretch.changes.end()));
         for (const auto& [name, value] : before)
             if (!now.contains(name))
-                stretch.changes.emplace(name, NOTHING);
+                stretch.changes.emplace(name, Recording::ABSENT);
         before = std::move(now);
     }
 

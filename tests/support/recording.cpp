@@ -17,8 +17,6 @@
 
 namespace
 {
-constexpr char ABSENT[] = "0"; ///< the value of a field that is not mentioned
-
 std::string Rest(std::istream& line)
 {
     std::string rest;
@@ -73,9 +71,9 @@ void Apply(State& state, const Stretch& stretch)
 std::string FirstDifference(State is, State was)
 {
     for (const auto& [name, value] : was)
-        is.try_emplace(name, ABSENT);
+        is.try_emplace(name, Recording::ABSENT);
     for (const auto& [name, value] : is)
-        if (const std::string& old = was.try_emplace(name, ABSENT).first->second; old != value)
+        if (const std::string& old = was.try_emplace(name, Recording::ABSENT).first->second; old != value)
             return name + " " + value + ", was " + old;
     return "no field that is written down";
 }

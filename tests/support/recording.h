@@ -25,6 +25,7 @@ struct Stretch {
 struct Recording {
     static constexpr int STRETCH = 100; ///< frames
     static constexpr int FROM_START = -1;
+    static constexpr char ABSENT[] = "0"; ///< the value of a field that is not written down
 
     std::string about;
     uint32_t seed = 0;

@@ -76,10 +76,9 @@ Session::Session(int players, uint32_t seed) : folderBefore(std::filesystem::cur
     UseTestSystem(folder);
     folder.Write("Dat/Image.xpf", std::string("FPX_\0\0\0\0", 8)); // every picture is a loose file
     if (!CreateGameWindow(nullptr)) {
-        const bool hasWindow = requestedSection != nullptr;
-        Close();
-        if (hasWindow)
+        if (requestedSection != nullptr)
             throw std::logic_error("a start that failed has left its window");
+        Close();
         throw std::runtime_error("the program cannot start");
     }
     std::filesystem::current_path(folder.Path()); // for the program has gone to its own
@@ -90,7 +89,11 @@ Session::Session(int players, uint32_t seed) : folderBefore(std::filesystem::cur
     SeedRandom(seed);
     if (players == Recording::FROM_START)
         return;
-    BeginGame(players);
+    while (requestedSection != &sectionMenu)
+        Frame();
+    blinkCounter = 0;
+    sectionMenu.twoPlayers = static_cast<uint32_t>(players);
+    requestedSection = &sectionMain;
     SeedRandom(seed);
 }
 
@@ -118,15 +121,6 @@ void Session::ResetProgram()
     scenery = SceneryState{};
     water = WaterState{};
     blinkCounter = 0;
-}
-
-void Session::BeginGame(int players)
-{
-    while (requestedSection != &sectionMenu)
-        Frame();
-    blinkCounter = 0;
-    sectionMenu.twoPlayers = static_cast<uint32_t>(players);
-    requestedSection = &sectionMain;
 }
 
 bool Session::IsRunning() const

@@ -30,7 +30,6 @@ public:
 
 private:
     void ResetProgram();
-    void BeginGame(int players);
     void Send(unsigned message, uintptr_t wParam = 0, intptr_t lParam = 0);
 
     std::string folderBefore;     ///< the current one

@@ -26,16 +26,11 @@ const std::map<std::string, Uint8> windowEvents = {
     { "resized", SDL_WINDOWEVENT_RESIZED },     { "exposed", SDL_WINDOWEVENT_EXPOSED },
     { "closeButton", SDL_WINDOWEVENT_CLOSE },
 };
-const std::map<UINT, std::string> keySigns = {
-    { WM_KEYDOWN, "+" }, { WM_SYSKEYDOWN, "s+" }, { WM_CHAR, "'" }, { WM_KEYUP, "-" }, { WM_SYSKEYUP, "s-" }
-};
-const std::map<UINT, std::string> mouseSigns = {
-    { WM_LBUTTONDOWN, "L+" }, { WM_LBUTTONUP, "L-" }, { WM_RBUTTONDOWN, "R+" },
-    { WM_RBUTTONUP, "R-" },   { WM_MOUSEMOVE, "to" },
-};
-const std::map<UINT, std::string> otherSigns = {
-    { WM_SETFOCUS, "focus" },     { WM_KILLFOCUS, "blur" },  { WM_CLOSE, "close" },
-    { WM_SYSCOMMAND, "command" }, { WM_DESTROY, "destroy" },
+const std::map<UINT, std::string> signs = {
+    { WM_KEYDOWN, "+" },      { WM_SYSKEYDOWN, "s+" },      { WM_CHAR, "'" },          { WM_KEYUP, "-" },
+    { WM_SYSKEYUP, "s-" },    { WM_MOUSEMOVE, "to" },       { WM_LBUTTONDOWN, "L+" },  { WM_LBUTTONUP, "L-" },
+    { WM_RBUTTONDOWN, "R+" }, { WM_RBUTTONUP, "R-" },       { WM_SETFOCUS, "focus" },  { WM_KILLFOCUS, "blur" },
+    { WM_CLOSE, "close" },    { WM_SYSCOMMAND, "command" }, { WM_DESTROY, "destroy" },
 };
 /// Bits of a key's or character's word: once, with Alt, held before.
 const std::map<uint32_t, const char*> keyWords = {
@@ -47,8 +42,8 @@ std::string received; ///< in the frame in the making
 std::string Describe(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const std::string code = "<" + std::to_string(wParam) + ">";
-    if (keySigns.contains(message)) {
-        const std::string& sign = keySigns.at(message);
+    const std::string& sign = signs.at(message);
+    if (message >= WM_KEYDOWN && message <= WM_SYSKEYUP) {
         const int c = static_cast<int>(wParam);
         const bool isReadable = std::isdigit(c) || std::isupper(c) || (sign == "'" && std::islower(c));
         const uint32_t releaseBits = sign.back() == '-' ? 0xC0000000 : 0;
@@ -56,9 +51,9 @@ std::string Describe(UINT message, WPARAM wParam, LPARAM lParam)
                keyWords.at(static_cast<uint32_t>(lParam) ^ releaseBits);
     }
     const auto place = [](WORD word) { return std::to_string(static_cast<int16_t>(word)); };
-    if (mouseSigns.contains(message))
-        return mouseSigns.at(message) + place(LOWORD(lParam)) + "," + place(HIWORD(lParam));
-    return otherSigns.at(message) + (wParam != 0 ? code : "") + (lParam != 0 ? "?" : "");
+    if (message >= WM_MOUSEMOVE && message <= WM_RBUTTONUP)
+        return sign + place(LOWORD(lParam)) + "," + place(HIWORD(lParam));
+    return sign + (wParam != 0 ? code : "") + (lParam != 0 ? "?" : "");
 }
 
 LRESULT Procedure(HWND target, UINT message, WPARAM wParam, LPARAM lParam)
