@@ -17,11 +17,6 @@ using Bytes = std::vector<uint8_t>;
 
 constexpr char SIDE = 24; ///< pixels
 
-std::string MakeJpeg(int pixelFormat, const Bytes& pixels)
-{
-    return EncodeJpeg(pixels, SIDE, SIDE, pixelFormat);
-}
-
 EngineError Load(CImage& image, const std::string& jpeg)
 {
     lastError = ENGINE_NO_ERROR;
@@ -36,12 +31,12 @@ TEST(JpegLoader, ReadsGreyLevelsAndRefusesInks)
 {
     CImage image;
     for (const int level : { 0, 100, 129, 255 }) {
-        const std::string grey = MakeJpeg(TJPF_GRAY, Bytes(SIDE * SIDE, static_cast<uint8_t>(level)));
+        const std::string grey = EncodeJpeg(Bytes(SIDE * SIDE, static_cast<uint8_t>(level)), SIDE, SIDE, TJPF_GRAY);
         ASSERT_EQ(Load(image, grey), ENGINE_NO_ERROR);
         EXPECT_EQ(image.Row(7)[7], level / 8 * 2048 + level / 4 * 32 + level / 8) << level;
     }
     CImage none;
-    EXPECT_EQ(Load(none, MakeJpeg(TJPF_CMYK, Bytes(SIDE * SIDE * 4, 90))), ENGINE_LOAD_IMAGE);
+    EXPECT_EQ(Load(none, EncodeJpeg(Bytes(SIDE * SIDE * 4, 90), SIDE, SIDE, TJPF_CMYK)), ENGINE_LOAD_IMAGE);
 }
 
 TEST(JpegLoader, EachDamageHasItsCode)
@@ -49,7 +44,7 @@ TEST(JpegLoader, EachDamageHasItsCode)
     std::mt19937 random(5);
     Bytes noise(SIDE * SIDE * 3);
     std::generate(noise.begin(), noise.end(), [&] { return static_cast<uint8_t>(random()); });
-    const std::string whole = MakeJpeg(TJPF_BGR, noise);
+    const std::string whole = EncodeJpeg(noise, SIDE, SIDE, TJPF_BGR);
     for (size_t size = 0; size < whole.size(); ++size) {
         CImage image;
         EXPECT_EQ(Load(image, whole.substr(0, size)), ENGINE_LOAD_IMAGE) << size;

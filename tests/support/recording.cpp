@@ -62,12 +62,6 @@ std::string StretchName(const Stretch& stretch, int before)
 /// The state at the end of a stretch, made of the changes so far.
 using State = std::map<std::string, std::string>;
 
-void Apply(State& state, const Stretch& stretch)
-{
-    for (const auto& [name, value] : stretch.changes)
-        state[name] = value;
-}
-
 std::string FirstDifference(State is, State was)
 {
     for (const auto& [name, value] : was)
@@ -119,8 +113,10 @@ std::string FirstDifference(const Recording& recorded, const Recording& played)
     for (size_t i = 0; i < std::min(recorded.stretches.size(), played.stretches.size()); ++i) {
         const Stretch& old = recorded.stretches[i];
         const Stretch& now = played.stretches[i];
-        Apply(was, old);
-        Apply(is, now);
+        for (const auto& [name, value] : old.changes)
+            was[name] = value;
+        for (const auto& [name, value] : now.changes)
+            is[name] = value;
         std::string parts;
         if (now.state != old.state)
             parts += " state (" + FirstDifference(is, was) + ")";
