@@ -13,7 +13,8 @@ WEB_PACKAGES="g++ cmake ninja-build dpkg-dev emscripten libtomlplusplus-dev goog
 WEB_TEST_PACKAGES="chromium xvfb xauth python3 python3-websocket"
 ARM64_PACKAGES="g++ cmake ninja-build pkg-config qemu-user mmdebstrap"
 DEBIAN_PACKAGES="git build-essential dpkg-dev debhelper"
-CHECK_PACKAGES="clang clang-format clang-tidy desktop-file-utils appstream man-db groff-base lintian reuse"
+CHECK_PACKAGES="clang clang-format clang-tidy desktop-file-utils appstream man-db groff-base lintian reuse
+    cppcheck devscripts"
 
 say() { printf '%s\n' "$*" >&2; }
 
