@@ -1,6 +1,8 @@
 #include "platform/sdl/frame_fit.h"
 #include "platform/sdl/frame_output.h"
 
+#include <new>
+
 namespace
 {
 void DestroyTexture(SDL_Texture*& texture)
@@ -78,5 +80,10 @@ private:
 std::unique_ptr<CFrameOutput> OpenRendererOutput(SDL_Window* window)
 {
     SDL_Renderer* const renderer = SDL_CreateRenderer(window, -1, 0); // unsynchronised: the game has a clock of its own
-    return renderer ? std::make_unique<CRendererOutput>(renderer) : nullptr;
+    if (!renderer)
+        return nullptr;
+    std::unique_ptr<CFrameOutput> output(new (std::nothrow) CRendererOutput(renderer));
+    if (!output)
+        SDL_DestroyRenderer(renderer);
+    return output;
 }
