@@ -10,7 +10,7 @@ WINDOWS_PACKAGES="g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake 
 WINE_PACKAGES="wine wine64 xvfb xauth xdotool imagemagick openbox x11-utils wmctrl"
 WEB_PACKAGES="g++ cmake ninja-build dpkg-dev emscripten libtomlplusplus-dev googletest fonttools fonts-dejavu-core
     vorbis-tools python3"
-WEB_TEST_PACKAGES="chromium xvfb xauth python3 python3-websocket"
+WEB_TEST_PACKAGES="chromium-driver xvfb xauth python3 python3-selenium"
 ARM64_PACKAGES="g++ cmake ninja-build pkg-config qemu-user mmdebstrap"
 DEBIAN_PACKAGES="git build-essential dpkg-dev debhelper"
 CHECK_PACKAGES="clang clang-format clang-tidy desktop-file-utils appstream man-db groff-base lintian reuse

@@ -4,166 +4,232 @@
     play.py SITE SHOTS      the folder to serve, and that for screenshots
 """
 
+import functools
+import gzip
+import http.server
+import json
 import os
 import sys
-import tempfile
+import threading
 import time
 
-from browser import Browser, serve, wait
+from selenium import webdriver
+from selenium.webdriver.chrome.service import Service
+from selenium.webdriver.common.action_chains import ActionChains
+from selenium.webdriver.common.keys import Keys
+from selenium.webdriver.support.wait import WebDriverWait
 
+PATIENCE = 120  # seconds until what must happen has not happened, on a machine that is busy with other things
 LARGEST_LOAD = 4_000_000  # bytes on the wire
-LINE_BYTES = 20_000_000 / 8  # a second
+LINE_BYTES = 20_000_000 // 8  # a second
+DAMAGED = {"Image.xpf": "Can not load file", "tervalis.wasm": "cannot be started", "files.json": "cannot be started"}
+
+
+class Handler(http.server.SimpleHTTPRequestHandler):
+    """Compresses as real servers do."""
+
+    wire_bytes = 0
+    damaged = None  # the name of a file
+
+    def do_GET(self):
+        path = self.translate_path(self.path)
+        path = os.path.join(path, "index.html") if os.path.isdir(path) else path
+        if not os.path.isfile(path):
+            return self.send_error(404)
+        with open(path, "rb") as file:
+            body = gzip.compress(b"damaged" if os.path.basename(path) == Handler.damaged else file.read(), 6)
+        Handler.wire_bytes += len(body)
+        self.send_response(200)
+        self.send_header("Content-Type", self.guess_type(path))
+        self.send_header("Content-Encoding", "gzip")
+        self.send_header("Content-Length", str(len(body)))
+        self.end_headers()
+        self.wfile.write(body)
+
+    def log_message(self, *_):
+        pass
+
+
+def serve(folder):
+    server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), functools.partial(Handler, directory=folder))
+    threading.Thread(target=server.serve_forever, daemon=True).start()
+    return f"http://127.0.0.1:{server.server_address[1]}/"
+
+
+def start_browser():
+    options = webdriver.ChromeOptions()
+    options.binary_location = "/usr/bin/chromium"
+    options.add_argument("--no-sandbox")
+    options.add_argument("--window-size=1200,900")
+    options.ignore_local_proxy_environment_variables()
+    options.set_capability("goog:loggingPrefs", {"browser": "ALL", "performance": "ALL"})
+    return webdriver.Chrome(service=Service("/usr/bin/chromedriver"), options=options)
 
 
 class Player:
-    def __init__(self, browser, server):
+    def __init__(self, browser, url):
         self.browser = browser
-        self.server = server
-        self.url = f"http://127.0.0.1:{server.server_address[1]}/"
+        self.url = url
+        self.console = []
 
     def open(self):
-        self.browser.call("Page.navigate", url=self.url)
-        self.await_page("document.readyState === 'complete' && !document.getElementById('start').hidden")
-
-    def await_page(self, condition):
-        wait(condition, lambda: self.browser.ask(condition))
+        self.browser.get(self.url)
+        self.await_page("!document.getElementById('start').hidden")
 
     def start(self):
-        self.browser.lines.clear()
-        self.browser.click_on("#play")
-        self.browser.await_line("CSectionMenu::SectionBegin")
+        self.click_on("play")
+        self.await_line("CSectionMenu::SectionBegin")
 
-    def click(self, x, y):
-        left, top, scale = self.browser.ask("(b => [b.x, b.y, b.width / 640])(canvas.getBoundingClientRect())")
-        self.browser.click(left + x * scale, top + y * scale)
+    def ask(self, expression):
+        return self.browser.execute_script(f"return {expression}")
+
+    def wait(self, what, look):
+        WebDriverWait(self.browser, PATIENCE, poll_frequency=0.05).until(lambda _: look(), what)
+
+    def await_page(self, condition):
+        self.wait(condition, lambda: self.ask(condition))
+
+    def await_line(self, line):
+        """On the console, after the line that was awaited before."""
+        def is_new():
+            entries = self.browser.get_log("browser")
+            self.console += entries
+            return any(line in entry["message"] for entry in entries)
+        self.wait(line, is_new)
 
     def picture(self):
-        return self.browser.ask("canvas.toDataURL()")
+        return self.ask("canvas.toDataURL()")
 
     def await_play(self):
         before = self.picture()
-        wait("the picture changes", lambda: self.picture() != before)
+        self.wait("the picture changes", lambda: self.picture() != before)
 
     def await_rest(self):
         def rests():
             before = self.picture()
             return all(time.sleep(0.1) or self.picture() == before for _ in range(5))
-        wait("the picture rests", rests)
+        self.wait("the picture rests", rests)
 
-    def press(self, key, number=None, **about):
-        self.browser.key(key, number=number, **about)
+    def press(self, *keys):
+        ActionChains(self.browser).send_keys(*keys).perform()
 
-    def stored(self):
-        return self.browser.ask("localStorage['Tervalis/settings.toml'] || ''")
+    def press_alt_enter(self):
+        ActionChains(self.browser).key_down(Keys.ALT).send_keys(Keys.ENTER).key_up(Keys.ALT).perform()
 
-    def quit(self):
-        self.click(437, 397)
-        self.await_page("!document.body.className && document.getElementById('play').offsetParent !== null")
+    def click(self, x, y):
+        canvas = self.browser.find_element("id", "canvas")
+        scale = canvas.rect["width"] / 640
+        ActionChains(self.browser).move_to_element_with_offset(canvas, (x - 320) * scale, (y - 240) * scale).click().perform()
+
+    def click_on(self, name):
+        self.browser.find_element("id", name).click()
 
 
 def step(text):
     print(time.strftime("%T"), text, flush=True)
 
 
+def load_over_slow_line(player):
+    step("The first load over a line of 20 Mbit/s")
+    player.browser.set_network_conditions(latency=20, download_throughput=LINE_BYTES, upload_throughput=LINE_BYTES)
+    player.open()
+    begin = time.monotonic()
+    player.start()
+    print(f"    the menu after {time.monotonic() - begin:.1f} s, {Handler.wire_bytes} bytes on the wire")
+    assert Handler.wire_bytes <= LARGEST_LOAD
+
+
 def play_a_game(player):
     step("A game by keys, with pauses")
     player.click(202, 176)
-    player.browser.await_line("CSectionMain::SectionBegin")
+    player.await_line("CSectionMain::SectionBegin")
     player.await_play()
-    for key, number in (("ArrowDown", 40), ("ArrowRight", 39)):
-        player.press(key, number)
-    player.press(" ", 32, code="Space", text=" ")
+    player.press(Keys.DOWN, Keys.RIGHT, Keys.SPACE)
     player.await_rest()
-    assert player.browser.ask("scrollY") == 0
-    player.press(" ", 32, code="Space", text=" ")
+    assert player.ask("scrollY") == 0
+    player.press(Keys.SPACE)
     player.await_play()
 
     step("A tab in front of it")
-    other = player.browser.call("Target.createTarget", url="about:blank")["targetId"]
-    wait("the page is hidden", lambda: player.browser.ask("document.hidden"))
+    other = player.browser.execute_cdp_cmd("Target.createTarget", {"url": "about:blank"})
+    player.await_page("document.hidden")
     player.await_rest()
-    player.browser.call("Target.closeTarget", targetId=other)
-    player.browser.call("Page.bringToFront")
+    player.browser.execute_cdp_cmd("Target.closeTarget", other)
+    player.browser.execute_cdp_cmd("Page.bringToFront", {})
     player.await_play()
 
 
-def leave_game(player):
-    step("Out of the game")
-    player.browser.lines.clear()
-    player.press("Escape", 27)
-    player.press("Enter", 13, text="\r")
-    player.browser.await_line("CSectionMenu::SectionBegin")
-
-
 def change_options(player):
-    step("Another key")
+    step("Out of the game, and another key")
+    player.press(Keys.ESCAPE, Keys.ENTER)
+    player.await_line("CSectionMenu::SectionBegin")
     player.click(507, 285)
-    player.press("i", 73, code="KeyI", text="i")
-    player.press("Enter", 13, text="\r")
+    player.press("i", Keys.ENTER)
 
 
 def cover_screen(player):
     step("Full screen")
+    for enter in (player.press_alt_enter, lambda: player.click_on("fullscreen")):
+        enter()
+        player.await_page("document.fullscreenElement !== null")
+        player.press_alt_enter()
+        player.await_page("document.fullscreenElement === null")
 
-    def alt_enter():
-        with player.browser.held("Alt", "AltLeft", 18, modifier=1):
-            player.press("Enter", 13, modifiers=1)
-    alt_enter()
-    player.await_page("document.fullscreenElement !== null")
-    alt_enter()
-    player.await_page("document.fullscreenElement === null")
-    player.browser.click_on("#fullscreen")
-    player.await_page("document.fullscreenElement !== null")
-    alt_enter()
-    player.await_page("document.fullscreenElement === null")
+
+def reload(player):
+    step("A reload")
+    key_is_stored = "localStorage['Tervalis/settings.toml'].includes('\"Up 1\" = 73')"
+    player.open()
+    assert player.ask(key_is_stored)
+    player.start()
+    player.click(437, 397)
+    player.await_page("!document.body.className && document.getElementById('play').offsetParent !== null")
+    assert player.ask(key_is_stored), "what was read is stored again"
 
 
 def fail_to_start(player):
-    step("Damaged and missing files")
-    for name, text in (("Image.xpf", "Can not load file"), ("tervalis.wasm", "cannot be started"), ("files.json", "cannot be started")):
-        player.server.changed = {name: b"damaged"}
+    step("Damaged files")
+    for name, text in DAMAGED.items():
+        Handler.damaged = name
         player.open()
-        player.browser.click_on("#play")
+        player.click_on("play")
         player.await_page(f"document.getElementById('message').textContent.includes('{text}')")
-    player.server.changed = {}
+
+
+def check_console(player):
+    player.console += player.browser.get_log("browser")
+    faults = [entry for entry in player.console if entry["level"] == "SEVERE"
+              or entry["level"] == "WARNING" and entry["source"] == "console-api"]
+    assert faults == [], faults
+
+
+def check_requests(player):
+    events = [json.loads(entry["message"])["message"] for entry in player.browser.get_log("performance")]
+    urls = [event["params"]["request"]["url"] for event in events if event["method"] == "Network.requestWillBeSent"]
+    assert player.url + "game/tervalis.wasm" in urls
+    assert all(url.startswith((player.url, "blob:", "data:")) for url in urls), urls
 
 
 def main(site, shots):
-    with tempfile.TemporaryDirectory() as folder:
-        server = serve(site)
-        browser = Browser(folder, "--window-size=1200,900")
-        player = Player(browser, server)
-        try:
-            step("The first load over a line of 20 Mbit/s")
-            browser.call("Network.emulateNetworkConditions", offline=False, latency=20, downloadThroughput=LINE_BYTES,
-                         uploadThroughput=LINE_BYTES)
-            player.open()
-            begin = time.monotonic()
-            player.start()
-            print(f"    the menu after {time.monotonic() - begin:.1f} s, {server.wire_bytes} bytes on the wire")
-            assert server.wire_bytes <= LARGEST_LOAD
-            browser.shot(os.path.join(shots, "menu.png"))
-            play_a_game(player)
-            browser.shot(os.path.join(shots, "game.png"))
-            leave_game(player)
-            change_options(player)
-            cover_screen(player)
-
-            step("A reload")
-            player.open()
-            assert '"Up 1" = 73' in player.stored(), player.stored()
-            player.start()
-            player.quit()
-            assert '"Up 1" = 73' in player.stored(), "what was read is stored again"
-            assert browser.errors == [], browser.errors
-            fail_to_start(player)
-            assert all(url.startswith((player.url, "blob:", "data:")) for url in browser.urls), browser.urls
-        except BaseException:
-            browser.shot(os.path.join(shots, "failure.png"))
-            print("\n".join(browser.lines[-20:] + browser.errors), file=sys.stderr)
-            raise
-        finally:
-            browser.close()
+    browser = start_browser()
+    player = Player(browser, serve(site))
+    try:
+        load_over_slow_line(player)
+        browser.save_screenshot(os.path.join(shots, "menu.png"))
+        play_a_game(player)
+        browser.save_screenshot(os.path.join(shots, "game.png"))
+        change_options(player)
+        cover_screen(player)
+        reload(player)
+        check_console(player)
+        fail_to_start(player)
+        check_requests(player)
+    except BaseException:
+        browser.save_screenshot(os.path.join(shots, "failure.png"))
+        print("\n".join(entry["message"] for entry in player.console[-20:]), file=sys.stderr)
+        raise
+    finally:
+        browser.quit()
     print("The page does what it should.")
 
 
