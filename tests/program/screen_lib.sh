@@ -5,7 +5,6 @@
 PATIENCE=90 # seconds until what must happen has not happened, on a machine that is busy with other things
 TOLERANCE=0.03 # of 1, the mean difference of pictures: fewer colours, some waves, small writing
 WHOLE=640x480+0+0
-POND=480x480+160+0
 PANEL=160x90+240+195 # where the paused and the confirmation panel show
 
 # shellcheck disable=SC2046 # lists of numbers
@@ -111,9 +110,8 @@ shot() {
 # shows PICTURE AREA [PART]: the area looks like the picture, or like that part of it. Others differ by a tenth or more.
 shows() {
     shot "$2" "$folder/area"
-    convert "$pictures/$1" -crop "${3:-10000x10000+0+0}" +repage "ppm:$folder/part"
-    convert "$folder/part" "$folder/area" -compose difference -composite -format '%[fx:mean]\n' info: |
-        awk -v tolerance=$TOLERANCE '$1 < tolerance { alike = 1 } END { exit !alike }'
+    convert "$pictures/$1" -crop "${3:-10000x10000+0+0}" +repage "$folder/area" -compose difference -composite \
+        -format "%[fx:mean<$TOLERANCE]" info: | grep -qx 1
 }
 shows_menu() { shows MainMenu.jpg $WHOLE; }
 

@@ -178,7 +178,7 @@ def cover_screen(player):
 
 def reload(player):
     step("A reload")
-    key_is_stored = "localStorage['Tervalis/settings.toml'].includes('\"Up 1\" = 73')"
+    key_is_stored = "localStorage['Tervalis/settings.toml']?.includes('\"Up 1\" = 73')"
     player.open()
     assert player.ask(key_is_stored)
     player.start()
