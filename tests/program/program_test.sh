@@ -89,7 +89,8 @@ is_wine || xprop -id "$window" WM_CLASS | grep -qF "\"$id\"" || fail "no desktop
 
 step "A new key"
 click 507 285 "the options page opens" shows Options.jpg 320x45+160+310 320x45+0+185
-xdotool key i
+shot $NEXT_FIELD "$folder/before"
+press i "the next field has the focus" has_changed $NEXT_FIELD
 press Return "the menu again" shows_menu
 has_setting "Up 1" 73 || fail "the new key is not stored"
 has_setting "Down 1" 40 || fail "the other keys are not stored"

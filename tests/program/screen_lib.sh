@@ -5,6 +5,7 @@
 PATIENCE=90 # seconds until what must happen has not happened, on a machine that is busy with other things
 TOLERANCE=0.03 # of 1, the mean difference of pictures: fewer colours, some waves, small writing
 WHOLE=640x480+0+0
+NEXT_FIELD=33x33+238+253 # of the options page, behind the one that has the focus first
 PANEL=160x90+240+195 # where the paused and the confirmation panel show
 
 # shellcheck disable=SC2046 # lists of numbers
@@ -121,6 +122,8 @@ rests() {
     shot $WHOLE "$folder/area"
     cmp -s "$folder/before" "$folder/area"
 }
+# has_changed AREA: it differs from the picture taken before.
+has_changed() { shot "$1" "$folder/area" && ! cmp -s "$folder/before" "$folder/area"; }
 plays() { shows LeftPanel.bmp 110x40+0+0 110x40+0+0 && ! rests; }
 
 logged() { [ -e "$log" ] && tr -d '\r' <"$log" | grep -qxF -- "$1"; }

@@ -7,6 +7,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <iterator>
 #include <memory>
 #include <optional>
 #include <string>
@@ -59,11 +60,11 @@ std::string KeyFolder(LPCSTR subKey)
     return SettingsFolder(std::string(name.substr(name.find_last_of("\\/") + 1))); // nothing found is -1
 }
 
-/// Whether a string comes back from a file byte for byte.
-bool SurvivesAsText(const std::string& bytes)
+/// Whether values come back from a file as they are.
+bool Survives(const toml::table& values)
 {
-    const auto copy = ParseToml(FormatToml(toml::table{ { "value", bytes } }));
-    return copy && (*copy)["value"].value_exact<std::string>() == bytes;
+    const auto copy = ParseToml(FormatToml(values));
+    return copy && *copy == values;
 }
 
 std::string ToHex(std::string_view bytes)
@@ -103,7 +104,7 @@ void Store(toml::table& values, std::string_view name, const Value& value)
         DWORD number;
         memcpy(&number, value.bytes.data(), sizeof number);
         values.insert_or_assign(name, static_cast<int64_t>(number));
-    } else if (value.type == REG_SZ && SurvivesAsText(value.bytes)) {
+    } else if (value.type == REG_SZ && Survives(toml::table{ { "value", value.bytes } })) {
         values.insert_or_assign(name, value.bytes);
     } else {
         toml::table encoded{ { "type", static_cast<int64_t>(value.type) }, { "hex", ToHex(value.bytes) } };
@@ -141,6 +142,17 @@ std::optional<Value> Fetch(const toml::table& values, std::string_view name)
     return Value{ *type, *bytes };
 }
 
+/// The library writes some names that a hand may have given so that it cannot read them again: one of them would spoil
+/// the whole file.
+void DropWhatCannotBeStored(toml::table& values)
+{
+    for (auto value = values.begin(); value != values.end();) {
+        toml::table alone;
+        alone.insert_or_assign(value->first, value->second);
+        value = Survives(alone) ? std::next(value) : values.erase(value);
+    }
+}
+
 /// A missing file has no values. A damaged one is set aside for its owner; one that cannot be read, or cannot be set
 /// aside, is an error, so that no save replaces it.
 LONG LoadValues(const std::string& path, toml::table& values)
@@ -155,6 +167,7 @@ LONG LoadValues(const std::string& path, toml::table& values)
     if (!parsed)
         return SetFileAside(path);
     values = std::move(*parsed);
+    DropWhatCannotBeStored(values);
     return Code(ERROR_SUCCESS);
 }
 
