@@ -25,8 +25,6 @@ fail() {
     exit 1
 }
 
-step() { echo "$(date +%T) $*"; }
-
 # await WHAT COMMAND...: until the command succeeds.
 await() {
     local what=$1 end=$((SECONDS + PATIENCE))
