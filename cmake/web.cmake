@@ -34,7 +34,8 @@ target_link_libraries(tervalis_common INTERFACE turbojpeg hwy)
 # What the browser shares with the desktop; web/ has the rest.
 set(POSIX_FILES clock files font_face glyphs kernel_object mixer paths process registry riff toml)
 set(SDL_FILES direct_draw direct_sound events frame_fit frame_view gdi_display kept_frame keyboard message_loop messages
-    mouse pad_pointer pads present sound_output stick told_frame virtual_keys)
+    mouse pad_pointer pads present sound_output stick told_frame virtual_keys
+    window_handle)
 list(TRANSFORM POSIX_FILES REPLACE "(.+)" "src/platform/posix/\\1.cpp")
 list(TRANSFORM SDL_FILES REPLACE "(.+)" "src/platform/sdl/\\1.cpp")
 file(GLOB WEB_FILES CONFIGURE_DEPENDS src/platform/web/*.cpp)

@@ -167,7 +167,8 @@ LONG LoadValues(const std::string& path, toml::table& values)
     if (!parsed)
         return SetFileAside(path);
     values = std::move(*parsed);
-    DropWhatCannotBeStored(values);
+    if (!Survives(values))
+        DropWhatCannotBeStored(values);
     return Code(ERROR_SUCCESS);
 }
 

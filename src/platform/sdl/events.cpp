@@ -108,8 +108,8 @@ void CollectEvents()
 {
     if (!nativeWindow.handle)
         return;
-    // Not SDL_PollEvent: after a wait (message_loop.cpp) it stops before what came during the wait.
     PollPads();
+    // Not SDL_PollEvent: after a wait (message_loop.cpp) it stops before what came during the wait.
     SDL_PumpEvents();
     SDL_Event event;
     while (nativeWindow.handle && SDL_PeepEvents(&event, 1, SDL_GETEVENT, SDL_FIRSTEVENT, SDL_LASTEVENT) > 0)

@@ -54,10 +54,11 @@ void CFrameScaler::ScaleRows(const uint16_t* frame, const PictureRows& target)
         const uint32_t weight = rows.weights[row];
         uint32_t* const pixels = target.Row(row);
         const uint32_t* const upper = WideRow(frame, first, PlaceFor(first, row, target));
-        if (weight == 0 && upper != pixels)
-            std::memcpy(pixels, upper, count * sizeof(uint32_t));
-        if (weight == 0)
+        if (weight == 0) {
+            if (upper != pixels)
+                std::memcpy(pixels, upper, count * sizeof(uint32_t));
             continue;
+        }
         const uint32_t* const lower = WideRow(frame, first + 1, PlaceFor(first + 1, row, target));
         BestScaleKernels().mix(upper, lower, weight, pixels, count);
     }
@@ -66,7 +67,7 @@ void CFrameScaler::ScaleRows(const uint16_t* frame, const PictureRows& target)
 /// Where the picture is to show a row of the frame as it is, from `row` on; else a row of our own.
 uint32_t* CFrameScaler::PlaceFor(size_t frameRow, size_t row, const PictureRows& target)
 {
-    while (row < target.end && (rows.first[row] < frameRow))
+    while (row < target.end && rows.first[row] < frameRow)
         ++row;
     const bool isPlain = row < target.end && rows.first[row] == frameRow && rows.weights[row] == 0;
     return isPlain ? target.Row(row) : ownRows[frameRow % 2].data()->pixels;

@@ -1,13 +1,14 @@
 #include "platform/sdl/kept_frame.h"
 
 #include "platform/posix/out_of_memory.h"
+#include "platform/sdl/frame_fit.h"
 
 #include <algorithm>
 #include <cstring>
 
 bool KeptFrame::SetSize(SDL_Point newSize)
 {
-    if (newSize.x == size.x && newSize.y == size.y)
+    if (SameSize(newSize, size))
         return true;
     return OrOutOfMemory(false, [&] {
         const size_t rows = static_cast<size_t>(newSize.y);

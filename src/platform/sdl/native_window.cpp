@@ -1,18 +1,12 @@
 #include "platform/sdl/native_window.h"
 
+#include "platform/sdl/frame_fit.h"
 #include "platform/sdl/screen.h"
 #include "platform/sdl/window_factor.h"
 #include "platform/sdl/x11_screen.h"
 
-NativeWindow nativeWindow;
-
 namespace
 {
-bool SameSize(SDL_Point a, SDL_Point b)
-{
-    return a.x == b.x && a.y == b.y;
-}
-
 SDL_Point WindowSize(const NativeWindow& window)
 {
     return ShownSize(window.clientSize, window.factor, WindowDesktop(window.handle).scale);
@@ -37,16 +31,6 @@ void AwaitTitle(const NativeWindow& window)
         SDL_PumpEvents();
     }
 }
-}
-
-HWND NativeHandle()
-{
-    return reinterpret_cast<HWND>(&nativeWindow);
-}
-
-NativeWindow* WindowOf(HWND window)
-{
-    return window == NativeHandle() && nativeWindow.handle ? &nativeWindow : nullptr;
 }
 
 void SetClientSize(NativeWindow& window, SDL_Point size)

@@ -59,12 +59,6 @@ const Steering* PlayerOf(const Pad& pad)
     return players.empty() ? nullptr : &players[std::min(place, players.size() - 1)];
 }
 
-int KeyOf(const SteeringKeys& keys, Way way)
-{
-    const int codes[] = { keys.up, keys.down, keys.left, keys.right };
-    return codes[static_cast<int>(way)];
-}
-
 void Push(const Pad& pad, Way way)
 {
     if (way == Way::NONE)

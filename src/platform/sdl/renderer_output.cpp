@@ -42,7 +42,7 @@ public:
 private:
     bool Load(const KeptFrame& frame)
     {
-        if (!texture || size.x != frame.size.x || size.y != frame.size.y) {
+        if (!texture || !SameSize(size, frame.size)) {
             DestroyTexture(texture);
             DestroyTexture(magnified);
             size = frame.size;

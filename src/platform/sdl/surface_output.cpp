@@ -5,11 +5,6 @@
 
 namespace
 {
-bool SameSize(SDL_Point a, SDL_Point b)
-{
-    return a.x == b.x && a.y == b.y;
-}
-
 bool IsUsable(const SDL_Surface* surface)
 {
     return surface &&

@@ -48,6 +48,12 @@ std::span<const Steering> Players()
     return lastFrame.players.All();
 }
 
+int KeyOf(const SteeringKeys& keys, Way way)
+{
+    const int codes[] = { keys.up, keys.down, keys.left, keys.right };
+    return codes[static_cast<int>(way)];
+}
+
 bool EndToldFrame()
 {
     if (frameInTheMaking.clickables.count == 0 && frameInTheMaking.players.count == 0)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/frame_hints.h"
+#include "platform/sdl/stick.h"
 #include "platform/types.h"
 
 #include <span>
@@ -15,6 +16,9 @@ struct Steering {
 std::span<const RECT> Clickables();
 /// Empty where no game runs, or while it is paused.
 std::span<const Steering> Players();
+
+/// The key that steers that way, which must not be NONE.
+int KeyOf(const SteeringKeys& keys, Way way);
 
 /// Takes over what was told of the frame in the making. False when it told nothing.
 bool EndToldFrame();

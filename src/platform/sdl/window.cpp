@@ -185,32 +185,6 @@ BOOL SetWindowPos(HWND handle, HWND, int x, int y, int width, int height, UINT f
     return TRUE;
 }
 
-LONG GetWindowLongA(HWND handle, int index)
-{
-    const NativeWindow* window = WindowOf(handle);
-    if (!window)
-        return 0;
-    return static_cast<LONG>(index == GWL_STYLE ? window->style : window->extendedStyle);
-}
-
-/// A style counts in the reckoning of sizes only. Frames are not taken off and put on again: the style without one is
-/// that of full screen, where no window has a frame.
-LONG SetWindowLongA(HWND handle, int index, LONG value)
-{
-    NativeWindow* window = WindowOf(handle);
-    if (!window)
-        return 0;
-    DWORD& target = index == GWL_STYLE ? window->style : window->extendedStyle;
-    const LONG before = static_cast<LONG>(target);
-    target = static_cast<DWORD>(value);
-    return before;
-}
-
-HMENU GetMenu(HWND)
-{
-    return nullptr;
-}
-
 BOOL AdjustWindowRectEx(RECT* rectangle, DWORD style, BOOL, DWORD)
 {
     const RECT frame = FrameOf(style);

@@ -58,9 +58,9 @@ void Zoom(NativeWindow& window, int step)
     if (SDL_GetWindowFlags(window.handle) & SDL_WINDOW_FULLSCREEN)
         return;
     const Desktop desktop = WindowDesktop(window.handle);
-    const int wanted = std::clamp(window.factor + step, 1, LargestFactor(window.clientSize, desktop));
-    const int factor = step == 0 ? AutomaticFactor(window.clientSize, desktop) : wanted;
-    if (step == 0 || factor != window.factor)
+    const int factor = step == 0 ? AutomaticFactor(window.clientSize, desktop)
+                                 : std::clamp(window.factor + step, 1, LargestFactor(window.clientSize, desktop));
+    if (step == 0 || factor != window.factor) // one that a smaller screen has cut is not forgotten at its limit
         RememberFactor(SDL_GetWindowTitle(window.handle), step == 0 ? 0 : factor);
     if (factor != window.factor)
         SetFactor(window, factor, desktop.usable);

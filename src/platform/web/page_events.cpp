@@ -1,3 +1,4 @@
+#include "platform/sdl/keyboard.h"
 #include "platform/sdl/messages.h"
 #include "platform/sdl/native_window.h"
 #include "platform/sdl/told_frame.h"
@@ -29,12 +30,8 @@ EMSCRIPTEN_KEEPALIVE void TapScreen(int x, int y)
 /// Steers the first player of the running game: up, down, left or right, counted from 0.
 EMSCRIPTEN_KEEPALIVE void SteerFirstPlayer(int way)
 {
-    if (Players().empty())
-        return;
-    const SteeringKeys& keys = Players().front().keys;
-    const int codes[] = { keys.up, keys.down, keys.left, keys.right };
-    PostToWindow(WM_KEYDOWN, static_cast<WPARAM>(codes[way]), 1);
-    PostToWindow(WM_KEYUP, static_cast<WPARAM>(codes[way]), RELEASED);
+    if (!Players().empty())
+        TapKey(KeyOf(Players().front().keys, static_cast<Way>(way)), 0);
 }
 
 /// Alt+Enter: full screen and back.

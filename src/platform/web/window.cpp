@@ -8,8 +8,6 @@
 
 // The one window is the page's canvas. It has neither frame nor place, and the page scales it to what room there is.
 
-NativeWindow nativeWindow;
-
 namespace
 {
 WNDPROC registeredProcedure = nullptr;
@@ -23,21 +21,6 @@ void CloseWindow()
     ForgetEvents();
     SDL_QuitSubSystem(SDL_INIT_VIDEO);
 }
-
-DWORD& StyleWord(NativeWindow& window, int index)
-{
-    return index == GWL_STYLE ? window.style : window.extendedStyle;
-}
-}
-
-HWND NativeHandle()
-{
-    return reinterpret_cast<HWND>(&nativeWindow);
-}
-
-NativeWindow* WindowOf(HWND window)
-{
-    return window == NativeHandle() && nativeWindow.handle ? &nativeWindow : nullptr;
 }
 
 void KeepClientSize() {}
@@ -99,25 +82,6 @@ BOOL ShowWindow(HWND, int command)
 BOOL SetWindowPos(HWND, HWND, int, int, int, int, UINT)
 {
     return TRUE;
-}
-
-LONG GetWindowLongA(HWND handle, int index)
-{
-    NativeWindow* window = WindowOf(handle);
-    return window ? static_cast<LONG>(StyleWord(*window, index)) : 0;
-}
-
-LONG SetWindowLongA(HWND handle, int index, LONG value)
-{
-    const LONG before = GetWindowLongA(handle, index);
-    if (NativeWindow* window = WindowOf(handle))
-        StyleWord(*window, index) = static_cast<DWORD>(value);
-    return before;
-}
-
-HMENU GetMenu(HWND)
-{
-    return nullptr;
 }
 
 BOOL AdjustWindowRectEx(RECT*, DWORD, BOOL, DWORD)
