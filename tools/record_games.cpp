@@ -52,8 +52,7 @@ bool Record(const Recording& script, const std::string& path)
         std::printf("%s does not show %s\n", path.c_str(), condition.c_str());
     if (!unseen.empty())
         return false;
-    std::printf("%s: %s\n", path.c_str(), FirstDifference(script, recording).c_str());
-    WriteRecording(recording, path);
+    WriteRecording(recording, path); // git tells what has changed
     return true;
 }
 

@@ -51,26 +51,6 @@ void ReadLine(const std::string& text, Recording& recording)
     } else
         throw std::runtime_error("not a line of a recording: " + text);
 }
-
-std::string StretchName(const Stretch& stretch, int before)
-{
-    if (stretch.frame == before)
-        return "at the program's end";
-    return "in the frames " + std::to_string(before) + " to " + std::to_string(stretch.frame - 1);
-}
-
-/// The state at the end of a stretch, made of the changes so far.
-using State = std::map<std::string, std::string>;
-
-std::string FirstDifference(State is, State was)
-{
-    for (const auto& [name, value] : was)
-        is.try_emplace(name, Recording::ABSENT);
-    for (const auto& [name, value] : is)
-        if (const std::string& old = was.try_emplace(name, Recording::ABSENT).first->second; old != value)
-            return name + " " + value + ", was " + old;
-    return "no field that is written down";
-}
 }
 
 Recording ReadRecording(const std::string& path)
@@ -95,38 +75,18 @@ void WriteRecording(const Recording& recording, const std::string& path)
         file << "\nat " << action.frame << ' ' << action.verb << ' ' << action.arguments;
     for (const std::string& condition : recording.shows)
         file << "\nshows " << condition;
-    for (const Stretch& stretch : recording.stretches) {
-        file << "\nstretch " << std::dec << stretch.frame << std::hex << ' ' << stretch.state << ' ' << stretch.picture
-             << ' ' << stretch.sounds;
-        for (const auto& [name, value] : stretch.changes)
-            file << "\n " << name << ' ' << value;
-    }
+    for (const Stretch& stretch : recording.stretches)
+        file << Text(stretch);
     if (!(file << '\n').flush())
         throw std::runtime_error(path + ": cannot be written");
 }
 
-std::string FirstDifference(const Recording& recorded, const Recording& played)
+std::string Text(const Stretch& stretch)
 {
-    State was;
-    State is;
-    int before = 0;
-    for (size_t i = 0; i < std::min(recorded.stretches.size(), played.stretches.size()); ++i) {
-        const Stretch& old = recorded.stretches[i];
-        const Stretch& now = played.stretches[i];
-        for (const auto& [name, value] : old.changes)
-            was[name] = value;
-        for (const auto& [name, value] : now.changes)
-            is[name] = value;
-        std::string parts;
-        if (now.state != old.state)
-            parts += " state (" + FirstDifference(is, was) + ")";
-        if (now.picture != old.picture)
-            parts += " picture";
-        if (now.sounds != old.sounds)
-            parts += " sounds";
-        if (!parts.empty() || now.frame != old.frame)
-            return StretchName(now, before) + " differ:" + parts;
-        before = now.frame;
-    }
-    return recorded.stretches.size() == played.stretches.size() ? "" : "the recording is of another length";
+    std::ostringstream text;
+    text << "\nstretch " << stretch.frame << std::hex << ' ' << stretch.state << ' ' << stretch.picture << ' '
+         << stretch.sounds;
+    for (const auto& [name, value] : stretch.changes)
+        text << "\n " << name << ' ' << value;
+    return text.str();
 }

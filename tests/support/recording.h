@@ -40,5 +40,5 @@ struct Recording {
 Recording ReadRecording(const std::string& path);
 void WriteRecording(const Recording& recording, const std::string& path);
 
-/// Where and how two runs of a recording part first; empty when they are equal.
-std::string FirstDifference(const Recording& recorded, const Recording& played);
+/// Its lines in the text form, each behind a line break.
+std::string Text(const Stretch& stretch);

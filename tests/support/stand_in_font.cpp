@@ -4,24 +4,17 @@
 #include "platform/gdi.h"
 
 #include <cstdint>
-#include <utility>
 
 namespace
 {
-/// A font made here is its cell's height and width, an HDC points at the font selected into it.
-HFONT FontOf(int height, int width)
-{
-    return reinterpret_cast<HFONT>(static_cast<uintptr_t>(height << 8 | width));
-}
+/// A font made here is its cell's height and width, an HDC points at the cell of the font selected into it.
+struct Cell {
+    DWORD height, width;
+};
 
-HGDIOBJ& FontIn(HDC context)
+Cell& CellOf(HDC context)
 {
-    return *reinterpret_cast<HGDIOBJ*>(context);
-}
-
-DWORD HeightIn(HDC context)
-{
-    return static_cast<DWORD>(reinterpret_cast<uintptr_t>(FontIn(context)) >> 8);
+    return *reinterpret_cast<Cell*>(context);
 }
 
 constexpr BYTE FULL_COVERAGE = 16;
@@ -36,29 +29,31 @@ BYTE Coverage(UINT character, DWORD x, DWORD y)
 DWORD GlyphWidth(HDC context, UINT character)
 {
     const bool isDigit = character >= '0' && character <= '9';
-    return static_cast<DWORD>(reinterpret_cast<uintptr_t>(FontIn(context)) & 0xFF) - 1 + (isDigit ? 2 : character % 4);
+    return CellOf(context).width - 1 + (isDigit ? 2 : character % 4);
 }
 }
 
 HFONT WINAPI CreateFontA(int height, int width, int, int, int, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD,
                          LPCSTR)
 {
-    return FontOf(height, width);
+    return reinterpret_cast<HFONT>(static_cast<uintptr_t>(height << 8 | width));
 }
 
 HDC WINAPI CreateCompatibleDC(HDC)
 {
-    return reinterpret_cast<HDC>(new HGDIOBJ(FontOf(13, 5)));
+    return reinterpret_cast<HDC>(new Cell{ 13, 5 });
 }
 
 HGDIOBJ WINAPI SelectObject(HDC context, HGDIOBJ font)
 {
-    return std::exchange(FontIn(context), font);
+    const DWORD cell = static_cast<DWORD>(reinterpret_cast<uintptr_t>(font));
+    CellOf(context) = { cell >> 8, cell & 0xFF };
+    return nullptr;
 }
 
 BOOL WINAPI DeleteDC(HDC context)
 {
-    delete &FontIn(context);
+    delete &CellOf(context);
     return TRUE;
 }
 
@@ -75,7 +70,7 @@ HGDIOBJ WINAPI GetStockObject(int)
 BOOL WINAPI GetTextMetricsA(HDC context, TEXTMETRICA* metrics)
 {
     *metrics = {};
-    metrics->tmHeight = static_cast<LONG>(HeightIn(context));
+    metrics->tmHeight = static_cast<LONG>(CellOf(context).height);
     metrics->tmAscent = metrics->tmHeight - 3;
     return TRUE;
 }
@@ -88,7 +83,7 @@ DWORD WINAPI GetGlyphOutlineA(HDC context, UINT character, UINT, GLYPHMETRICS* m
         return GDI_ERROR;
     const bool isBlank = character <= ' ';
     const DWORD width = isBlank ? 1 : GlyphWidth(context, character);
-    const DWORD height = isBlank ? 1 : HeightIn(context) - (character < 'a' ? 4 : 6);
+    const DWORD height = isBlank ? 1 : CellOf(context).height - (character < 'a' ? 4 : 6);
     const DWORD rowBytes = (width + 3) & ~3u;
     *metrics = { width, height, { 1, static_cast<LONG>(height) }, static_cast<short>(width + 2), 0 };
     if (isBlank)

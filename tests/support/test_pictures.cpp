@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <map>
 #include <random>
 #include <span>
 #include <stdexcept>
@@ -66,9 +65,7 @@ std::string NoiseBmp(Noise& noise, int width, int height, bool isMask)
     return file;
 }
 
-using Files = std::map<std::string, std::string>; ///< contents by path; owners share some
-
-void AddPicture(Files& files, const char* name, int number, const PictureSize& size, bool isMask)
+void WritePicture(const TempFolder& folder, const char* name, int number, const PictureSize& size, bool isMask)
 {
     std::string path = PicturePath(name, number).data();
     std::replace(path.begin(), path.end(), '\\', '/');
@@ -76,27 +73,8 @@ void AddPicture(Files& files, const char* name, int number, const PictureSize& s
     for (const char c : path)
         seed = seed * 31 + static_cast<uint8_t>(c);
     Noise noise(seed);
-    files[path] = path.ends_with(".jpg") ? BlockJpeg(noise, size.width, size.height)
-                                         : NoiseBmp(noise, size.width, size.height, isMask);
-}
-
-void AddPictures(Files& files, const PictureRow& row)
-{
-    for (int i = 0; i < row.count; ++i) {
-        AddPicture(files, row.file, i, SizeOf(row, i), false);
-        if (row.mask)
-            AddPicture(files, row.mask, i, SizeOf(row, i), true);
-    }
-}
-
-Files MakeFiles()
-{
-    Files files;
-    const std::span<const PictureRow> tables[] = { pondPictures, snakePictures, statusPictures, menuPictures };
-    for (const auto& table : tables)
-        for (const PictureRow& row : table)
-            AddPictures(files, row);
-    return files;
+    folder.Write(path, path.ends_with(".jpg") ? BlockJpeg(noise, size.width, size.height)
+                                              : NoiseBmp(noise, size.width, size.height, isMask));
 }
 }
 
@@ -116,7 +94,12 @@ std::string EncodeJpeg(const std::vector<uint8_t>& pixels, int width, int height
 
 TestPictures::TestPictures()
 {
-    static const Files files = MakeFiles();
-    for (const auto& [path, content] : files)
-        folder.Write(path, content);
+    const std::span<const PictureRow> tables[] = { pondPictures, snakePictures, statusPictures, menuPictures };
+    for (const auto& table : tables)
+        for (const PictureRow& row : table)
+            for (int i = 0; i < row.count; ++i) {
+                WritePicture(folder, row.file, i, SizeOf(row, i), false);
+                if (row.mask)
+                    WritePicture(folder, row.mask, i, SizeOf(row, i), true);
+            }
 }
