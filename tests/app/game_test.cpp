@@ -37,9 +37,7 @@ struct OtherScene : ProbeScene {
 };
 
 /// The program with a probe as its scene, before the first tick.
-class GameTest : public ProgramFixture
-{
-protected:
+struct GameTest : ProgramFixture {
     void SetUp() override
     {
         ProgramFixture::SetUp();

@@ -19,9 +19,7 @@ std::vector<std::string> RecordingNames()
     return names;
 }
 
-class Recordings : public testing::TestWithParam<std::string>
-{
-};
+using Recordings = testing::TestWithParam<std::string>;
 
 TEST_P(Recordings, PlayAsTheyDid)
 {

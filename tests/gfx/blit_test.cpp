@@ -9,7 +9,6 @@
 #include <iterator>
 #include <random>
 #include <set>
-#include <utility>
 #include <vector>
 
 namespace

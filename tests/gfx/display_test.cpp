@@ -11,9 +11,7 @@ namespace
 constexpr int WIDTH = 640;
 constexpr int HEIGHT = 480;
 
-class Display : public ProgramFixture
-{
-protected:
+struct Display : ProgramFixture {
     void SetUp() override
     {
         ProgramFixture::SetUp();

@@ -13,9 +13,7 @@ namespace
 using Pixels = std::vector<uint16_t>;
 
 /// A text image in the stand-in font, of which nothing is left to delete, and a black picture to draw into.
-class TextImage : public testing::Test
-{
-protected:
+struct TextImage : testing::Test {
     TextImage() { picture.Create(40, 20); }
     void Create(int slots) { ASSERT_TRUE(text.TextImageCreate(CreateVerdana(13, 5), TEXT_GREY_LEVELS, slots)); }
     Pixels Draw(CTextImage& writer, const char* line)

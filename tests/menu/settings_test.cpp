@@ -7,12 +7,9 @@
 
 namespace
 {
-class SettingsTest : public testing::Test
-{
-protected:
+struct SettingsTest : testing::Test {
     SettingsTest() { UseFreshSettings(folder); }
     ~SettingsTest() override { UseNoSettings(); }
-    std::string Stored() const { return folder.Read(SETTINGS_FILE); }
 
     TempFolder folder;
     CSectionMenu menu;
@@ -55,16 +52,15 @@ TEST_F(SettingsTest, TakesValuesAsBytesWhateverTheirType)
 TEST_F(SettingsTest, WhatCouldNotBeReadIsNeverReplaced)
 {
     UseNoSettings();
-    CSectionMenu other;
-    other.keys[0] = 'Q';
-    EXPECT_NE(other.SettingsLoad(), 0);
-    EXPECT_EQ(other.keys[0], uint32_t{ 'Q' });
+    menu.keys[0] = 'Q';
+    EXPECT_NE(menu.SettingsLoad(), 0);
+    EXPECT_EQ(menu.keys[0], uint32_t{ 'Q' });
 
     UseFreshSettings(folder); // they can be had again
     folder.Write(SETTINGS_FILE, "\"Rank 1\" = 5000");
-    EXPECT_NE(other.SettingsSave(), 0);
-    EXPECT_EQ(Stored(), "\"Rank 1\" = 5000");
-    EXPECT_EQ(other.SettingsLoad(), 0);
-    EXPECT_EQ(other.SettingsSave(), 0);
-    EXPECT_NE(Stored().find("5000"), std::string::npos);
+    EXPECT_NE(menu.SettingsSave(), 0);
+    EXPECT_EQ(folder.Read(SETTINGS_FILE), "\"Rank 1\" = 5000");
+    EXPECT_EQ(menu.SettingsLoad(), 0);
+    EXPECT_EQ(menu.SettingsSave(), 0);
+    EXPECT_NE(folder.Read(SETTINGS_FILE).find("5000"), std::string::npos);
 }

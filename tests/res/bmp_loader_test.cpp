@@ -21,12 +21,11 @@ std::string MakeBmp(uint32_t bitCount, const Bytes& rows, const Bytes& palette =
 
 EngineError Load(CImage& image, const std::string& bmp, const std::string& mask = {})
 {
-    const auto bytes = [](const std::string& file) {
-        return file.empty() ? nullptr : reinterpret_cast<const uint8_t*>(file.data());
-    };
+    const auto* const bytes = reinterpret_cast<const uint8_t*>(bmp.data());
+    const auto* const maskBytes = mask.empty() ? nullptr : reinterpret_cast<const uint8_t*>(mask.data());
     lastError = ENGINE_NO_ERROR;
-    const bool loaded = LoadBmpImage(image, bytes(bmp), static_cast<uint32_t>(bmp.size()), bytes(mask),
-                                     static_cast<uint32_t>(mask.size()));
+    const bool loaded =
+        LoadBmpImage(image, bytes, static_cast<uint32_t>(bmp.size()), maskBytes, static_cast<uint32_t>(mask.size()));
     EXPECT_EQ(loaded, lastError == ENGINE_NO_ERROR);
     return static_cast<EngineError>(lastError);
 }

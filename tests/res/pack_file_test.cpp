@@ -19,9 +19,7 @@ std::string Entry(const char* name, uint32_t offset, uint32_t size)
 }
 
 /// A folder of its own as the current one, and no pack open.
-class PackFile : public testing::Test
-{
-protected:
+struct PackFile : testing::Test {
     void TearDown() override { packTable[0].Close(); }
 
     bool Open(const std::string& bytes)

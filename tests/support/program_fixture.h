@@ -10,9 +10,7 @@
 #include <optional>
 
 /// The program from its start, with DirectX and the clock as doubles.
-class ProgramFixture : public testing::Test
-{
-protected:
+struct ProgramFixture : testing::Test {
     void SetUp() override
     {
         directX = {};

@@ -20,7 +20,6 @@
 #include "support/test_pictures.h"
 #include "support/test_system.h"
 
-#include <algorithm>
 #include <cctype>
 #include <filesystem>
 #include <fstream>

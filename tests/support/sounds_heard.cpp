@@ -5,25 +5,21 @@
 SoundsHeard soundsHeard;
 
 // The linker leads the game's calls here (CMakeLists.txt).
-extern "C" {
-bool RealSoundPlay(int id, bool loop) asm("__real__Z9SoundPlayib");
-bool RealSoundStop(int id) asm("__real__Z9SoundStopi");
-bool WrapSoundPlay(int id, bool loop) asm("__wrap__Z9SoundPlayib");
-bool WrapSoundStop(int id) asm("__wrap__Z9SoundStopi");
-}
+extern "C" bool __real__Z9SoundPlayib(int id, bool loop);
+extern "C" bool __real__Z9SoundStopi(int id);
 
-bool WrapSoundPlay(int id, bool loop)
+extern "C" bool __wrap__Z9SoundPlayib(int id, bool loop)
 {
     if (SoundGetMute() == 0) {
         soundsHeard.calls.Add(static_cast<uint64_t>(id * 4 + 2 + loop));
         ++soundsHeard.plays.at(static_cast<size_t>(id));
     }
-    return RealSoundPlay(id, loop);
+    return __real__Z9SoundPlayib(id, loop);
 }
 
-bool WrapSoundStop(int id)
+extern "C" bool __wrap__Z9SoundStopi(int id)
 {
     if (SoundGetMute() == 0)
         soundsHeard.calls.Add(static_cast<uint64_t>(id * 4));
-    return RealSoundStop(id);
+    return __real__Z9SoundStopi(id);
 }

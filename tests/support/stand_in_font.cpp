@@ -19,18 +19,6 @@ Cell& CellOf(HDC context)
 
 constexpr BYTE FULL_COVERAGE = 16;
 constexpr UINT WITHOUT_BITS = 0x8120; ///< a character that has a size and cannot be had
-
-BYTE Coverage(UINT character, DWORD x, DWORD y)
-{
-    return static_cast<BYTE>(character * 7 + x * 5 + y * 3) % (FULL_COVERAGE + 1);
-}
-
-/// Digits are equally wide.
-DWORD GlyphWidth(HDC context, UINT character)
-{
-    const bool isDigit = character >= '0' && character <= '9';
-    return CellOf(context).width - 1 + (isDigit ? 2 : character % 4);
-}
 }
 
 HFONT WINAPI CreateFontA(int height, int width, int, int, int, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD,
@@ -75,14 +63,16 @@ BOOL WINAPI GetTextMetricsA(HDC context, TEXTMETRICA* metrics)
     return TRUE;
 }
 
-/// A space is blank; every other character stands on the base line, capital letters higher than the others.
+/// A space is blank; every other character stands on the base line, capital letters higher than the others. Digits are
+/// equally wide.
 DWORD WINAPI GetGlyphOutlineA(HDC context, UINT character, UINT, GLYPHMETRICS* metrics, DWORD, LPVOID buffer,
                               const MAT2*)
 {
     if (context == nullptr)
         return GDI_ERROR;
     const bool isBlank = character <= ' ';
-    const DWORD width = isBlank ? 1 : GlyphWidth(context, character);
+    const bool isDigit = character >= '0' && character <= '9';
+    const DWORD width = isBlank ? 1 : CellOf(context).width - 1 + (isDigit ? 2 : character % 4);
     const DWORD height = isBlank ? 1 : CellOf(context).height - (character < 'a' ? 4 : 6);
     const DWORD rowBytes = (width + 3) & ~3u;
     *metrics = { width, height, { 1, static_cast<LONG>(height) }, static_cast<short>(width + 2), 0 };
@@ -91,8 +81,10 @@ DWORD WINAPI GetGlyphOutlineA(HDC context, UINT character, UINT, GLYPHMETRICS* m
     auto* target = static_cast<BYTE*>(buffer);
     if (target != nullptr && character == WITHOUT_BITS)
         return GDI_ERROR;
-    for (DWORD i = 0; target != nullptr && i < rowBytes * height; ++i)
-        target[i] = i % rowBytes < width ? Coverage(character, i % rowBytes, i / rowBytes) : BYTE{ 0 };
+    for (DWORD i = 0; target != nullptr && i < rowBytes * height; ++i) {
+        const BYTE pattern = static_cast<BYTE>(character * 7 + i % rowBytes * 5 + i / rowBytes * 3);
+        target[i] = i % rowBytes < width ? pattern % (FULL_COVERAGE + 1) : BYTE{ 0 };
+    }
     return rowBytes * height;
 }
 

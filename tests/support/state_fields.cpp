@@ -4,7 +4,6 @@
 #include "app/input.h"
 #include "app/random.h"
 #include "app/scenes.h"
-#include "app/section_load.h"
 #include "game/section_main.h"
 #include "game/water.h"
 #include "gfx/display.h"

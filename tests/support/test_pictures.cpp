@@ -12,7 +12,6 @@
 #include <cstdint>
 #include <random>
 #include <span>
-#include <stdexcept>
 
 namespace
 {
@@ -84,8 +83,7 @@ std::string EncodeJpeg(const std::vector<uint8_t>& pixels, int width, int height
     tjhandle codec = tjInitCompress();
     unsigned char* bytes = nullptr;
     unsigned long size = 0;
-    if (tjCompress2(codec, pixels.data(), width, 0, height, pixelFormat, &bytes, &size, sampling, 100, 0) != 0)
-        throw std::runtime_error("no test picture");
+    tjCompress2(codec, pixels.data(), width, 0, height, pixelFormat, &bytes, &size, sampling, 100, 0);
     std::string file(reinterpret_cast<const char*>(bytes), size);
     tjFree(bytes);
     tjDestroy(codec);

@@ -11,9 +11,7 @@ constexpr MAT2 identity = { { 0, 1 }, { 0, 0 }, { 0, 0 }, { 0, 1 } };
 constexpr BYTE GUARD = 0xEE;
 
 /// The font that the game asks for, selected into a context; a near relative does where there is none of that name.
-class GlyphTest : public testing::Test
-{
-protected:
+struct GlyphTest : testing::Test {
     GlyphTest() { SelectObject(dc, font); }
     ~GlyphTest() override
     {

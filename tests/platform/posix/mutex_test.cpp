@@ -10,18 +10,8 @@ namespace fs = std::filesystem;
 
 namespace
 {
-/// Each test has settings, session and temporary folders of its own.
-class MutexTest : public testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        UseFolder("XDG_CONFIG_HOME", "config");
-        UseFolder("XDG_RUNTIME_DIR", "run");
-        UseFolder("TMPDIR", "tmp");
-        fs::create_directory("run");
-        fs::create_directory("tmp");
-    }
+struct MutexTest : testing::Test {
+    void SetUp() override { fs::create_directory("run"); }
     void TearDown() override { unsetenv("TMPDIR"); }
     void UseFolder(const char* variable, const std::string& name) const
     {
@@ -52,6 +42,8 @@ TEST_F(MutexTest, GoesWhereALockCanBeMade)
         { "linked", temporary, "a link that somebody laid" },
         { "named", temporary, "a second name of another file" },
     };
+    UseFolder("TMPDIR", "tmp");
+    fs::create_directory("tmp");
     folder.Write("config/Test/instance.lock", ""); // left by a copy that was killed
     folder.Write("victim", "kept");
     fs::create_directories("linked/Test");
@@ -81,6 +73,7 @@ TEST_F(MutexTest, SaysSoWhereNoneCanBeMade)
     const std::string name = "Test" + std::to_string(getpid());
     const fs::path last = "/tmp/" + name + "-" + std::to_string(getuid()) + ".lock";
     fs::create_directory(last); // in the way
+    UseFolder("XDG_RUNTIME_DIR", "run");
     CloseHandle(CreateMutexA(nullptr, FALSE, name.c_str()));
     EXPECT_EQ(GetLastError(), ERROR_SUCCESS) << "in the session's own folder";
     UseFolder("XDG_RUNTIME_DIR", "file/none");

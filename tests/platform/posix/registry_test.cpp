@@ -55,24 +55,16 @@ std::optional<Stored> Load(const char* name)
     return isThere ? std::optional(value) : std::nullopt;
 }
 
-/// The code of a save by a user without special rights, where no file may be larger than that.
-int SaveInChild(rlim_t mostBytes)
+/// Ends the process with the code of a save by a user without special rights, where no file may be larger than that.
+void SaveAndExit(rlim_t mostBytes)
 {
-    const pid_t child = fork();
-    if (child == 0) {
-        const rlimit limit = { mostBytes, mostBytes };
-        signal(SIGXFSZ, SIG_IGN);
-        const bool isReady = setrlimit(RLIMIT_FSIZE, &limit) == 0 && (getuid() != 0 || setuid(65534) == 0);
-        _exit(isReady ? static_cast<int>(Save({ "v" }, { REG_SZ, "new" })) : 254);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : 255;
+    const rlimit limit = { mostBytes, mostBytes };
+    signal(SIGXFSZ, SIG_IGN);
+    const bool isReady = setrlimit(RLIMIT_FSIZE, &limit) == 0 && (getuid() != 0 || setuid(65534) == 0);
+    _exit(isReady ? static_cast<int>(Save({ "v" }, { REG_SZ, "new" })) : 254);
 }
 
-class RegistryTest : public testing::Test
-{
-protected:
+struct RegistryTest : testing::Test {
     void SetUp() override { UseFreshSettings(folder); }
     void TearDown() override { UseNoSettings(); }
     static auto FileCount() { return std::distance(fs::directory_iterator("config/Tervalis"), {}); }
@@ -151,7 +143,7 @@ TEST_F(RegistryTest, LeavesWhatItMayNotReadOrReplace)
         mode_t folderMode, fileMode;
         const char* content;
         rlim_t mostBytes;
-        DWORD code;
+        int code;
         const char* reason;
     } cases[] = {
         { 0777, 0000, "v = 1\n", RLIM_INFINITY, ERROR_ACCESS_DENIED, "unreadable" },
@@ -165,7 +157,7 @@ TEST_F(RegistryTest, LeavesWhatItMayNotReadOrReplace)
         folder.Write(SETTINGS_FILE, row.content);
         chmod(SETTINGS_FILE, row.fileMode);
         chmod("config/Tervalis", row.folderMode);
-        EXPECT_EQ(SaveInChild(row.mostBytes), static_cast<int>(row.code)) << row.reason;
+        EXPECT_EXIT(SaveAndExit(row.mostBytes), testing::ExitedWithCode(row.code), "") << row.reason;
         chmod("config/Tervalis", 0777);
         chmod(SETTINGS_FILE, 0666);
         EXPECT_EQ(folder.Read(SETTINGS_FILE), row.content) << row.reason;

@@ -13,9 +13,7 @@ constexpr WORD PCM = WAVE_FORMAT_PCM;
 constexpr char OUTPUT[] = "output.raw";
 
 /// A device whose output lands in a file, at the speed of a real one.
-class DirectSoundTest : public testing::Test
-{
-protected:
+struct DirectSoundTest : testing::Test {
     void SetUp() override
     {
         SDL_setenv("SDL_DISKAUDIOFILE", OUTPUT, 1);

@@ -33,9 +33,7 @@ TEST(Stick, StaysWithAWayNearItsBoundaries)
         EXPECT_EQ(StickWay(row.x, row.y, row.held), row.way) << row.why;
 }
 
-class PadsTest : public WindowFixture
-{
-protected:
+struct PadsTest : WindowFixture {
     static SDL_Joystick* Plug()
     {
         SDL_SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1"); // the driver without a screen has no focus to give

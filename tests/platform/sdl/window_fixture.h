@@ -7,9 +7,7 @@
 
 /// A window with a client area of 640 x 480, as the game shows it, on SDL's driver without a screen, which is
 /// 1024 x 768. Events and messages are words, which window_events.txt explains.
-class WindowFixture : public testing::Test
-{
-protected:
+struct WindowFixture : testing::Test {
     void SetUp() override;
     void TearDown() override;
 

@@ -16,9 +16,7 @@ using namespace std::string_literals;
 constexpr uint16_t RED = 0xF800;
 constexpr uint16_t BLUE = 0x001F;
 
-class WindowTest : public WindowFixture
-{
-protected:
+struct WindowTest : WindowFixture {
     /// What the window gets of that event.
     static std::string Given(const std::string& event)
     {
@@ -35,9 +33,7 @@ protected:
 };
 
 /// With frames scaled by ourselves, and by SDL's renderer.
-class EachWayWindowTest : public WindowTest, public testing::WithParamInterface<const char*>
-{
-protected:
+struct EachWayWindowTest : WindowTest, testing::WithParamInterface<const char*> {
     void SetUp() override
     {
         setenv("TERVALIS_PRESENT", GetParam(), 1);
