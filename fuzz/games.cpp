@@ -76,10 +76,10 @@ uint64_t Play(Session& session, Numbers input)
         CheckPond(sectionMain.pond);
     }
     Checksum sum;
-    for (const StateField& field : StateFields())
+    for (const auto& [name, field] : ProgramState())
         for (const char* played : { "random", "cell[", "laser[", "popup[", "shockwave", "snake[" })
-            if (field.name.starts_with(played))
-                sum.Add(field.name + field.Value());
+            if (name.starts_with(played))
+                sum.Add(name + field.Value());
     requestedSection = &sectionMenu;
     session.Frame();
     return sum.Value();
