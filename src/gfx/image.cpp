@@ -70,13 +70,11 @@ bool CImage::CreateAlpha()
 
 bool CImage::CreateView(CImage& parent, int viewX, int viewY, int viewWidth, int viewHeight)
 {
-    if (viewX >= parent.width || viewY >= parent.height || !parent.pixels)
-        return FailWith(ENGINE_CREATE_IMAGE);
     const int left = std::max(viewX, 0);
     const int top = std::max(viewY, 0);
     const int64_t right = std::min<int64_t>(int64_t{ viewX } + viewWidth, parent.width);
     const int64_t bottom = std::min<int64_t>(int64_t{ viewY } + viewHeight, parent.height);
-    if (right <= left || bottom <= top)
+    if (right <= left || bottom <= top || !parent.pixels)
         return FailWith(ENGINE_CREATE_IMAGE);
 
     ReleasePlane(pixels, pixelsBorrowed);

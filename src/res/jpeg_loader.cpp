@@ -30,10 +30,10 @@ bool ReadHeader(tjhandle decoder, JpegFile& file)
            0;
 }
 
-/// Rows of blue, green, red triples are padded to 4 bytes.
+/// Of blue, green, red triples.
 int RowBytes(const JpegFile& file)
 {
-    return (file.width * 3 + 3) & ~3;
+    return file.width * 3;
 }
 
 std::unique_ptr<uint8_t[]> AllocateRows(const JpegFile& file)

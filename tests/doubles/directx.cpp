@@ -121,7 +121,8 @@ struct SoundBuffer : Counted<IDirectSoundBuffer> {
     HRESULT SetCurrentPosition(DWORD position) override { return directX.Step("SetCurrentPosition", { position }); }
     HRESULT SetFormat(const WAVEFORMATEX* format) override
     {
-        return directX.Step("SetFormat", { format->nSamplesPerSec });
+        return directX.Step("SetFormat", { format->wFormatTag, format->nChannels, format->nSamplesPerSec,
+                                           format->nAvgBytesPerSec, format->nBlockAlign, format->wBitsPerSample });
     }
     HRESULT Stop() override { return directX.Step("Stop", { number }); }
     HRESULT Unlock(LPVOID, DWORD, LPVOID, DWORD) override { return directX.Step("UnlockSound"); }

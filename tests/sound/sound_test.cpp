@@ -50,6 +50,7 @@ TEST_F(SoundTest, FallsBackToAPlainDeviceWhenAStepFails)
 {
     const std::string created = "DirectSoundCreate";
     const std::string full = created + ", SetSoundLevel 2, CreateSoundBuffer 1 0";
+    const std::string format = ", SetFormat 1 2 22050 88200 4 16";
     const std::string plain = ", DirectSoundCreate, SetSoundLevel 1";
     const struct {
         const char* failing;
@@ -57,12 +58,12 @@ TEST_F(SoundTest, FallsBackToAPlainDeviceWhenAStepFails)
         bool works;
         std::string calls;
     } cases[] = {
-        { "none", 0, true, full + ", SetFormat 22050" },
+        { "none", 0, true, full + format },
         { "DirectSoundCreate", 1, true, created + plain },
         { "DirectSoundCreate", 2, false, created + ", " + created },
         { "SetSoundLevel", 2, true, created + ", SetSoundLevel 2" + plain },
         { "CreateSoundBuffer", 1, true, full + plain },
-        { "SetFormat", 1, true, full + ", SetFormat 22050" + plain },
+        { "SetFormat", 1, true, full + format + plain },
     };
     for (const auto& row : cases) {
         directX.Fail(row.failing, row.times);
