@@ -120,8 +120,13 @@ int Bot::WantedDirection(int player)
 
 void Bot::Survey(int player)
 {
-    for (int i = 0; i < CELL_COUNT; ++i)
-        freeFrom[static_cast<size_t>(i)] = pond.cells[i].IsStone() ? UNREACHED : 0;
+    berries.fill(0);
+    for (int i = 0; i < CELL_COUNT; ++i) {
+        const Cell& cell = pond.cells[i];
+        freeFrom[static_cast<size_t>(i)] = cell.IsStone() ? UNREACHED : 0;
+        if (HasBerry(cell))
+            ++berries[static_cast<size_t>(cell.colour)];
+    }
     MarkBody(pond.snake[player], OWN_MARGIN);
     if (pond.players == 0)
         return;

@@ -53,8 +53,9 @@ private:
 
     const CPond& pond;
     BotStyle style;
-    int roomNeeded = 0;     ///< free cells that a way must lead to
-    CellNumbers freeFrom{}; ///< cells walked after which a cell is free; UNREACHED = never
+    int roomNeeded = 0;                    ///< free cells that a way must lead to
+    std::array<int, GOLDEN + 1> berries{}; ///< of each colour
+    CellNumbers freeFrom{};                ///< cells walked after which a cell is free; UNREACHED = never
     CellNumbers distance{};
     CellNumbers cameFrom{};
 };

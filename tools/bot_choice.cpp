@@ -1,7 +1,7 @@
 #include "actors/snake.h"
 #include "bot.h"
 
-#include <algorithm>
+#include <numeric>
 
 // Which berry the bot goes for.
 
@@ -105,7 +105,7 @@ int Bot::SparedColour(const CSnake& snake) const
 
 bool Bot::HasFewBerries() const
 {
-    return std::count_if(std::begin(pond.cells), std::end(pond.cells), HasBerry) < FEW_BERRIES;
+    return std::accumulate(berries.begin(), berries.end(), 0) < FEW_BERRIES;
 }
 
 /// What a berry of that colour costs now beside the way to it, in cells walked.
@@ -124,7 +124,5 @@ int Bot::BerryCost(const CSnake& snake, int colour) const
 /// How many berries of a colour there are for a streak, those eaten for it included.
 int Bot::Supply(const CSnake& snake, int colour) const
 {
-    const auto isOfColour = [colour](const Cell& cell) { return HasBerry(cell) && cell.colour == colour; };
-    const auto lying = static_cast<int>(std::count_if(std::begin(pond.cells), std::end(pond.cells), isOfColour));
-    return lying + (snake.lastColour == colour ? snake.streak : 0);
+    return berries[static_cast<size_t>(colour)] + (snake.lastColour == colour ? snake.streak : 0);
 }
