@@ -49,14 +49,18 @@ void RemoveFiles()
         std::remove((folder + name).c_str());
 }
 
-const bool isReady = std::atexit(RemoveFiles) == 0 && setenv("XDG_CONFIG_HOME", folder.c_str(), 1) == 0;
+bool UseOwnFolder()
+{
+    return std::atexit(RemoveFiles) == 0 && setenv("XDG_CONFIG_HOME", folder.c_str(), 1) == 0 &&
+           RegCloseKey(Open()) == static_cast<LONG>(ERROR_SUCCESS);
+}
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
+    static const bool isReady = UseOwnFolder();
     Require(isReady);
     std::remove((path + ".damaged").c_str());
-    RegCloseKey(Open()); // makes the folders
     FILE* file = std::fopen(path.c_str(), "wb");
     Require(file != nullptr && std::fwrite(data, 1, size, file) == size && std::fclose(file) == 0);
     HKEY key = Open();

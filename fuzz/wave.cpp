@@ -7,6 +7,7 @@
 // The output without a device: what the voices make is asked for below.
 namespace
 {
+constexpr size_t FRAMES = 150; ///< more than a fade takes
 Mixer* mixer = nullptr;
 }
 
@@ -29,13 +30,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     file.Write(data, size);
     if (!SoundLoad(SOUND_EAT, file.Path()))
         return 0;
-    int16_t samples[2 * 512];
+    int16_t samples[2 * FRAMES];
     for (const bool loop : { false, true }) {
         SoundPlay(SOUND_EAT, loop);
         for (int part = 0; part < 4; ++part)
-            mixer->Mix(samples, 512, part != 2);
+            mixer->Mix(samples, FRAMES, part != 2);
     }
     SoundStop(SOUND_EAT);
-    mixer->Mix(samples, 512, true);
+    mixer->Mix(samples, FRAMES, true);
     return 0;
 }
