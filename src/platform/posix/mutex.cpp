@@ -3,7 +3,6 @@
 #include "platform/posix/safe_file.h"
 #include "platform/posix/user_folders.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -58,10 +57,8 @@ void CloseInChild()
 
 /// Best first. Beside the settings, so that whatever session a copy runs in, no other overwrites what it stores; else
 /// in a place that all sessions of a user share; last in the session's own.
-std::vector<std::string> LockPaths(std::string name)
+std::vector<std::string> LockPaths(const std::string& name)
 {
-    std::replace(name.begin(), name.end(), '/', '_');
-    std::replace(name.begin(), name.end(), '\\', '_');
     std::vector<std::string> paths;
     if (const std::string folder = SettingsFolder(name); !folder.empty()) {
         MakeFolders(folder);

@@ -90,8 +90,9 @@ TEST_F(PadsTest, SteerTheirPlayersAndPauseWhenTheyGo)
     PresentFrame();
     EXPECT_EQ(RunFrames(), "") << "without the focus nothing is told";
     EXPECT_EQ(PlayFrame(), "+<32> | -<32>") << "until the game stands";
-    TellClickable({ 10, 20, 30, 40 });
+    TellSteering({ 'I', 'K', 'J', 'L' }, false);
     PresentFrame();
+    EXPECT_EQ(Tilt(pads[1], 0, -32767), "+I | -I") << "a player alone may take either pad";
     EXPECT_EQ(PlayFrame(), "") << "and not again when it goes on";
     EXPECT_EQ(Tilt(pads[2], 0, -32767), "+<38> | -<38>") << "what waited takes the free place";
 }
@@ -104,8 +105,9 @@ TEST_F(PadsTest, GoFromButtonToButtonOfTheMainMenuAndClick)
         { 460, 267, 554, 303 }, { 173, 379, 233, 415 }, { 407, 379, 467, 415 },
     };
     const std::pair<Way, int> steps[] = {
-        { Way::DOWN, RANKING }, { Way::RIGHT, OPTIONS }, { Way::UP, TWO },  { Way::DOWN, OPTIONS }, { Way::DOWN, QUIT },
-        { Way::LEFT, HELP },    { Way::DOWN, HOME },     { Way::UP, HELP }, { Way::UP, RANKING },   { Way::UP, ONE },
+        { Way::DOWN, RANKING }, { Way::RIGHT, OPTIONS }, { Way::UP, TWO },    { Way::DOWN, OPTIONS },
+        { Way::DOWN, QUIT },    { Way::LEFT, HELP },     { Way::DOWN, HOME }, { Way::UP, HELP },
+        { Way::UP, RANKING },   { Way::UP, ONE },        { Way::RIGHT, TWO },
     };
     SDL_Joystick* const pad = Plug();
     for (const RECT& box : boxes)
@@ -124,6 +126,7 @@ TEST_F(PadsTest, GoFromButtonToButtonOfTheMainMenuAndClick)
         SDL_GetMouseState(&shown.x, &shown.y);
         ASSERT_EQ(BoxAt(boxes, shown), &boxes[expected]);
     }
-    EXPECT_EQ(Press(pad, SDL_CONTROLLER_BUTTON_A), "L+202,176 | L-202,176");
+    EXPECT_EQ(Press(pad, SDL_CONTROLLER_BUTTON_A), "L+436,176 | L-436,176");
+    EXPECT_EQ(Tilt(pad, 32767, 0), "") << "nothing there either";
 }
 }

@@ -114,6 +114,9 @@ TEST_P(EachWayWindowTest, ScalesFrameAndMouseToTheScreenAndIsGivenBack)
     ASSERT_TRUE(DisplaySetMode(window, 640, 480, true));
     EXPECT_EQ(Given("to512,384"), "to512,384") << "the window has its size again";
     EXPECT_TRUE(GetWindowLongA(window, GWL_STYLE) & WS_VISIBLE);
+    SDL_Point place = {};
+    SDL_GetWindowPosition(nativeWindow.handle, &place.x, &place.y);
+    EXPECT_TRUE(place.x == 192 && place.y == 155) << "its frame is in the middle of the screen";
     SDL_SetWindowSize(nativeWindow.handle, 700, 480);
     DisplayPresent(halves);
     EXPECT_EQ(ScreenPixel(29, 0), 0x000000u);
@@ -168,6 +171,10 @@ TEST_F(WindowTest, UndoesWhatTheBorderDoesUnlessTheWindowManagerInsists)
     for (int attempts = 0; attempts < 10 && width == 640; ++attempts)
         userResizes(900);
     EXPECT_EQ(width, 900) << "no endless quarrel";
+    SetClientSize(nativeWindow, { 640, 480 });
+    EXPECT_EQ(userResizes(900), 640) << "a new size, a new start";
+    for (int attempts = 0; attempts < 10 && width == 640; ++attempts)
+        userResizes(900);
     EXPECT_EQ(Given("to450,250"), "to320,240") << "the frame is scaled to that size";
     SDL_SetWindowSize(nativeWindow.handle, 1920, 1440);
     EXPECT_EQ(Given("to1919,1439"), "to639,479") << "the last pixels of a whole factor";
