@@ -12,18 +12,36 @@ cd "$(dirname "$0")"
 # shellcheck disable=SC2086
 install_packages $WEB_PACKAGES
 tools/fetch_sources.sh libjpeg-turbo highway libsdl2 freetype
-export NODE_PATH=/usr/share/nodejs # for a node that is not Debian's own
-cmake --preset wasm >/dev/null
-cmake --build --preset wasm
-say "The home page with the game: build/web"
+
+# build TERVALIS_TESTS
+build() {
+    # For a node that is not Debian's own.
+    export NODE_PATH=/usr/share/nodejs
+    cmake --preset wasm "-DTERVALIS_TESTS=$1" >/dev/null
+    cmake --build --preset wasm
+    say "The home page with the game: build/web"
+}
+
+# What the page must show, by the desktop's program with the page's font.
+make_desktop_pictures() {
+    cmake --preset release >/dev/null
+    cmake --build --preset release --target tour
+    FONTCONFIG_FILE=$PWD/tests/web/fonts.conf build/release/tour tests/web/game.txt build/wasm/desktop
+}
 
 case ${1:-} in
 serve)
+    build OFF
     python3 -m http.server --bind 127.0.0.1 --directory build/web 8000
     ;;
 test)
     # shellcheck disable=SC2086
-    install_packages $WEB_TEST_PACKAGES
+    install_packages $BUILD_PACKAGES $WEB_TEST_PACKAGES
+    build ON
+    make_desktop_pictures
     xvfb-run -a -s "-screen 0 1280x1024x24" /usr/bin/python3 tests/web/play.py build/web build/wasm
+    ;;
+*)
+    build OFF
     ;;
 esac

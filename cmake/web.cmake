@@ -11,11 +11,12 @@ set(SDL_INCLUDE ${CMAKE_CURRENT_BINARY_DIR}/libsdl2/include)
 file(COPY ${SDL_DIR}/include/ DESTINATION ${SDL_INCLUDE} PATTERN SDL_config_emscripten.h EXCLUDE)
 file(READ ${SDL_DIR}/include/SDL_config_emscripten.h CONFIG)
 string(REGEX REPLACE "#define SDL_VIDEO_(OPENGL|RENDER)[^\n]*" "" CONFIG "${CONFIG}")
-file(CONFIGURE OUTPUT ${SDL_INCLUDE}/SDL_config_emscripten.h CONTENT "${CONFIG}\n#define SDL_RENDER_DISABLED 1\n" @ONLY)
+string(APPEND CONFIG "\n#define SDL_RENDER_DISABLED 1\n#define SDL_VIDEO_DRIVER_DUMMY 1\n") # the latter for tests
+file(CONFIGURE OUTPUT ${SDL_INCLUDE}/SDL_config_emscripten.h CONTENT "${CONFIG}" @ONLY)
 set(SDL_FOLDERS . atomic audio audio/disk audio/dummy audio/emscripten cpuinfo events file filesystem/emscripten haptic haptic/dummy
     joystick joystick/emscripten joystick/virtual libm loadso/dlopen locale locale/emscripten misc misc/emscripten power
-    power/emscripten render sensor sensor/dummy stdlib thread thread/generic timer timer/unix video video/emscripten
-    video/yuv2rgb)
+    power/emscripten render sensor sensor/dummy stdlib thread thread/generic timer timer/unix video video/dummy
+    video/emscripten video/yuv2rgb)
 list(TRANSFORM SDL_FOLDERS REPLACE "(.+)" "${SDL_DIR}/src/\\1/*.c")
 file(GLOB SDL_SOURCES ${SDL_FOLDERS})
 add_library(sdl2 STATIC ${SDL_SOURCES})

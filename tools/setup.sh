@@ -1,4 +1,4 @@
-# Sourced by play.sh, test.sh, windows.sh, arm64.sh and .ci/run: installs Debian packages that are missing.
+# Sourced by play.sh, test.sh, windows.sh, arm64.sh, web.sh and .ci/run: installs Debian packages that are missing.
 
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config libsdl2-dev libfreetype-dev libfontconfig-dev libturbojpeg0-dev
     libtomlplusplus-dev libpng-dev libhwy-dev fonts-dejavu-core"
@@ -8,9 +8,10 @@ BENCH_PACKAGES="libbenchmark-dev libpixman-1-dev libyuv-dev python3"
 WINDOWS_PACKAGES="g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build nasm dpkg-dev googletest
     nsis zip"
 WINE_PACKAGES="wine wine64 xvfb xauth xdotool imagemagick openbox x11-utils wmctrl"
-WEB_PACKAGES="g++ cmake ninja-build dpkg-dev emscripten libtomlplusplus-dev googletest fonttools fonts-dejavu-core
-    vorbis-tools python3"
-WEB_TEST_PACKAGES="chromium-driver xvfb xauth python3 python3-selenium"
+WEB_PACKAGES="g++ cmake ninja-build dpkg-dev emscripten libtomlplusplus-dev fonttools fonts-dejavu-core vorbis-tools
+    python3"
+WEB_TEST_PACKAGES="googletest libgtest-dev chromium-driver xvfb xauth python3 python3-numpy python3-pil
+    python3-selenium"
 ARM64_PACKAGES="g++ cmake ninja-build pkg-config qemu-user mmdebstrap"
 DEBIAN_PACKAGES="git build-essential dpkg-dev debhelper"
 CHECK_PACKAGES="clang clang-format clang-tidy desktop-file-utils appstream man-db groff-base lintian reuse

@@ -1,18 +1,23 @@
 #!/usr/bin/env python3
 """Plays the home page's game in Chromium as a player does.
 
-    play.py SITE SHOTS      the folder to serve, and that for screenshots
+    play.py SITE BUILD      the folder to serve, and that of the build: tests/unit_tests.js, desktop/*.png (what tools/tour
+                            makes of game.txt) and the place for screenshots
 """
 
+import base64
 import functools
 import gzip
 import http.server
+import io
 import json
 import os
 import sys
 import threading
 import time
 
+import numpy
+from PIL import Image
 from selenium import webdriver
 from selenium.webdriver.chrome.service import Service
 from selenium.webdriver.common.action_chains import ActionChains
@@ -22,6 +27,7 @@ from selenium.webdriver.support.wait import WebDriverWait
 PATIENCE = 120  # seconds until what must happen has not happened, on a machine that is busy with other things
 LARGEST_LOAD = 4_000_000  # bytes on the wire
 LINE_BYTES = 20_000_000 // 8  # a second
+HERE = os.path.dirname(__file__)
 DAMAGED = {"Image.xpf": "Can not load file", "tervalis.wasm": "cannot be started", "files.json": "cannot be started"}
 
 
@@ -129,16 +135,6 @@ def step(text):
     print(time.strftime("%T"), text, flush=True)
 
 
-def load_over_slow_line(player):
-    step("The first load over a line of 20 Mbit/s")
-    player.browser.set_network_conditions(latency=20, download_throughput=LINE_BYTES, upload_throughput=LINE_BYTES)
-    player.open()
-    begin = time.monotonic()
-    player.start()
-    print(f"    the menu after {time.monotonic() - begin:.1f} s, {Handler.wire_bytes} bytes on the wire")
-    assert Handler.wire_bytes <= LARGEST_LOAD
-
-
 def play_a_game(player):
     step("A game by keys, with pauses")
     player.click(202, 176)
@@ -157,6 +153,45 @@ def play_a_game(player):
     player.browser.execute_cdp_cmd("Target.closeTarget", other)
     player.browser.execute_cdp_cmd("Page.bringToFront", {})
     player.await_play()
+
+
+def read_script():
+    with open(os.path.join(HERE, "game.txt")) as file:
+        rows = [line.split() for line in file if not line.startswith("#")]
+    return [[int(frame), *rest] for frame, *rest in rows]
+
+
+def colours(picture, step=1):
+    """Of every so manieth pixel, in the game's 5, 6 and 5 bits."""
+    return numpy.asarray(Image.open(picture).convert("RGB"))[::step, ::step] >> (3, 2, 3)
+
+
+def load_over_slow_line(player, script):
+    step("The first load over a line of 20 Mbit/s")
+    with open(os.path.join(HERE, "frame_probe.js")) as file:
+        probe = f"{{const script = {json.dumps(script)};\n{file.read()}}}"
+    added = player.browser.execute_cdp_cmd("Page.addScriptToEvaluateOnNewDocument", {"source": probe})
+    player.browser.set_network_conditions(latency=20, download_throughput=LINE_BYTES, upload_throughput=LINE_BYTES)
+    player.open()
+    player.browser.execute_cdp_cmd("Page.removeScriptToEvaluateOnNewDocument", added)
+    begin = time.monotonic()
+    player.start()
+    print(f"    the menu after {time.monotonic() - begin:.1f} s, {Handler.wire_bytes} bytes on the wire")
+    assert Handler.wire_bytes <= LARGEST_LOAD
+
+
+def compare_with_desktop(player, script, desktop):
+    step("A game from its first frame to its place in the ranking, equal to the desktop's in every pixel")
+    names = [row[2] for row in script if row[1] == "shot"]
+    player.await_page(f"Object.keys(shots).length === {len(names)}")
+    factor = player.ask("canvas.width") // 640
+    for name in names:
+        shot = base64.b64decode(player.ask(f"shots['{name}']").split(",")[1])
+        expected = colours(os.path.join(desktop, name + ".png"))
+        assert (colours(io.BytesIO(shot), factor) == expected).all(), name
+    player.await_line("CSectionMain::SectionEnd")
+    player.press("Ann", Keys.ENTER, Keys.ENTER)
+    player.await_rest()
 
 
 def change_options(player):
@@ -178,13 +213,13 @@ def cover_screen(player):
 
 def reload(player):
     step("A reload")
-    key_is_stored = "localStorage['Tervalis/settings.toml']?.includes('\"Up 1\" = 73')"
+    is_kept = """['"Up 1" = 73', '"Name 1" = "Ann"'].every((line) => localStorage['Tervalis/settings.toml'].includes(line))"""
     player.open()
-    assert player.ask(key_is_stored)
+    assert player.ask(is_kept)
     player.start()
     player.click(437, 397)
     player.await_page("!document.body.className && document.getElementById('play').offsetParent !== null")
-    assert player.ask(key_is_stored), "what was read is stored again"
+    assert player.ask(is_kept), "what was read is stored again"
 
 
 def fail_to_start(player):
@@ -210,22 +245,40 @@ def check_requests(player):
     assert all(url.startswith((player.url, "blob:", "data:")) for url in urls), urls
 
 
-def main(site, shots):
+def replay_recordings(browser, url):
+    step("The recorded games")
+    browser.set_script_timeout(5 * PATIENCE)
+    browser.get(url + "unit_tests.js")
+    code, lines = browser.execute_async_script("""
+        const lines = [];
+        const say = (line) => lines.push(line);
+        const script = document.createElement('script');
+        script.src = 'unit_tests.js';
+        script.onload = () => UnitTests({ page: { showFrame() {}, enterFullScreen() {}, leaveFullScreen() {}, stepBack() {} },
+            print: say, printErr() {}, onExit: (code) => arguments[0]([code, lines]), onAbort: say });
+        document.head.append(script);""")
+    assert code == 0 and any(line.startswith("[  PASSED  ]") for line in lines), "\n".join(lines)
+
+
+def main(site, build):
     browser = start_browser()
     player = Player(browser, serve(site))
     try:
-        load_over_slow_line(player)
-        browser.save_screenshot(os.path.join(shots, "menu.png"))
+        script = read_script()
+        load_over_slow_line(player, script)
+        browser.save_screenshot(os.path.join(build, "menu.png"))
+        compare_with_desktop(player, script, os.path.join(build, "desktop"))
         play_a_game(player)
-        browser.save_screenshot(os.path.join(shots, "game.png"))
+        browser.save_screenshot(os.path.join(build, "game.png"))
         change_options(player)
         cover_screen(player)
         reload(player)
         check_console(player)
         fail_to_start(player)
         check_requests(player)
+        replay_recordings(browser, serve(os.path.join(build, "tests")))
     except BaseException:
-        browser.save_screenshot(os.path.join(shots, "failure.png"))
+        browser.save_screenshot(os.path.join(build, "failure.png"))
         print("\n".join(entry["message"] for entry in player.console[-20:]), file=sys.stderr)
         raise
     finally:
