@@ -162,7 +162,7 @@ def read_script():
 
 
 def colours(picture, step=1):
-    """Of every so manieth pixel, in the game's 5, 6 and 5 bits."""
+    """Of each pixel, or of one in STEP by STEP, in the game's 5, 6 and 5 bits."""
     return numpy.asarray(Image.open(picture).convert("RGB"))[::step, ::step] >> (3, 2, 3)
 
 
