@@ -27,9 +27,13 @@ std::vector<Stored> ReadValues(HKEY key)
         Stored& value = values.emplace_back();
         BYTE bytes[256];
         DWORD size = sizeof bytes;
+        DWORD wholeSize = 0;
         value.result = RegQueryValueExA(key, name, nullptr, &value.type, bytes, &size);
-        if (value.result == static_cast<LONG>(ERROR_SUCCESS))
-            value.bytes.assign(bytes, bytes + size);
+        if (value.result != static_cast<LONG>(ERROR_SUCCESS))
+            continue;
+        value.bytes.assign(bytes, bytes + size);
+        RegQueryValueExA(key, name, nullptr, nullptr, nullptr, &wholeSize);
+        Require(wholeSize == size);
     }
     return values;
 }
@@ -65,14 +69,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     Require(file != nullptr && std::fwrite(data, 1, size, file) == size && std::fclose(file) == 0);
     HKEY key = Open();
     const std::vector<Stored> before = ReadValues(key);
-    RegSetValueExA(key, "No Sound", 0, REG_SZ, data, static_cast<DWORD>(size < 64 ? size : 64));
+    const DWORD stored = static_cast<DWORD>(size < 64 ? size : 64);
+    RegSetValueExA(key, "No Sound", 0, stored <= sizeof(DWORD) ? REG_DWORD : REG_SZ, data, stored);
     Require(RegCloseKey(key) == static_cast<LONG>(ERROR_SUCCESS));
     key = Open();
     Require(ReadValues(key) == before);
     BYTE bytes[64];
     DWORD kept = sizeof bytes;
     Require(RegQueryValueExA(key, "No Sound", nullptr, nullptr, bytes, &kept) == static_cast<LONG>(ERROR_SUCCESS));
-    Require(std::equal(bytes, bytes + kept, data) && kept == (size < 64 ? size : 64));
+    Require(std::equal(bytes, bytes + kept, data) && kept == stored);
     RegCloseKey(key);
     return 0;
 }

@@ -13,19 +13,25 @@ struct Font {
     {
         Require(handle != nullptr && text.TextImageCreate(handle, TEXT_GREY_LEVELS, slots));
     }
-    HFONT handle;
+    /// There is no font: nothing is drawn.
+    Font()
+    {
+        Require(!text.TextImageCreate(nullptr, TEXT_GREY_LEVELS, 1) &&
+                !text.TextImageCreate(handle, TEXT_GREY_LEVELS, 0));
+    }
+    HFONT handle = nullptr;
     CTextImage text;
 };
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    static Font fonts[] = { { 18, 7, 16 }, { 15, 6, TEXT_GLYPH_SLOTS }, { 40, 0, 3 } };
+    static Font fonts[] = { { 18, 7, 16 }, { 15, 6, TEXT_GLYPH_SLOTS }, { 40, 0, 3 }, {} };
     static CImage target;
     if (target.width == 0)
         Require(target.Create(160, 50));
     Numbers input(data, size);
-    CTextImage& text = fonts[input.Take8() % 3].text;
+    CTextImage& text = fonts[input.Take8() % 4].text;
     const int x = static_cast<int16_t>(input.Take16());
     const int y = static_cast<int16_t>(input.Take16());
     const uint16_t colour = static_cast<uint16_t>(input.Take16());

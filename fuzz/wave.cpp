@@ -24,6 +24,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     static const InputFile file;
     static const bool isReady = [] {
         SoundInit(nullptr);
+        for (const char* name : { "none", "/" })
+            Require(!SoundLoad(SOUND_EAT, name));
         return mixer != nullptr && std::atexit(SoundRelease) == 0;
     }();
     Require(isReady);
@@ -36,6 +38,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         for (int part = 0; part < 4; ++part)
             mixer->Mix(samples, FRAMES, part != 2);
     }
+    SoundStop(SOUND_EAT);
+    SoundPlay(SOUND_EAT, false);
     SoundStop(SOUND_EAT);
     mixer->Mix(samples, FRAMES, true);
     return 0;

@@ -66,7 +66,7 @@ HMMIO mmioOpenA(LPSTR path, MMIOINFO* info, DWORD flags);
 MMRESULT mmioClose(HMMIO file, UINT flags);
 /// Bytes read, fewer at the file's end, -1 on failure.
 LONG mmioRead(HMMIO file, char* buffer, LONG size);
-/// The new position, -1 on failure. `origin` as for fseek.
+/// The new position, -1 on failure. `origin` is SEEK_SET.
 LONG mmioSeek(HMMIO file, LONG offset, int origin);
 /// Enters the next chunk, or with MMIO_FINDCHUNK the next one of `chunk->ckid` inside `parent`.
 MMRESULT mmioDescend(HMMIO file, MMCKINFO* chunk, const MMCKINFO* parent, UINT flags);

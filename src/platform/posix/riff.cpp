@@ -144,21 +144,15 @@ LONG mmioRead(HMMIO file, char* target, LONG size)
 
 LONG mmioSeek(HMMIO file, LONG offset, int origin)
 {
-    int64_t position = offset;
-    if (origin == SEEK_CUR)
-        position += file->Position();
-    else if (origin == SEEK_END)
-        position += lseek(file->descriptor, 0, SEEK_END);
-    if (position < 0 || position > LAST_POSITION)
+    if (origin != SEEK_SET || offset < 0)
         return -1;
-
     MMIOINFO& info = file->info;
-    const int64_t inBuffer = position - info.lBufOffset;
+    const LONG inBuffer = offset - info.lBufOffset;
     if (inBuffer >= 0 && inBuffer <= info.pchEndRead - info.pchBuffer)
         info.pchNext = info.pchBuffer + inBuffer;
     else
-        file->DropBuffer(position);
-    return static_cast<LONG>(position);
+        file->DropBuffer(offset);
+    return offset;
 }
 
 MMRESULT mmioDescend(HMMIO file, MMCKINFO* chunk, const MMCKINFO* parent, UINT flags)
