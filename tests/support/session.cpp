@@ -129,8 +129,8 @@ bool Session::IsRunning() const
 
 void Session::Send(unsigned message, uintptr_t wParam, intptr_t lParam)
 {
-    if (IsRunning())
-        game.WndProc(gameWindow, message, wParam, lParam);
+    if (IsRunning() && game.WndProc(gameWindow, message, wParam, lParam) != 0)
+        throw std::logic_error("a message that is handled is answered by 0");
 }
 
 /// key CODE, type TEXT (one character), move|press|release|click X Y, set FIELD NUMBER, or a row of `messages`.

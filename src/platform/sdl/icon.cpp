@@ -40,20 +40,17 @@ Record ReadAt(const unsigned char* bytes)
 }
 }
 
-/// The widest of the plain bitmaps; larger sizes are compressed. It lies in the program's own memory.
+/// The widest of the plain bitmaps, which grow in the file; larger sizes are compressed. It lies in the program's own
+/// memory.
 HICON LoadIconA(HINSTANCE, LPCSTR name)
 {
     if (name != MAKEINTRESOURCEA(RESOURCE_ID))
         return nullptr;
     const unsigned char* widest = nullptr;
-    LONG width = 0;
     for (size_t i = 0; i < ReadAt<FileHeader>(FILE_BYTES).count; ++i) {
         const auto entry = ReadAt<FileEntry>(FILE_BYTES + sizeof(FileHeader) + i * sizeof(FileEntry));
-        const auto bitmap = ReadAt<BITMAPINFOHEADER>(FILE_BYTES + entry.offset);
-        if (bitmap.biSize != sizeof bitmap || bitmap.biWidth <= width)
-            continue;
-        widest = FILE_BYTES + entry.offset;
-        width = bitmap.biWidth;
+        if (ReadAt<BITMAPINFOHEADER>(FILE_BYTES + entry.offset).biSize == sizeof(BITMAPINFOHEADER))
+            widest = FILE_BYTES + entry.offset;
     }
     return reinterpret_cast<HICON>(const_cast<unsigned char*>(widest));
 }
