@@ -11,7 +11,7 @@ PANEL=160x90+240+195 # where the paused and the confirmation panel show
 # shellcheck disable=SC2046 # lists of numbers
 cleanup() {
     ! is_wine || timeout 20 wineserver -k
-    kill $(jobs -rp) 2>/dev/null
+    kill $(jobs -rp) $(pgrep -f "$folder/bin/xdg-open") 2>/dev/null # a browser that nobody listens to
     wait
     rm -rf "$folder"
 }
