@@ -1,8 +1,8 @@
 #include "platform/posix/remembered_factor.h"
+#include "platform/sdl/native_window.h"
 #include "platform/sdl/window_factor.h"
+#include "platform/sdl/window_fixture.h"
 #include "support/settings_store.h"
-
-#include <gtest/gtest.h>
 
 namespace
 {
@@ -44,6 +44,38 @@ TEST(WindowFactor, IsRememberedUnlessTheFileHoldsNone)
         folder.Write("config/Test/window.toml", content);
         EXPECT_EQ(RememberedFactor("Test"), 0) << content;
     }
+    UseNoSettings();
+}
+
+using ZoomTest = WindowFixture;
+
+TEST_F(ZoomTest, GoesInStepsAroundTheMiddleAndIsRemembered)
+{
+    const struct {
+        std::string key;
+        int factor;
+        int remembered;
+    } presses[] = {
+        { "=:Ctrl", 2, 2 }, { "=:Ctrl", 3, 3 }, { "=:Ctrl", 3, 3 }, { "-:Ctrl", 2, 2 },
+        { "-:Ctrl", 1, 1 }, { "-:Ctrl", 1, 1 }, { "0:Ctrl", 2, 0 },
+    };
+    const TempFolder folder;
+    UseFreshSettings(folder);
+    SetClientSize(nativeWindow, { 320, 240 });
+    SDL_SetWindowPosition(nativeWindow.handle, 352, 264);
+    for (const auto& press : presses) {
+        Push("+" + press.key);
+        Push("-" + press.key);
+        RunFrames();
+        SDL_Rect area = {};
+        SDL_GetWindowPosition(nativeWindow.handle, &area.x, &area.y);
+        SDL_GetWindowSize(nativeWindow.handle, &area.w, &area.h);
+        EXPECT_TRUE(area.w == 320 * press.factor && area.h == 240 * press.factor) << area.w << ", " << area.h;
+        EXPECT_TRUE(area.x + area.w / 2 == 512 && area.y >= TITLE_HEIGHT) << area.x << ", " << area.y;
+        EXPECT_EQ(RememberedFactor("Test"), press.remembered);
+    }
+    Push("to639,479");
+    EXPECT_EQ(RunFrames(), "to319,239");
     UseNoSettings();
 }
 }
