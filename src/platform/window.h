@@ -27,10 +27,8 @@ constexpr UINT WM_LBUTTONUP = 0x0202;
 constexpr UINT WM_RBUTTONDOWN = 0x0204;
 constexpr UINT WM_RBUTTONUP = 0x0205;
 
-constexpr WPARAM SC_MINIMIZE = 0xF020;
 constexpr WPARAM SC_MAXIMIZE = 0xF030;
 constexpr WPARAM SC_CLOSE = 0xF060;
-constexpr WPARAM SC_RESTORE = 0xF120;
 constexpr WPARAM HTCAPTION = 2;
 
 // Virtual-key codes. Letters and digits are their capital ASCII characters.
@@ -142,6 +140,7 @@ HWND CreateWindowExA(DWORD extendedStyle, LPCSTR className, LPCSTR title, DWORD 
                      int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter);
 /// Sends WM_DESTROY, then closes the window.
 BOOL DestroyWindow(HWND window);
+/// SW_MINIMIZE alone. False for any other.
 BOOL ShowWindow(HWND window, int command);
 BOOL SetWindowPos(HWND window, HWND insertAfter, int x, int y, int width, int height, UINT flags);
 LONG GetWindowLongA(HWND window, int index);

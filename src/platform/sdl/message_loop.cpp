@@ -13,22 +13,8 @@ constexpr LPARAM ALT_HELD = 1 << 29;
 
 LRESULT SystemCommand(HWND window, WPARAM command)
 {
-    NativeWindow* native = WindowOf(window);
-    if (!native)
-        return 0;
-    switch (command & 0xFFF0) { // the low four bits are the system's own
-    case SC_CLOSE:
-        return native->procedure(window, WM_CLOSE, 0, 0);
-    case SC_MINIMIZE:
-        SDL_MinimizeWindow(native->handle);
-        break;
-    case SC_RESTORE:
-        SDL_RestoreWindow(native->handle);
-        break;
-    default:
-        break;
-    }
-    return 0;
+    const NativeWindow* native = WindowOf(window);
+    return native && command == SC_CLOSE ? native->procedure(window, WM_CLOSE, 0, 0) : 0;
 }
 
 /// The message that is next, which stays in the queue. False when there is none.

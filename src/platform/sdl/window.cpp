@@ -152,19 +152,12 @@ BOOL DestroyWindow(HWND handle)
 
 BOOL ShowWindow(HWND handle, int command)
 {
-    NativeWindow* window = WindowOf(handle);
-    if (!window)
+    const NativeWindow* window = WindowOf(handle);
+    if (!window || command != SW_MINIMIZE)
         return FALSE;
-    const bool wasVisible = window->style & WS_VISIBLE;
-    if (command == SW_MINIMIZE) {
-        AwaitReleasedMouse();
-        SDL_MinimizeWindow(window->handle);
-        return wasVisible;
-    }
-    if (!wasVisible)
-        ShowFirstTime(*window);
-    SDL_RestoreWindow(window->handle);
-    return wasVisible;
+    AwaitReleasedMouse();
+    SDL_MinimizeWindow(window->handle);
+    return TRUE;
 }
 
 /// The order among other windows is left to the window manager: full screen comes to the front by itself.
