@@ -4,6 +4,7 @@
 #include "app/game_window.h"
 #include "app/scenes.h"
 #include "app/section.h"
+#include "doubles/system.h"
 #include "game/section_main.h"
 #include "gfx/display.h"
 #include "gfx/error.h"
@@ -47,7 +48,7 @@ struct GameTest : ProgramFixture {
     /// The scene's notes after a tick.
     std::string TickAfter(uint32_t ms)
     {
-        systemDouble.now += ms;
+        clockMs += ms;
         game.FrameTick();
         return scene.notes;
     }
@@ -82,13 +83,10 @@ void LackEachPlaneOf(Owner& owner)
 
 TEST_F(GameTest, RunsOneFrameEvery40MsAndNeverMakesUpLateOnes)
 {
-    captureScreen = true;
     isWindowed = false; // what is shown there, the double tells
     ASSERT_TRUE(DisplaySetMode(displayWindow, 640, 480, isWindowed));
     EXPECT_EQ(TickAfter(0), "bf") << "the first tick runs at once";
     EXPECT_EQ(directX.screen.at(640 * 480 - 1), ProbeScene::FRAME_COLOUR);
-    EXPECT_EQ(screenCopy.Row(479)[639], ProbeScene::FRAME_COLOUR);
-    EXPECT_FALSE(captureScreen);
     EXPECT_EQ(TickAfter(39), "bf") << "39 ms are too early";
     EXPECT_EQ(TickAfter(1), "bff") << "40 ms are due";
     EXPECT_EQ(TickAfter(100), "bfff") << "a late tick runs one frame";

@@ -8,10 +8,7 @@
 namespace
 {
 struct SettingsTest : testing::Test {
-    SettingsTest() { UseFreshSettings(folder); }
-    ~SettingsTest() override { UseNoSettings(); }
-
-    TempFolder folder;
+    const SettingsFolder folder;
     CSectionMenu menu;
 };
 }

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <iterator>
 #include <sstream>
 #include <stdexcept>
 #include <utility>
@@ -82,32 +81,29 @@ private:
 
     void EndStretch(int frame)
     {
-        std::map<std::string, std::string> now;
-        Checksum state;
-        for (const auto& [name, field] : session.Fields()) {
-            const std::string value = field.Value();
-            if (value == Recording::ABSENT)
-                continue;
-            now.emplace(name, value);
-            state.Add(name + ' ' + value);
-        }
         Stretch& stretch = recording.stretches.emplace_back();
+        StateFields fields = session.Fields();
+        for (const auto& [name, value] : values)
+            fields.try_emplace(name, std::string()); // gone by now
+        Checksum state;
+        for (const auto& [name, field] : fields) {
+            const std::string value = field.Value();
+            if (value != Recording::ABSENT)
+                state.Add(name + ' ' + value);
+            std::string& before = values.try_emplace(name, Recording::ABSENT).first->second;
+            if (value != before)
+                stretch.changes[name] = before = value;
+        }
         stretch.frame = frame;
         stretch.state = state.Value();
         stretch.picture = std::exchange(picture, {}).Value();
         stretch.sounds = std::exchange(soundsHeard.calls, {}).Value();
-        std::set_difference(now.begin(), now.end(), before.begin(), before.end(),
-                            std::inserter(stretch.changes, stretch.changes.end()));
-        for (const auto& [name, value] : before)
-            if (!now.contains(name))
-                stretch.changes.emplace(name, Recording::ABSENT);
-        before = std::move(now);
     }
 
     Recording recording;
     Session session;
     std::map<std::string, std::vector<Comparison>> unmet; ///< conditions, by their texts
-    std::map<std::string, std::string> before;
+    std::map<std::string, std::string> values;            ///< of all fields there ever were, at the last stretch's end
     Checksum picture;
     size_t next = 0; ///< action
 };

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "doubles/directx.h"
-#include "doubles/system.h"
 #include "platform/sdl/native_window.h"
 #include "support/session.h"
 
@@ -14,7 +13,6 @@ struct ProgramFixture : testing::Test {
     void SetUp() override
     {
         directX = {};
-        systemDouble = {};
         session.emplace(Recording::FROM_START, 1);
     }
     void TearDown() override

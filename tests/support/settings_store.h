@@ -19,3 +19,9 @@ inline void UseNoSettings()
 {
     setenv("XDG_CONFIG_HOME", "/dev/null", 1);
 }
+
+/// The settings are kept in this folder while it lives, at first empty.
+struct SettingsFolder : TempFolder {
+    SettingsFolder() { UseFreshSettings(*this); }
+    ~SettingsFolder() { UseNoSettings(); }
+};

@@ -96,23 +96,17 @@ void AddStatusBar(StateFields& fields, CStatusBar& bar)
 
 void AddObjects(StateFields& fields, CPond& pond)
 {
-    for (int i = 0; i < CELL_COUNT; ++i) {
-        Cell& cell = pond.cells[i];
-        Add(fields, At("cell", i),
+    for (int i = 0; auto& cell : pond.cells)
+        Add(fields, At("cell", i++),
             { FIELD(cell, occupied), FIELD(cell, ripe), FIELD(cell, colour), FIELD(cell, age), FIELD(cell, growth),
               FIELD(cell, splashed) });
-    }
-    for (int i = 0; i < static_cast<int>(std::size(pond.lasers)); ++i) {
-        Laser& laser = pond.lasers[i];
-        Add(fields, At("laser", i),
+    for (int i = 0; auto& laser : pond.lasers)
+        Add(fields, At("laser", i++),
             { FIELD(laser, active), FIELD(laser, x), FIELD(laser, y), FIELD(laser, heading), FIELD(laser, frame),
               FIELD(laser, hit) });
-    }
-    for (int i = 0; i < static_cast<int>(std::size(pond.popups)); ++i) {
-        Popup& popup = pond.popups[i];
-        Add(fields, At("popup", i),
+    for (int i = 0; auto& popup : pond.popups)
+        Add(fields, At("popup", i++),
             { FIELD(popup, active), FIELD(popup, x), FIELD(popup, y), FIELD(popup, kind), FIELD(popup, opacity) });
-    }
     for (int i = 0; i < HIGHLIGHTS; ++i)
         fields.emplace(At("highlight", i), pond.highlight[i]);
 }
@@ -201,11 +195,10 @@ void Checksum::Add(const std::string& text)
 void Checksum::AddBytes(const void* bytes, size_t count)
 {
     const auto* rest = static_cast<const uint8_t*>(bytes);
-    for (; count >= sizeof(uint64_t); count -= sizeof(uint64_t), rest += sizeof(uint64_t)) {
+    for (size_t size = 0; count > 0; count -= size, rest += size) {
+        size = count < sizeof(uint64_t) ? 1 : sizeof(uint64_t);
         uint64_t word = 0;
-        std::memcpy(&word, rest, sizeof word);
+        std::memcpy(&word, rest, size);
         Add(word);
     }
-    for (; count > 0; --count)
-        Add(uint64_t{ *rest++ });
 }

@@ -33,18 +33,13 @@ TEST(WindowFactor, FollowsFromTheUsableDesktop)
     }
 }
 
-TEST(WindowFactor, IsRememberedUnlessTheFileHoldsNone)
+TEST(WindowFactor, IsNotRememberedWhereTheFileHoldsNone)
 {
-    const TempFolder folder;
-    UseFreshSettings(folder);
-    EXPECT_EQ(RememberedFactor("Test"), 0);
-    RememberFactor("Test", 3);
-    EXPECT_EQ(RememberedFactor("Test"), 3);
+    const SettingsFolder folder;
     for (const char* content : { "factor = 0", "factor = -2", "factor = 2.0", "factor = 4294967298", "factor =", "" }) {
         folder.Write("config/Test/window.toml", content);
         EXPECT_EQ(RememberedFactor("Test"), 0) << content;
     }
-    UseNoSettings();
 }
 
 using ZoomTest = WindowFixture;
@@ -59,8 +54,7 @@ TEST_F(ZoomTest, GoesInStepsAroundTheMiddleAndIsRemembered)
         { "=:Ctrl", 2, 2 }, { "=:Ctrl", 3, 3 }, { "=:Ctrl", 3, 3 }, { "-:Ctrl", 2, 2 },
         { "-:Ctrl", 1, 1 }, { "-:Ctrl", 1, 1 }, { "0:Ctrl", 2, 0 },
     };
-    const TempFolder folder;
-    UseFreshSettings(folder);
+    const SettingsFolder folder;
     SetClientSize(nativeWindow, { 320, 240 });
     SDL_SetWindowPosition(nativeWindow.handle, 352, 264);
     for (const auto& press : presses) {
@@ -76,6 +70,5 @@ TEST_F(ZoomTest, GoesInStepsAroundTheMiddleAndIsRemembered)
     }
     Push("to639,479");
     EXPECT_EQ(RunFrames(), "to319,239");
-    UseNoSettings();
 }
 }
