@@ -21,7 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     for (const char* name : { "none/A.jpg", "none/b.bmp", "none" }) {
         CFileData member;
         if (member.Load(name))
-            Require(member.size <= 4u << 20);
+            Require(member.size <= 2u << 20);
     }
     CImage image;
     LoadJpegFile(image, "none/A.jpg");

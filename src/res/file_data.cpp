@@ -8,9 +8,9 @@
 
 namespace
 {
-/// Four times what a picture of the whole screen needs at most: a damaged pack must not ask for gigabytes, nor a file
-/// stall the start.
-constexpr uint32_t MAX_FILE_BYTES = 4u << 20;
+/// Twice what a picture of the whole screen needs at most: a damaged pack must not ask for gigabytes, nor a file stall
+/// the start.
+constexpr uint32_t MAX_FILE_BYTES = 2u << 20;
 
 struct CloseFile {
     void operator()(HANDLE file) const { CloseHandle(file); }

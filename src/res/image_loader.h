@@ -23,8 +23,8 @@ bool LoadMaskFile(CImage& image, const char* path);
 
 // What the decoders share.
 
-/// Three times what the screen holds: a damaged header must not ask for gigabytes.
-constexpr int64_t MAX_PICTURE_PIXELS = int64_t{ 1 } << 20;
+/// More than the screen holds: a damaged header must not ask for gigabytes, nor a picture stall the start.
+constexpr int64_t MAX_PICTURE_PIXELS = int64_t{ 1 } << 19;
 
 /// A fresh, black image. False: ENGINE_CREATE_IMAGE.
 bool CreatePicture(CImage& image, int width, int height);

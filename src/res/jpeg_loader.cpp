@@ -14,6 +14,10 @@ struct DecoderRelease {
 };
 using Decoder = std::unique_ptr<std::remove_pointer_t<tjhandle>, DecoderRelease>;
 
+constexpr uint8_t MARKER = 0xFF; ///< repeated where a file fills up
+constexpr uint8_t HUFFMAN_FRAME = 0xC0;
+constexpr uint8_t PROGRESSIVE_HUFFMAN_FRAME = 0xC2;
+
 /// A JPEG file in memory and what its header says.
 struct JpegFile {
     const uint8_t* data;
@@ -21,6 +25,20 @@ struct JpegFile {
     int width;
     int height;
 };
+
+/// The same picture with arithmetic codes takes five times as long: such files, which hardly anything writes, would
+/// stall the start.
+bool HasHuffmanCodes(const JpegFile& file)
+{
+    uint32_t at = 2; // behind the start of the image
+    while (at + 4 <= file.size && file.data[at] == MARKER) {
+        const uint8_t kind = file.data[at + 1];
+        if (kind >= HUFFMAN_FRAME && kind <= PROGRESSIVE_HUFFMAN_FRAME)
+            return true;
+        at += kind == MARKER ? 1u : 2u + file.data[at + 2] * 256u + file.data[at + 3];
+    }
+    return false;
+}
 
 bool ReadHeader(tjhandle decoder, JpegFile& file)
 {
@@ -59,7 +77,7 @@ bool LoadJpegImage(CImage& image, const uint8_t* data, uint32_t size)
 {
     const Decoder decoder(tjInitDecompress());
     JpegFile file{ data, size, 0, 0 };
-    if (!decoder || !ReadHeader(decoder.get(), file))
+    if (!decoder || !HasHuffmanCodes(file) || !ReadHeader(decoder.get(), file))
         return FailWith(ENGINE_LOAD_IMAGE);
     const std::unique_ptr<uint8_t[]> rows = AllocateRows(file);
     if (!rows)

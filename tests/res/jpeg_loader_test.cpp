@@ -54,4 +54,8 @@ TEST(JpegLoader, EachDamageHasItsCode)
     damaged[place] = damaged[place + 2] = 0x70;
     CImage image;
     EXPECT_EQ(Load(image, damaged), ENGINE_ALLOCATE_MEMORY) << "a picture of gigabytes";
+    const size_t frame = whole.find("\xFF\xC0");
+    const std::string start = whole.substr(0, whole.find("\xFF\xDA") + 14); // arithmetic codes may be left out
+    EXPECT_EQ(Load(image, std::string(start).replace(frame + 1, 1, "\xC9") + "\xFF\xD9"), ENGINE_LOAD_IMAGE);
+    EXPECT_EQ(Load(image, std::string(whole).insert(frame, "\xFF")), ENGINE_NO_ERROR) << "filled up";
 }

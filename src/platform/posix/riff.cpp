@@ -58,6 +58,7 @@ constexpr FOURCC RIFF_ID = mmioFOURCC('R', 'I', 'F', 'F');
 constexpr FOURCC LIST_ID = mmioFOURCC('L', 'I', 'S', 'T');
 constexpr int64_t CHUNK_HEADER_BYTES = 8; ///< id and size
 constexpr int64_t LAST_POSITION = INT32_MAX;
+constexpr int MOST_CHUNKS = 1000; ///< looked at: a file of gigabytes can be made of nothing else
 
 /// Sizes in a file may claim anything, so positions are reckoned in 64 bits and only then brought back to 32.
 int64_t DataEnd(const MMCKINFO& chunk)
@@ -160,7 +161,7 @@ MMRESULT mmioDescend(HMMIO file, MMCKINFO* chunk, const MMCKINFO* parent, UINT f
     const FOURCC wanted = chunk->ckid;
     const int64_t end = parent ? DataEnd(*parent) : LAST_POSITION;
     // Every round moves on by a header at least, so that no size can keep the search going past the file's end.
-    while (file->Position() + CHUNK_HEADER_BYTES <= end) {
+    for (int i = 0; i < MOST_CHUNKS && file->Position() + CHUNK_HEADER_BYTES <= end; ++i) {
         if (const MMRESULT result = ReadChunkHeader(file, *chunk); result != MMSYSERR_NOERROR)
             return result;
         if ((flags & MMIO_FINDCHUNK) == 0 || chunk->ckid == wanted)
