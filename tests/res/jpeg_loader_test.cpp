@@ -1,5 +1,6 @@
 #include "gfx/error.h"
 #include "res/image_loader.h"
+#include "res/picture_table.h"
 #include "support/test_pictures.h"
 
 #include <gtest/gtest.h>
@@ -58,4 +59,18 @@ TEST(JpegLoader, EachDamageHasItsCode)
     const std::string start = whole.substr(0, whole.find("\xFF\xDA") + 14); // arithmetic codes may be left out
     EXPECT_EQ(Load(image, std::string(start).replace(frame + 1, 1, "\xC9") + "\xFF\xD9"), ENGINE_LOAD_IMAGE);
     EXPECT_EQ(Load(image, std::string(whole).insert(frame, "\xFF")), ENGINE_NO_ERROR) << "filled up";
+}
+
+TEST(PictureTable, HoldsTwoMillionPixels)
+{
+    constexpr int LARGE = 724; // four of them are just below
+    TempFolder folder;
+    for (const char* name : { "1.jpg", "2.jpg", "3.jpg", "4.jpg", "5.jpg" })
+        folder.Write(std::string("Dat/Image/") + name, EncodeJpeg(Bytes(LARGE * LARGE), LARGE, LARGE, TJPF_GRAY));
+    CImage images[5];
+    const std::span<CImage> sets[] = { images };
+    PictureRow row{ .set = 0, .image = 0, .file = "%d.jpg", .size = {}, .blit = BlitCopy, .count = 4 };
+    EXPECT_TRUE(LoadPictures(sets, { &row, 1 }));
+    row.count = 5;
+    EXPECT_TRUE(!LoadPictures(sets, { &row, 1 }) && lastError == ENGINE_ALLOCATE_MEMORY);
 }
