@@ -19,7 +19,18 @@ build() {
     export NODE_PATH=/usr/share/nodejs
     cmake --preset wasm "-DTERVALIS_TESTS=$1" >/dev/null
     cmake --build --preset wasm
+    add_downloads
     say "The home page with the game: build/web"
+}
+
+# What release.sh has left, beside the page, which links it.
+add_downloads() {
+    local names
+    rm -rf build/web/downloads
+    mkdir -p build/release-files
+    cp -r build/release-files build/web/downloads
+    names=$(cd build/web/downloads && find . -type f -printf '%f;')
+    cmake -DFOLDER=build/web/downloads "-DNAMES=$names" -P cmake/list_files.cmake
 }
 
 # What the page must show, by the desktop's program with the page's font.

@@ -31,6 +31,8 @@ file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/include)
 file(CREATE_LINK ${TOMLPLUSPLUS_INCLUDE_DIR}/toml++ ${CMAKE_CURRENT_BINARY_DIR}/include/toml++ SYMBOLIC)
 
 target_link_libraries(tervalis_common INTERFACE turbojpeg hwy)
+target_compile_options(tervalis_gfx PRIVATE -mbulk-memory) # rows are copied by an instruction, not by the page's script
+target_compile_options(tervalis_common INTERFACE -include ${CMAKE_CURRENT_SOURCE_DIR}/src/platform/web/vector_shift.h)
 
 # What the browser shares with the desktop; web/ has the rest.
 set(POSIX_FILES clock files font_face glyphs kernel_object mixer paths process registry riff toml)

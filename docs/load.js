@@ -85,15 +85,17 @@ export function makeLoader(folder) {
       const total = list.reduce((sum, [, bytes]) => sum + bytes, 0);
       let done = 0;
       const add = (bytes) => showProgress(done += bytes, total);
-      const program = fetchBytes(folder + 'tervalis.wasm', add);
       const data = list.map(([name]) => name).filter((name) => !name.startsWith('tervalis.'));
-      const results = await Promise.allSettled(data.map((name) => loadFile(name, add)));
+      const [program, results] = await Promise.all([
+        fetchBytes(folder + 'tervalis.wasm', add),
+        Promise.allSettled(data.map((name) => loadFile(name, add))),
+      ]);
       if (!scriptLoaded)
         await loadScript(folder + 'tervalis.js');
       scriptLoaded = true;
       results.filter(({ reason }) => reason).forEach(({ reason }) => console.info(reason.message));
       const files = results.filter(({ value }) => value).map(({ value }) => value);
-      return { program: await program, lay: (system) => lay(files, system) };
+      return { program, lay: (system) => lay(files, system) };
     },
   };
 }

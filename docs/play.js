@@ -93,6 +93,27 @@ async function play(loader, stage) {
   }
 }
 
+/// How the files of a release end, and for whom they are.
+const DOWNLOADS = [
+  ['-x86_64-setup.exe', 'Windows'],
+  ['-i686-setup.exe', 'Windows, 32 bits'],
+  ['_amd64.deb', 'Debian'],
+  ['.tar.gz', 'Sources'],
+];
+
+async function offerDownloads() {
+  const response = await fetch('downloads/files.json');
+  const names = response.ok ? (await response.json()).map(([name]) => name) : [];
+  for (const [ending, system] of DOWNLOADS)
+    for (const name of names.filter((each) => each.endsWith(ending))) {
+      const link = document.createElement('a');
+      link.href = `downloads/${name}`;
+      link.textContent = system;
+      byId('downloads').append(' ', link);
+      byId('downloads').hidden = false;
+    }
+}
+
 function offerPlay() {
   const missing = whatIsMissing();
   byId('start').hidden = false;
@@ -106,3 +127,4 @@ function offerPlay() {
 }
 
 offerPlay();
+offerDownloads();

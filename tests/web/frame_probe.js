@@ -1,21 +1,31 @@
 // Runs before the page's own scripts: lets the game begin with the seed 7 and does in its frames what `script` says, whose
-// rows are those of a script for tools/tour: [frame, verb, argument...]. Keeps the pictures of the frames of a "shot".
+// rows are those of a script for tools/tour: [frame, verb, argument...]. A click is a tap, and the key to the left a swipe.
+// Keeps the pictures of the frames of a "shot".
 Date.now = () => 7000;
 window.shots = {};
 
-const KEYS = { left: ['ArrowLeft', 37], up: ['ArrowUp', 38], right: ['ArrowRight', 39], down: ['ArrowDown', 40] };
+function touch(type, x, y) {
+  const target = document.getElementById('canvas');
+  const box = target.getBoundingClientRect();
+  const place = { clientX: box.left + x * box.width / 640, clientY: box.top + y * box.height / 480 };
+  target.dispatchEvent(new TouchEvent(type, { changedTouches: [new Touch({ identifier: 0, target, ...place })] }));
+}
+
+const KEYS = { up: ['ArrowUp', 38], right: ['ArrowRight', 39], down: ['ArrowDown', 40] };
 const ACTIONS = {
   key(name) {
+    if (name === 'left') {
+      touch('touchstart', 400, 200);
+      touch('touchmove', 300, 220);
+      return touch('touchend', 300, 220);
+    }
     const [code, keyCode] = KEYS[name];
     for (const type of ['keydown', 'keyup'])
       window.dispatchEvent(new KeyboardEvent(type, { key: code, code, keyCode, which: keyCode }));
   },
   click(x, y) {
-    const canvas = document.getElementById('canvas');
-    const box = canvas.getBoundingClientRect();
-    const place = { clientX: box.left + x * box.width / 640, clientY: box.top + y * box.height / 480, bubbles: true };
-    for (const type of ['mousemove', 'mousedown', 'mouseup'])
-      canvas.dispatchEvent(new MouseEvent(type, place));
+    touch('touchstart', x, y);
+    touch('touchend', x, y);
   },
 };
 

@@ -28,7 +28,12 @@ PATIENCE = 120  # seconds until what must happen has not happened, on a machine 
 LARGEST_LOAD = 4_000_000  # bytes on the wire
 LINE_BYTES = 20_000_000 // 8  # a second
 HERE = os.path.dirname(__file__)
+PLACE = "/any/path/"  # of the page on its server
 DAMAGED = {"Image.xpf": "Can not load file", "tervalis.wasm": "cannot be started", "files.json": "cannot be started"}
+LACKING = {
+    "HTMLCanvasElement.prototype.getContext = () => null": "no canvas",
+    "WebAssembly.validate = () => false": "lacks WebAssembly with SIMD",
+}
 
 
 class Handler(http.server.SimpleHTTPRequestHandler):
@@ -36,14 +41,16 @@ class Handler(http.server.SimpleHTTPRequestHandler):
 
     wire_bytes = 0
     damaged = None  # the name of a file
+    missing = None  # of another
 
     def do_GET(self):
-        path = self.translate_path(self.path)
+        path = self.translate_path(self.path.removeprefix(PLACE))
         path = os.path.join(path, "index.html") if os.path.isdir(path) else path
-        if not os.path.isfile(path):
+        name = os.path.basename(path)
+        if not os.path.isfile(path) or name == Handler.missing:
             return self.send_error(404)
         with open(path, "rb") as file:
-            body = gzip.compress(b"damaged" if os.path.basename(path) == Handler.damaged else file.read(), 6)
+            body = gzip.compress(b"damaged" if name == Handler.damaged else file.read(), 6)
         Handler.wire_bytes += len(body)
         self.send_response(200)
         self.send_header("Content-Type", self.guess_type(path))
@@ -59,7 +66,7 @@ class Handler(http.server.SimpleHTTPRequestHandler):
 def serve(folder):
     server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), functools.partial(Handler, directory=folder))
     threading.Thread(target=server.serve_forever, daemon=True).start()
-    return f"http://127.0.0.1:{server.server_address[1]}/"
+    return f"http://127.0.0.1:{server.server_address[1]}{PLACE}"
 
 
 def start_browser():
@@ -94,6 +101,9 @@ class Player:
 
     def await_page(self, condition):
         self.wait(condition, lambda: self.ask(condition))
+
+    def await_message(self, text):
+        self.await_page(f"document.getElementById('message').textContent.includes('{text}')")
 
     def await_line(self, line):
         """On the console, after the line that was awaited before."""
@@ -223,12 +233,17 @@ def reload(player):
 
 
 def fail_to_start(player):
-    step("Damaged files")
+    step("Damaged and missing files")
     for name, text in DAMAGED.items():
-        Handler.damaged = name
+        for Handler.damaged, Handler.missing in ((name, None), (None, name)):
+            player.open()
+            player.click_on("play")
+            player.await_message(text)
+    step("Browsers that cannot play it")
+    for lack, text in LACKING.items():
+        player.browser.execute_cdp_cmd("Page.addScriptToEvaluateOnNewDocument", {"source": lack})
         player.open()
-        player.click_on("play")
-        player.await_page(f"document.getElementById('message').textContent.includes('{text}')")
+        player.await_message(text)
 
 
 def check_console(player):
