@@ -14,7 +14,4 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-find_program(WINE wine)
-if(WINE)
-    set(CMAKE_CROSSCOMPILING_EMULATOR ${WINE}) # for the tests
-endif()
+set(CMAKE_CROSSCOMPILING_EMULATOR wine) # for the tests; it may be installed after the build is configured
