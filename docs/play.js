@@ -127,4 +127,4 @@ function offerPlay() {
 }
 
 offerPlay();
-offerDownloads();
+offerDownloads().catch((error) => console.info(error.message)); // the game can be played all the same
