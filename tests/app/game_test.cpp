@@ -18,18 +18,12 @@ namespace
 struct ProbeScene : CSection {
     bool SectionBegin() override { return Note('b'); }
     bool SectionEnd() override { return Note('e'); }
-    bool SectionProcess() override
-    {
-        backBuffer.Fill(FRAME_COLOUR);
-        return Note('f');
-    }
+    bool SectionProcess() override { return Note('f'); }
     bool Note(char what)
     {
         notes += what;
         return what != failing;
     }
-
-    static constexpr uint16_t FRAME_COLOUR = 0x1082; // equal in every conversion
 
     std::string notes;
     char failing = 0;
@@ -83,10 +77,7 @@ void LackEachPlaneOf(Owner& owner)
 
 TEST_F(GameTest, RunsOneFrameEvery40MsAndNeverMakesUpLateOnes)
 {
-    isWindowed = false; // what is shown there, the double tells
-    ASSERT_TRUE(DisplaySetMode(displayWindow, 640, 480, isWindowed));
     EXPECT_EQ(TickAfter(0), "bf") << "the first tick runs at once";
-    EXPECT_EQ(directX.screen.at(640 * 480 - 1), ProbeScene::FRAME_COLOUR);
     EXPECT_EQ(TickAfter(39), "bf") << "39 ms are too early";
     EXPECT_EQ(TickAfter(1), "bff") << "40 ms are due";
     EXPECT_EQ(TickAfter(100), "bfff") << "a late tick runs one frame";

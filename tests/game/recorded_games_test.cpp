@@ -2,20 +2,19 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
+#include <set>
 #include <string>
 #include <vector>
 
 namespace
 {
 /// Every recording there is, by name.
-std::vector<std::string> RecordingNames()
+std::set<std::string> RecordingNames()
 {
-    std::vector<std::string> names;
+    std::set<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(TEST_DATA_DIR))
-        names.push_back(entry.path().stem().string());
-    std::sort(names.begin(), names.end());
+        names.insert(entry.path().stem().string());
     return names;
 }
 
@@ -26,8 +25,7 @@ TEST_P(Recordings, PlayAsTheyDid)
     const Recording recorded = ReadRecording(std::string(TEST_DATA_DIR "/") + GetParam() + ".txt");
     std::vector<std::string> unseen;
     const Recording played = Play(recorded, unseen);
-    for (const std::string& condition : unseen)
-        ADD_FAILURE() << "did not show: " << condition;
+    EXPECT_EQ(unseen, std::vector<std::string>()) << "it did not show these";
     for (size_t i = 0; i < played.stretches.size(); ++i)
         ASSERT_EQ(Text(played.stretches[i]), Text(recorded.stretches.at(i))) << recorded.about;
     EXPECT_EQ(played.stretches.size(), recorded.stretches.size()) << recorded.about;

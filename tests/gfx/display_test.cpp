@@ -5,6 +5,7 @@
 #include "support/program_fixture.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -25,20 +26,9 @@ struct Display : ProgramFixture {
 };
 }
 
-TEST_F(Display, WindowHasNoSizingFrame)
-{
-    SetWindowLongA(displayWindow, GWL_STYLE, WS_POPUP | WS_THICKFRAME | WS_VISIBLE);
-    ASSERT_TRUE(SetMode(true));
-    EXPECT_EQ(nativeWindow.style, WS_VISIBLE | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_MAXIMIZEBOX);
-    EXPECT_EQ(directX.TakeCalls(), "");
-}
-
 TEST_F(Display, EachFailedFullScreenStepStoresItsCodeAndReleasesAll)
 {
-    const struct {
-        const char* call;
-        int code;
-    } failures[] = {
+    const std::pair<const char*, int> failures[] = {
         { "DirectDrawCreate", ENGINE_CREATE_DIRECTDRAW },
         { "SetDisplayMode", ENGINE_SET_DISPLAY_MODE },
         { "CreateSurface", ENGINE_CREATE_SURFACE },

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -45,10 +46,9 @@ TEST_F(TextImage, KeepsTheGlyphsUsedLastSortedByCode)
     ASSERT_TRUE(reference.TextImageCreate(CreateVerdana(13, 5), TEXT_GREY_LEVELS, TEXT_GLYPH_SLOTS));
     Create(SLOTS);
     std::string recent; // the oldest first
-    uint32_t state = 1;
+    std::mt19937 random(1);
     for (int i = 0; i < 3000; ++i) {
-        state = state * 214013 + 2531011;
-        const std::string line(1, static_cast<char>('A' + (state >> 16) % 20));
+        const std::string line(1, static_cast<char>('A' + random() % 20));
         ASSERT_EQ(Draw(text, line.c_str()), Draw(reference, line.c_str())) << line << " in request " << i;
         std::erase(recent, line[0]);
         recent.erase(0, recent.size() == SLOTS ? 1 : 0);

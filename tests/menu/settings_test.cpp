@@ -27,7 +27,6 @@ TEST_F(SettingsTest, TakesValuesAsBytesWhateverTheirType)
         { "\"Up 1\" = 'A'", 'A', "", 0 }, // one byte of the default's four
         { "\"Up 1\" = 'ABCD'", 0x44434241, "", 0 },
         { "\"Up 1\" = 'ABCDE'", 38, "", 0 },
-        { "\"Up 1\" = 3.5", 38, "", 0 },
         { "\"Name 1\" = 16705", 38, "AA", 0 },
         { "\"Name 1\" = 'ab\xC3\xA9'", 38, "ab\xC3\xA9", 0 },
         { "\"Name 1\" = { type = 1, hex = '61620063' }", 38, "ab", 0 },

@@ -12,9 +12,9 @@ namespace
 using Bytes = std::vector<uint8_t>;
 
 /// A BMP file of 3x2 pixels; `rows` are the stored rows with their padding, the bottom one first.
-std::string MakeBmp(uint32_t bitCount, const Bytes& rows, const Bytes& palette = {})
+std::string MakeBmp(int bitCount, const Bytes& rows, const Bytes& palette = {})
 {
-    std::string file = BmpHeader(3, 2, bitCount, static_cast<uint32_t>(palette.size()) / 4);
+    std::string file = BmpHeader(3, 2, bitCount, static_cast<int>(palette.size() / 4));
     file.append(palette.begin(), palette.end());
     return file.append(rows.begin(), rows.end());
 }

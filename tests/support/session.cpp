@@ -106,8 +106,6 @@ Session::~Session()
 /// As at the program's start, whatever ran in this process before.
 void Session::ResetProgram()
 {
-    for (CPackFile& pack : packTable)
-        pack.Close();
     Rebuild(sectionMenu);
     Rebuild(sectionMain);
     Rebuild(sectionLoad);

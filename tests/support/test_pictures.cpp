@@ -51,15 +51,14 @@ void AppendPixel(std::string& file, Noise& noise, bool isMask, bool isWhite)
     file += LittleEndian(isMask ? (colour & 0xFF) * 0x010101 : colour).substr(0, 3);
 }
 
-/// 24 bits a pixel, bottom row first.
+/// 24 bits a pixel, bottom row first, each row's bytes a multiple of four.
 std::string NoiseBmp(Noise& noise, int width, int height, bool isMask)
 {
-    const uint32_t rowBytes = (static_cast<uint32_t>(width) * 3 + 3) & ~3U;
     std::string file = BmpHeader(width, height, 24, 0);
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x)
             AppendPixel(file, noise, isMask, y == 0 && x == width - 1); // a corner that tests can rely on
-        file.append(rowBytes - static_cast<uint32_t>(width) * 3, '\0');
+        file.append(static_cast<size_t>(width % 4), '\0');
     }
     return file;
 }

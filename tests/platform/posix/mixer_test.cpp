@@ -48,6 +48,7 @@ Samples Ramp(int count, int first = 0)
 
 TEST_F(MixerTest, PlaysEveryFormatAndRate)
 {
+    const std::vector<uint8_t> pair = { 132, 128, 136, 64 };
     const struct {
         PcmFormat format;
         bool loop;
@@ -60,13 +61,10 @@ TEST_F(MixerTest, PlaysEveryFormatAndRate)
         { { 2, 16, RATE }, false, { 1, 0, 2, 0, 9, 9 }, { 1, 2, 0, 0 } }, // half a frame at the end is no frame
         { { 2, 16, RATE }, true, { 1, 0, 2, 0 }, { 1, 2, 1, 2 } },
         // Between two samples, and from the last one to silence or to the first one.
-        { { 2, 8, RATE / 2 }, false, { 132, 128, 136, 64 }, { 1024, 0, 1536, -8192, 2048, -16384, 1024, -8192, 0, 0 } },
-        { { 2, 8, RATE / 2 },
-          true,
-          { 132, 128, 136, 64 },
-          { 1024, 0, 1536, -8192, 2048, -16384, 1536, -8192, 1024, 0 } },
-        { { 2, 8, RATE * 3 / 2 }, false, { 132, 128, 136, 64 }, { 1024, 0, 1024, -8192, 0, 0 } },
-        { { 2, 8, RATE * 3 / 2 }, true, { 132, 128, 136, 64 }, { 1024, 0, 1536, -8192, 2048, -16384, 1536, -8192 } },
+        { { 2, 8, RATE / 2 }, false, pair, { 1024, 0, 1536, -8192, 2048, -16384, 1024, -8192, 0, 0 } },
+        { { 2, 8, RATE / 2 }, true, pair, { 1024, 0, 1536, -8192, 2048, -16384, 1536, -8192, 1024, 0 } },
+        { { 2, 8, RATE * 3 / 2 }, false, pair, { 1024, 0, 1024, -8192, 0, 0 } },
+        { { 2, 8, RATE * 3 / 2 }, true, pair, { 1024, 0, 1536, -8192, 2048, -16384, 1536, -8192 } },
     };
     for (const auto& row : cases) {
         Voice* const voice = mixer.AddVoice(row.format, static_cast<uint32_t>(row.bytes.size()));

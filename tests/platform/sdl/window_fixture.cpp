@@ -123,7 +123,7 @@ void WindowFixture::SetUp()
     WNDCLASSA windowClass = {};
     windowClass.lpfnWndProc = Procedure;
     RegisterClassA(&windowClass);
-    window = CreateWindowExA(0, "Test", "Test", 0, 0, 0, 640, 480, nullptr, nullptr, nullptr, nullptr);
+    window = CreateWindowExA(0, "Test", "Test", WS_THICKFRAME, 0, 0, 640, 480, nullptr, nullptr, nullptr, nullptr);
     ASSERT_TRUE(DisplaySetMode(window, 640, 480, true));
     RunFrames();
 }

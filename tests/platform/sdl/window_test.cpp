@@ -113,7 +113,7 @@ TEST_P(EachWayWindowTest, ScalesFrameAndMouseToTheScreenAndIsGivenBack)
     isWindowed = true;
     ASSERT_TRUE(DisplaySetMode(window, 640, 480, true));
     EXPECT_EQ(Given("to512,384"), "to512,384") << "the window has its size again";
-    EXPECT_TRUE(GetWindowLongA(window, GWL_STYLE) & WS_VISIBLE);
+    EXPECT_EQ(nativeWindow.style & (WS_POPUP | WS_VISIBLE), WS_VISIBLE);
     SDL_Point place = {};
     SDL_GetWindowPosition(nativeWindow.handle, &place.x, &place.y);
     EXPECT_TRUE(place.x == 192 && place.y == 155) << "its frame is in the middle of the screen";
@@ -167,6 +167,7 @@ TEST_F(WindowTest, UndoesWhatTheBorderDoesUnlessTheWindowManagerInsists)
         return width;
     };
     EXPECT_TRUE(SDL_GetWindowFlags(nativeWindow.handle) & SDL_WINDOW_RESIZABLE) << "or it has no maximise box";
+    EXPECT_EQ(nativeWindow.style, WS_VISIBLE | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_MAXIMIZEBOX);
     EXPECT_EQ(userResizes(700), 640);
     for (int attempts = 0; attempts < 10 && width == 640; ++attempts)
         userResizes(900);

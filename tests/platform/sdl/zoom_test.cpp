@@ -68,7 +68,5 @@ TEST_F(ZoomTest, GoesInStepsAroundTheMiddleAndIsRemembered)
         EXPECT_TRUE(area.x + area.w / 2 == 512 && area.y >= TITLE_HEIGHT) << area.x << ", " << area.y;
         EXPECT_EQ(RememberedFactor("Test"), press.remembered);
     }
-    Push("to639,479");
-    EXPECT_EQ(RunFrames(), "to319,239");
 }
 }
