@@ -6,7 +6,6 @@
 #include "app/section.h"
 #include "doubles/system.h"
 #include "game/section_main.h"
-#include "gfx/display.h"
 #include "gfx/error.h"
 #include "menu/section_menu.h"
 #include "support/faults.h"

@@ -19,29 +19,25 @@ TEST_F(SettingsTest, TakesValuesAsBytesWhateverTheirType)
         std::string line;
         uint32_t firstKey;
         const char* firstName;
-        int32_t firstScore;
     };
     const Case cases[] = {
-        { "", 38, "", 0 },
-        { "\"Up 1\" = ''", 38, "", 0 },
-        { "\"Up 1\" = 'A'", 'A', "", 0 }, // one byte of the default's four
-        { "\"Up 1\" = 'ABCD'", 0x44434241, "", 0 },
-        { "\"Up 1\" = 'ABCDE'", 38, "", 0 },
-        { "\"Name 1\" = 16705", 38, "AA", 0 },
-        { "\"Name 1\" = 'ab\xC3\xA9'", 38, "ab\xC3\xA9", 0 },
-        { "\"Name 1\" = { type = 1, hex = '61620063' }", 38, "ab", 0 },
-        { "\"Name 1\" = '" + std::string(256, 'x') + "'", 38, "", 0 },
-        { "\"Rank 1\" = 4294967295", 38, "", -1 },
+        { "", 38, "" },
+        { "\"Up 1\" = ''", 38, "" },
+        { "\"Up 1\" = 'A'", 'A', "" }, // one byte of the default's four
+        { "\"Up 1\" = 'ABCD'", 0x44434241, "" },
+        { "\"Up 1\" = 'ABCDE'", 38, "" },
+        { "\"Name 1\" = 16705", 38, "AA" },
+        { "\"Name 1\" = 'ab\xC3\xA9'", 38, "ab\xC3\xA9" },
+        { "\"Name 1\" = { type = 1, hex = '61620063' }", 38, "ab" },
+        { "\"Name 1\" = '" + std::string(256, 'x') + "'", 38, "" },
     };
     for (const Case& row : cases) {
         folder.Write(SETTINGS_FILE, row.line);
         menu.keys[0] = 1;
         strcpy(menu.rankNames[0], "before");
-        menu.rankScores[0] = 1;
         EXPECT_EQ(menu.SettingsLoad(), 0) << row.line;
         EXPECT_EQ(menu.keys[0], row.firstKey) << row.line;
         EXPECT_STREQ(menu.rankNames[0], row.firstName) << row.line;
-        EXPECT_EQ(menu.rankScores[0], row.firstScore) << row.line;
     }
 }
 

@@ -184,8 +184,7 @@ StateFields Session::Fields() const
     StateFields fields = ProgramState();
     for (size_t id = 0; id < soundsHeard.plays.size(); ++id)
         fields.emplace(At("plays", static_cast<int>(id)), soundsHeard.plays[id]);
-    for (const auto& [name, value] : StoredSettings())
-        fields.emplace("stored." + name, value);
+    fields.merge(StoredSettings());
     std::ifstream log(ProgramFolder().Path() + "/Log.txt");
     std::string line;
     for (int number = 0; std::getline(log, line); ++number)

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <filesystem>
 #include <stdexcept>
+#include <vector>
 
 #ifdef _WIN32
 namespace
@@ -48,7 +49,7 @@ void LeaveTestSystem()
 }
 #endif
 
-std::vector<std::pair<std::string, std::string>> StoredSettings()
+StateFields StoredSettings()
 {
     std::vector<std::string> names = { "Windowed", "No Sound", "Up 1",   "Down 1", "Left 1",
                                        "Right 1",  "Up 2",     "Down 2", "Left 2", "Right 2" };
@@ -59,7 +60,7 @@ std::vector<std::pair<std::string, std::string>> StoredSettings()
     HKEY key = nullptr;
     RegCreateKeyExA(HKEY_CURRENT_USER, "Software\\Tervalis", 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_ALL_ACCESS,
                     nullptr, &key, nullptr);
-    std::vector<std::pair<std::string, std::string>> values;
+    StateFields values;
     for (std::string& name : names) {
         BYTE bytes[256] = {};
         DWORD type = REG_DWORD;
@@ -68,7 +69,7 @@ std::vector<std::pair<std::string, std::string>> StoredSettings()
         uint32_t number = 0;
         std::memcpy(&number, bytes, sizeof number);
         std::erase(name, ' ');
-        values.emplace_back(name, type == REG_SZ ? reinterpret_cast<char*>(bytes) : std::to_string(number));
+        values.emplace("stored." + name, type == REG_SZ ? reinterpret_cast<char*>(bytes) : std::to_string(number));
     }
     RegCloseKey(key);
     return values;

@@ -1,10 +1,7 @@
 #pragma once
 
+#include "support/state_fields.h"
 #include "support/temp_folder.h"
-
-#include <string>
-#include <utility>
-#include <vector>
 
 /// From here on the program runs without a screen where our own layer stands for the system, and keeps its settings
 /// apart, at first empty.
@@ -13,4 +10,4 @@ void UseTestSystem(const TempFolder& folder);
 void LeaveTestSystem();
 
 /// Every value that the program stores: its name without blanks, and its number or text; absent ones are 0 or empty.
-std::vector<std::pair<std::string, std::string>> StoredSettings();
+StateFields StoredSettings();
