@@ -75,16 +75,13 @@ const struct Routine {
 /// The ends of the routines' steps among others.
 constexpr uint32_t opacities[] = { 0, 7, 8, 60, 133, 248, 249, 255 };
 
-class Random
-{
-public:
+struct Random {
     int operator()(int low, int high) { return std::uniform_int_distribution<int>(low, high)(engine); }
 
     uint16_t Colour() { return static_cast<uint16_t>((*this)(0, 4) == 0 ? COLOR_KEY : (*this)(0, 0xFFFF)); }
     /// Whole groups of 31 are common.
     uint8_t Alpha() { return static_cast<uint8_t>((*this)(0, 5) == 0 ? (*this)(0, 31) : 31); }
 
-private:
     std::mt19937 engine{ 20240607 };
 };
 

@@ -20,7 +20,7 @@ struct Display : ProgramFixture {
         std::generate(frame.pixels, frame.Row(HEIGHT), [pixel = 0]() mutable { return uint16_t(pixel += 7); });
         directX.TakeCalls();
     }
-    static bool SetMode(bool windowed) { return DisplaySetMode(displayWindow, WIDTH, HEIGHT, windowed); }
+    static bool EnterFullScreen() { return DisplaySetMode(displayWindow, WIDTH, HEIGHT, false); }
 
     CImage frame;
 };
@@ -40,7 +40,7 @@ TEST_F(Display, EachFailedFullScreenStepStoresItsCodeAndReleasesAll)
     const int before = directX.objects;
     for (const auto& [call, code] : failures) {
         directX.Fail(call);
-        EXPECT_FALSE(SetMode(false)) << call;
+        EXPECT_FALSE(EnterFullScreen()) << call;
         EXPECT_EQ(lastError, code);
         EXPECT_EQ(directX.objects, before) << call;
         directX.TakeCalls();
@@ -54,7 +54,7 @@ TEST_F(Display, FullScreenShowsTheFrameAlsoWithFiveBitsOfGreenAndAfterALoss)
 {
     for (const uint32_t greenMask : { 0x07E0u, 0x03E0u, 0x1234u }) {
         directX.greenMask = greenMask;
-        ASSERT_TRUE(SetMode(false));
+        ASSERT_TRUE(EnterFullScreen());
         EXPECT_EQ(directX.TakeCalls(),
                   "DirectDrawCreate, SetCooperativeLevel 17, SetDisplayMode 640 480 16, CreateSurface 1, "
                   "GetAttachedSurface, CreateClipper, SetHWnd, SetClipper, GetPixelFormat");

@@ -15,12 +15,11 @@ struct SettingsTest : testing::Test {
 
 TEST_F(SettingsTest, TakesValuesAsBytesWhateverTheirType)
 {
-    struct Case {
+    const struct {
         std::string line;
         uint32_t firstKey;
         const char* firstName;
-    };
-    const Case cases[] = {
+    } cases[] = {
         { "", 38, "" },
         { "\"Up 1\" = ''", 38, "" },
         { "\"Up 1\" = 'A'", 'A', "" }, // one byte of the default's four
@@ -31,7 +30,7 @@ TEST_F(SettingsTest, TakesValuesAsBytesWhateverTheirType)
         { "\"Name 1\" = { type = 1, hex = '61620063' }", 38, "ab" },
         { "\"Name 1\" = '" + std::string(256, 'x') + "'", 38, "" },
     };
-    for (const Case& row : cases) {
+    for (const auto& row : cases) {
         folder.Write(SETTINGS_FILE, row.line);
         menu.keys[0] = 1;
         strcpy(menu.rankNames[0], "before");

@@ -19,13 +19,10 @@ fail() {
     exit 1
 }
 
-# new_copy NAME loose|packed|empty: goes to a folder with the program and its pictures.
+# new_copy NAME [FROM TO]: goes to a folder with the program, and with pictures copied there.
 new_copy() {
     mkdir -p "$folder/$1/Dat/Image" && cd "$folder/$1" && cp "$program/tervalis" . || exit 1
-    case $2 in
-    loose) cp -r "$pictures" Dat/ && mv Dat/image/* Dat/Image/ ;;
-    packed) cp "$program/Dat/Image.xpf" Dat/ ;;
-    esac
+    [ $# = 1 ] || cp -r "$2" "$3" || exit 1
 }
 
 # expect_error TEXT FILE: the program ends by itself with code 0, that text in its message box and the name of the file
@@ -69,12 +66,12 @@ start_elsewhere() {
     cmp -s Log.txt before || fail "a second copy wrote to the log"
 }
 
-new_copy empty empty
+new_copy empty
 expect_error "Can not load file" 'Dat\Image/MainMenu.jpg'
-new_copy damaged packed
+new_copy damaged "$program/Dat/Image.xpf" Dat
 head -c 300 "$pictures/stone.jpg" >Dat/Image/stone.jpg # takes precedence over the pack
 expect_error "Can not load image" 'Dat\Image/stone.jpg'
-new_copy 'pack\ed' packed # a back slash is a letter here
+new_copy 'pack\ed' "$program/Dat/Image.xpf" Dat # a back slash is a letter here
 cp -r "$program/Wav" .
 run_until HUP
 expect_kept
@@ -85,7 +82,7 @@ for bad in alike missing; do
     ! "$builder" $bad again.xpf 2>/dev/null || fail "packed pictures that are $bad"
     cmp again.xpf Dat/Image.xpf || fail "a refusal changed the pack"
 done
-new_copy loose loose
+new_copy loose "$pictures/." Dat/Image
 run_until TERM start_elsewhere
 grep -q 'Can not load sound' errors || fail "nobody hears of the missing sounds"
 [ ! -s "$folder/said" ] || fail "a second copy said: $(cat "$folder/said")"

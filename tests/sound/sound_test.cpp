@@ -149,7 +149,6 @@ TEST_F(SoundTest, EachFailedLoadingStepLeavesSilence)
         bool loads;
         std::string calls;
     } cases[] = {
-        { "missing.wav", "none", 0, 0, false, "" },
         { "cut.wav", "none", 0, 0, false, filling + ", UnlockSound" },
         { "a.wav", "none", 0, 0, true, filling + ", UnlockSound" },
         { "a.wav", "CreateSoundBuffer", 1, DDERR_GENERIC, false, "CreateSoundBuffer 200 22050" },

@@ -27,16 +27,13 @@ struct Comparison {
     }
 };
 
-class Recorder
-{
-public:
-    explicit Recorder(const Recording& script) : recording(script), session(script.players, script.seed)
-    {
-        recording.stretches.clear();
-    }
+/// A recording in the making.
+struct Recorder {
+    explicit Recorder(const Recording& script) : recording(script), session(script.players, script.seed) {}
 
     Recording Run(std::vector<std::string>& unseen)
     {
+        recording.stretches.clear();
         for (int frame = 0; frame < recording.frames && session.IsRunning(); ++frame)
             PlayFrame(frame);
         session.Close();
@@ -46,7 +43,6 @@ public:
         return recording;
     }
 
-private:
     /// Comparisons that must hold together: "snake[0].isDying = 1, laser[0].active = 1".
     void AddCondition(const std::string& text)
     {

@@ -52,9 +52,8 @@ struct PadsTest : WindowFixture {
     static std::string Press(SDL_Joystick* pad, int button)
     {
         SDL_JoystickSetVirtualButton(pad, button, SDL_PRESSED);
-        std::string heard;
-        while (heard.empty()) // until the pad is polled
-            heard = RunFrames();
+        SDL_JoystickUpdate();
+        const std::string heard = RunFrames();
         SDL_JoystickSetVirtualButton(pad, button, SDL_RELEASED);
         SDL_JoystickUpdate();
         return heard;

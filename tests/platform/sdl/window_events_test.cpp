@@ -4,10 +4,7 @@
 #include <fstream>
 #include <sstream>
 
-namespace
-{
 using WindowEvents = WindowFixture;
-}
 
 /// However the events fall between the polls of a frame.
 TEST_F(WindowEvents, ReachTheGameAsMessages)
