@@ -9,9 +9,11 @@
 #include <filesystem>
 #include <iterator>
 #include <optional>
+#include <random>
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
@@ -28,14 +30,15 @@ LONG Open(HKEY& key)
                            nullptr, &key, nullptr);
 }
 
-/// One save that sets that value; the code of the step that failed.
-LONG Save(const char* name, const Stored& value)
+/// One save that sets all these names to one value; the code of the step that failed.
+LONG Save(const std::vector<const char*>& names, const Stored& value)
 {
     HKEY key = nullptr;
     if (const LONG result = Open(key); result != 0)
         return result;
-    RegSetValueExA(key, name, 0, value.first, reinterpret_cast<const BYTE*>(value.second.data()),
-                   static_cast<DWORD>(value.second.size()));
+    for (const char* name : names)
+        RegSetValueExA(key, name, 0, value.first, reinterpret_cast<const BYTE*>(value.second.data()),
+                       static_cast<DWORD>(value.second.size()));
     return RegCloseKey(key);
 }
 
@@ -58,7 +61,7 @@ void SaveAndExit(rlim_t mostBytes)
     const rlimit limit = { mostBytes, mostBytes };
     signal(SIGXFSZ, SIG_IGN);
     const bool isReady = setrlimit(RLIMIT_FSIZE, &limit) == 0 && (getuid() != 0 || setuid(65534) == 0);
-    _exit(isReady ? static_cast<int>(Save("v", { REG_SZ, "new" })) : 254);
+    _exit(isReady ? static_cast<int>(Save({ "v" }, { REG_SZ, "new" })) : 254);
 }
 
 struct RegistryTest : testing::Test {
@@ -86,9 +89,8 @@ TEST_F(RegistryTest, EveryValueComesBackByteForByte)
         { REG_SZ, "{ hex = \"41\" }" },
         { 3, allBytes }, // a type the game does not use
     };
-    folder.Write(SETTINGS_FILE + ".tmp"s, "left by a copy that was killed as it saved");
     for (const Stored& value : values) {
-        ASSERT_EQ(Save("v", value), 0);
+        ASSERT_EQ(Save({ "v" }, value), 0);
         EXPECT_EQ(Load("v"), value);
     }
     EXPECT_TRUE(folder.Read(SETTINGS_FILE).starts_with("v = { ")) << "on a line of its own";
@@ -109,7 +111,7 @@ TEST_F(RegistryTest, ReadsWhatAHandMayHaveWrittenAndKeepsIt)
     for (const auto& [line, value] : lines) {
         folder.Write(SETTINGS_FILE, line);
         EXPECT_EQ(Load("v"), value) << line;
-        EXPECT_EQ(Save("other", { REG_SZ, "new" }), 0);
+        EXPECT_EQ(Save({ "other" }, { REG_SZ, "new" }), 0);
         EXPECT_NE(folder.Read(SETTINGS_FILE).find(line), std::string::npos) << folder.Read(SETTINGS_FILE);
     }
 }
@@ -126,7 +128,7 @@ TEST_F(RegistryTest, SetsADamagedFileAsideUnderANewName)
     for (const std::string& damage : damages) {
         folder.Write(SETTINGS_FILE, damage);
         EXPECT_EQ(Load("v"), std::nullopt) << damage.substr(0, 20);
-        EXPECT_EQ(Save("v", { REG_SZ, "new" }), 0);
+        EXPECT_EQ(Save({ "v" }, { REG_SZ, "new" }), 0);
     }
     EXPECT_EQ(FileCount(), 1 + std::ssize(damages));
     EXPECT_EQ(folder.Read(SETTINGS_FILE + ".damaged"s), damages[0]);
@@ -161,6 +163,28 @@ TEST_F(RegistryTest, LeavesWhatItMayNotReadOrReplace)
     }
 }
 
+TEST_F(RegistryTest, KilledAtAnyMomentLeavesOldOrNewValues)
+{
+    // Two values that every save sets alike, large enough that a save takes a while.
+    const auto saveBoth = [](char letter) { return Save({ "first", "last" }, { REG_SZ, std::string(3000, letter) }); };
+    saveBoth('a');
+    std::mt19937 random(7);
+    for (int round = 0; round < 100; ++round) {
+        const pid_t child = fork();
+        if (child == 0)
+            for (char letter = 'a';; letter = letter == 'z' ? 'a' : static_cast<char>(letter + 1))
+                saveBoth(letter);
+        usleep(static_cast<useconds_t>(random() % 6000));
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        const auto first = Load("first");
+        ASSERT_TRUE(first && first->second.size() == 3000) << "round " << round;
+        ASSERT_EQ(first, Load("last")) << "round " << round;
+    }
+    saveBoth('a');
+    EXPECT_EQ(FileCount(), 1) << "drafts pile up, or a file was taken for damaged";
+}
+
 TEST_F(RegistryTest, KeepsALinkToTheFileInTheHomeFolder)
 {
     setenv("HOME", folder.Path().c_str(), 1);
@@ -168,7 +192,7 @@ TEST_F(RegistryTest, KeepsALinkToTheFileInTheHomeFolder)
     fs::create_directories(".config/Tervalis");
     fs::create_symlink("../../dotfiles/own.toml", ".config/Tervalis/settings.toml");
     setenv("XDG_CONFIG_HOME", "relative/is/ignored", 1);
-    EXPECT_EQ(Save("v", { REG_SZ, "new" }), 0);
+    EXPECT_EQ(Save({ "v" }, { REG_SZ, "new" }), 0);
     EXPECT_TRUE(fs::is_symlink(".config/Tervalis/settings.toml"));
     EXPECT_EQ(folder.Read("dotfiles/own.toml"), "v = \"new\"\n");
 }
