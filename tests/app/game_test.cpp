@@ -138,5 +138,7 @@ TEST_F(GameTest, LoadingMissesEachPlaneThatCannotBeHad)
     LackEachPlaneOf(pond);
     LackEachPlaneOf(pond.statusBar);
     LackEachPlane([&] { return pond.snake[1].SnakeInit(100, &pond, 2, 'W', 'S', 'A', 'D'); });
+    LackEachPlane([] { return sectionMain.SectionBegin(); });
+    sectionMain.SectionEnd();
     LackEachPlane([&] { return pond.snake[1].player == 2 && pond.snake[1].SnakeInit(100, &pond, 1, 1, 2, 3, 4); });
 }

@@ -160,7 +160,9 @@ TEST_F(SoundTest, EachFailedLoadingStepLeavesSilence)
         SoundInit(nullptr);
         directX.TakeCalls();
         directX.Fail(row.failing, row.times, row.result);
+        testing::internal::CaptureStderr();
         EXPECT_EQ(SoundLoad(3, row.path), row.loads) << row.path << ", " << row.failing;
+        EXPECT_EQ(testing::internal::GetCapturedStderr().empty(), row.loads) << row.path << ", " << row.failing;
         EXPECT_EQ(directX.TakeCalls(), row.calls) << row.path << ", " << row.failing;
         EXPECT_EQ(SoundPlay(3, false), !directX.buffers.empty()) << row.path << ", " << row.failing;
         SoundRelease();
