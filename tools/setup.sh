@@ -12,7 +12,7 @@ WEB_PACKAGES="g++ cmake ninja-build dpkg-dev emscripten libtomlplusplus-dev font
     python3"
 WEB_TEST_PACKAGES="googletest libgtest-dev chromium-driver xvfb xauth python3 python3-numpy python3-pil
     python3-selenium"
-ARM64_PACKAGES="g++ cmake ninja-build pkg-config qemu-user mmdebstrap binutils-aarch64-linux-gnu"
+ARM64_PACKAGES="g++ cmake ninja-build pkg-config qemu-user mmdebstrap binutils-aarch64-linux-gnu libc6-dev-arm64-cross"
 DEBIAN_PACKAGES="git build-essential dpkg-dev debhelper"
 CHECK_PACKAGES="clang clang-format clang-tidy desktop-file-utils appstream man-db groff-base lintian reuse
     cppcheck devscripts"
