@@ -4,12 +4,13 @@
 
 namespace
 {
+using namespace std::chrono;
+
 /// Counted from here, the clock does not wrap around while a game is on.
-const std::chrono::steady_clock::time_point programStart = std::chrono::steady_clock::now();
+const auto programStart = floor<milliseconds>(steady_clock::now());
 }
 
 DWORD timeGetTime()
 {
-    using namespace std::chrono;
-    return static_cast<DWORD>(duration_cast<milliseconds>(steady_clock::now() - programStart).count());
+    return static_cast<DWORD>((floor<milliseconds>(steady_clock::now()) - programStart).count());
 }

@@ -10,13 +10,14 @@ namespace
 /// frame anyway.
 constexpr double FRAME_MS = 40;
 
-double frameStart = 0; ///< when the browser last gave the processor back
+double nextFrame = 0; ///< when it is due
 }
 
 /// Hands the page back to the browser until the next frame is due, also on screens of any other rhythm.
 void Idle()
 {
     const double now = emscripten_get_now();
-    emscripten_sleep(static_cast<unsigned>(std::ceil(std::max(frameStart + FRAME_MS - now, 0.0))));
-    frameStart = emscripten_get_now();
+    emscripten_sleep(static_cast<unsigned>(std::ceil(std::max(nextFrame - now, 0.0))));
+    // The game counts in whole milliseconds of the same clock, so that a browser that is late by less loses no time.
+    nextFrame = std::floor(emscripten_get_now()) + FRAME_MS;
 }
