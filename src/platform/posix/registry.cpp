@@ -97,6 +97,17 @@ std::string NumberBytes(DWORD number)
     return bytes;
 }
 
+/// False, with nothing stored, when the file could not be read again: it may have only so many dots.
+bool StoreText(toml::table& values, std::string_view name, const std::string& text)
+{
+    toml::table changed = values;
+    changed.insert_or_assign(name, text);
+    if (!Survives(changed))
+        return false;
+    values = std::move(changed);
+    return true;
+}
+
 /// Numbers and texts are TOML's own. What these cannot hold is { type = 1, hex = "0a41" }.
 void Store(toml::table& values, std::string_view name, const Value& value)
 {
@@ -104,9 +115,7 @@ void Store(toml::table& values, std::string_view name, const Value& value)
         DWORD number;
         memcpy(&number, value.bytes.data(), sizeof number);
         values.insert_or_assign(name, static_cast<int64_t>(number));
-    } else if (value.type == REG_SZ && Survives(toml::table{ { "value", value.bytes } })) {
-        values.insert_or_assign(name, value.bytes);
-    } else {
+    } else if (value.type != REG_SZ || !StoreText(values, name, value.bytes)) {
         toml::table encoded{ { "type", static_cast<int64_t>(value.type) }, { "hex", ToHex(value.bytes) } };
         encoded.is_inline(true);
         values.insert_or_assign(name, std::move(encoded));
@@ -167,9 +176,13 @@ LONG LoadValues(const std::string& path, toml::table& values)
     if (!parsed)
         return SetFileAside(path);
     values = std::move(*parsed);
-    if (!Survives(values))
-        DropWhatCannotBeStored(values);
-    return Code(ERROR_SUCCESS);
+    if (Survives(values))
+        return Code(ERROR_SUCCESS);
+    DropWhatCannotBeStored(values);
+    if (Survives(values))
+        return Code(ERROR_SUCCESS);
+    values.clear();
+    return SetFileAside(path);
 }
 
 LONG OpenKey(LPCSTR subKey, HKEY* key)

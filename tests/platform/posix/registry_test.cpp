@@ -87,12 +87,16 @@ TEST_F(RegistryTest, EveryValueComesBackByteForByte)
         { REG_SZ, "\xC3\xA9 \xE6\xB0\xB4 \xF0\x9F\x90\x8D" },
         { REG_SZ, "\xE9t\xE9, not UTF-8 \x7F\x1B[0m" },
         { REG_SZ, "{ hex = \"41\" }" },
-        { 3, allBytes }, // a type the game does not use
+        { REG_SZ, std::string(100, '.') }, // with those below more dots than a file may have
+        { 3, allBytes },                   // a type the game does not use
     };
+    const std::string dots(2950, '.');
+    folder.Write(SETTINGS_FILE, "w = \"" + dots + '"');
     for (const Stored& value : values) {
         ASSERT_EQ(Save({ "v" }, value), 0);
         EXPECT_EQ(Load("v"), value);
     }
+    EXPECT_EQ(Load("w"), (Stored{ REG_SZ, dots }));
     EXPECT_TRUE(folder.Read(SETTINGS_FILE).starts_with("v = { ")) << "on a line of its own";
 }
 
@@ -120,10 +124,13 @@ TEST_F(RegistryTest, SetsADamagedFileAsideUnderANewName)
 {
     std::string deep = "a";
     for (int i = 0; i < 30000; ++i)
-        deep += ".a"; // more calls within each other than the stack holds
+        deep += ".a";    // more calls within each other than the stack holds
+    std::string numbers; // which are written with a dot each
+    for (int i = 0; i < 3001; ++i)
+        numbers += "n" + std::to_string(i) + " = 1e3\n";
     const std::vector<std::string> damages = {
         "v = = 1",       "v = \"\xFF\"",          "v = 1\0"s, "v = 1\nv = 2", "[\\u00 = 1",
-        "v\xC5\xBF = 1", std::string(70000, '#'), deep
+        "v\xC5\xBF = 1", std::string(70000, '#'), deep,       numbers
     };
     for (const std::string& damage : damages) {
         folder.Write(SETTINGS_FILE, damage);
