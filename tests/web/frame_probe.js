@@ -1,6 +1,6 @@
-// Runs before the page's own scripts: lets the game begin with the seed 7 and does in its frames what `script` says, whose
-// rows are those of a script for tools/tour: [frame, verb, argument...]. A click is a tap, and the key to the left a swipe.
-// Keeps the pictures of the frames of a "shot".
+// Runs before the page's own code: lets the game begin with the seed 7 and plays in its frames the rows of `script`, which
+// are those that tools/tour takes: [frame, verb, argument...]. A click is a tap, and the key to the left a swipe. Keeps the
+// pictures of the frames of a "shot".
 Date.now = () => 7000;
 window.shots = {};
 

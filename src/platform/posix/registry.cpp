@@ -97,29 +97,24 @@ std::string NumberBytes(DWORD number)
     return bytes;
 }
 
-/// False, with nothing stored, when the file could not be read again: it may have only so many dots.
-bool StoreText(toml::table& values, std::string_view name, const std::string& text)
-{
-    toml::table changed = values;
-    changed.insert_or_assign(name, text);
-    if (!Survives(changed))
-        return false;
-    values = std::move(changed);
-    return true;
-}
-
-/// Numbers and texts are TOML's own. What these cannot hold is { type = 1, hex = "0a41" }.
+/// Numbers and texts are TOML's own. What these cannot hold is { type = 1, hex = "0a41" }; so is a text with which the
+/// file would have more dots than it may.
 void Store(toml::table& values, std::string_view name, const Value& value)
 {
     if (value.type == REG_DWORD && value.bytes.size() == sizeof(DWORD)) {
         DWORD number;
         memcpy(&number, value.bytes.data(), sizeof number);
         values.insert_or_assign(name, static_cast<int64_t>(number));
-    } else if (value.type != REG_SZ || !StoreText(values, name, value.bytes)) {
-        toml::table encoded{ { "type", static_cast<int64_t>(value.type) }, { "hex", ToHex(value.bytes) } };
-        encoded.is_inline(true);
-        values.insert_or_assign(name, std::move(encoded));
+        return;
     }
+    if (value.type == REG_SZ) {
+        values.insert_or_assign(name, value.bytes);
+        if (Survives(values))
+            return;
+    }
+    toml::table encoded{ { "type", static_cast<int64_t>(value.type) }, { "hex", ToHex(value.bytes) } };
+    encoded.is_inline(true);
+    values.insert_or_assign(name, std::move(encoded));
 }
 
 std::optional<DWORD> AsNumber(const toml::node* node)
