@@ -146,7 +146,7 @@ bool SoundCreate(int id, const WAVEFORMATEX* format, uint32_t byteCount)
     ReleaseAndForget(entry.buffer);
     entry.format = *format;
     entry.byteCount = byteCount;
-    const DSBUFFERDESC description = BufferDescription(SOUND_BUFFER_FLAGS, byteCount, &entry.format);
+    const DSBUFFERDESC description = BufferDescription(SOUND_BUFFER_FLAGS, entry.byteCount, &entry.format);
     return device->CreateSoundBuffer(&description, &entry.buffer, nullptr) == DS_OK;
 }
 

@@ -111,11 +111,11 @@ struct SoundBuffer : Counted<IDirectSoundBuffer> {
             directX.buffers.push_back(&bytes);
     }
     ~SoundBuffer() override { std::erase(directX.buffers, &bytes); }
-    HRESULT Lock(DWORD, DWORD, LPVOID* first, DWORD* firstBytes, LPVOID*, DWORD*, DWORD) override
+    HRESULT Lock(DWORD from, DWORD count, LPVOID* first, DWORD* firstBytes, LPVOID*, DWORD*, DWORD flags) override
     {
         *first = bytes.data();
         *firstBytes = static_cast<DWORD>(bytes.size());
-        return directX.Step("LockSound");
+        return directX.Step("LockSound", { from, count, flags });
     }
     HRESULT Play(DWORD, DWORD, DWORD flags) override { return directX.Step("Play", { number, flags }); }
     HRESULT SetCurrentPosition(DWORD position) override { return directX.Step("SetCurrentPosition", { position }); }
@@ -125,7 +125,10 @@ struct SoundBuffer : Counted<IDirectSoundBuffer> {
                                            format->nAvgBytesPerSec, format->nBlockAlign, format->wBitsPerSample });
     }
     HRESULT Stop() override { return directX.Step("Stop", { number }); }
-    HRESULT Unlock(LPVOID, DWORD, LPVOID, DWORD) override { return directX.Step("UnlockSound"); }
+    HRESULT Unlock(LPVOID, DWORD first, LPVOID, DWORD second) override
+    {
+        return directX.Step("UnlockSound", { first, second });
+    }
     HRESULT Restore() override { return directX.Step("RestoreSound"); }
 
     std::string bytes;
