@@ -48,7 +48,7 @@ HRESULT Make(Interface** made, HRESULT result, Arguments... arguments)
 }
 
 struct Clipper : Counted<IDirectDrawClipper> {
-    HRESULT SetHWnd(DWORD, HWND) override { return directX.Step("SetHWnd"); }
+    HRESULT SetHWnd(DWORD flags, HWND) override { return directX.Step("SetHWnd", { flags }); }
 };
 
 struct Surface : Counted<IDirectDrawSurface> {
@@ -56,29 +56,29 @@ struct Surface : Counted<IDirectDrawSurface> {
     static constexpr LONG HEIGHT = 480;
     static constexpr LONG PITCH = WIDTH + 32; ///< pixels: a surface's rows may lie apart
 
-    HRESULT Blt(RECT*, IDirectDrawSurface* source, RECT*, DWORD, DDBLTFX*) override
+    HRESULT Blt(RECT*, IDirectDrawSurface* source, RECT*, DWORD flags, DDBLTFX*) override
     {
         const auto from = static_cast<Surface*>(source)->pixels.begin();
         directX.screen.clear();
         for (LONG y = 0; y < HEIGHT; ++y)
             directX.screen.insert(directX.screen.end(), from + y * PITCH, from + y * PITCH + WIDTH);
-        return directX.Step("Blt");
+        return directX.Step("Blt", { flags });
     }
-    HRESULT GetAttachedSurface(DDSCAPS*, IDirectDrawSurface** surface) override
+    HRESULT GetAttachedSurface(DDSCAPS* wanted, IDirectDrawSurface** surface) override
     {
-        return Make<Surface>(surface, directX.Step("GetAttachedSurface"));
+        return Make<Surface>(surface, directX.Step("GetAttachedSurface", { wanted->dwCaps }));
     }
     HRESULT GetPixelFormat(DDPIXELFORMAT* format) override
     {
         format->dwGBitMask = directX.greenMask;
-        return directX.Step("GetPixelFormat");
+        return directX.Step("GetPixelFormat", { format->dwSize == sizeof *format });
     }
     HRESULT IsLost() override { return directX.surfacesLost ? DDERR_SURFACELOST : DD_OK; }
-    HRESULT Lock(RECT*, DDSURFACEDESC* description, DWORD, HANDLE) override
+    HRESULT Lock(RECT*, DDSURFACEDESC* description, DWORD flags, HANDLE) override
     {
         description->lpSurface = pixels.data();
         description->lPitch = 2 * PITCH;
-        return directX.Step("Lock");
+        return directX.Step("Lock", { flags });
     }
     HRESULT Restore() override { return directX.Step("Restore"); }
     HRESULT SetClipper(IDirectDrawClipper*) override { return directX.Step("SetClipper"); }
@@ -88,13 +88,15 @@ struct Surface : Counted<IDirectDrawSurface> {
 };
 
 struct DirectDraw : Counted<IDirectDraw> {
-    HRESULT CreateClipper(DWORD, IDirectDrawClipper** clipper, IUnknown*) override
+    HRESULT CreateClipper(DWORD flags, IDirectDrawClipper** clipper, IUnknown*) override
     {
-        return Make<Clipper>(clipper, directX.Step("CreateClipper"));
+        return Make<Clipper>(clipper, directX.Step("CreateClipper", { flags }));
     }
     HRESULT CreateSurface(DDSURFACEDESC* description, IDirectDrawSurface** surface, IUnknown*) override
     {
-        return Make<Surface>(surface, directX.Step("CreateSurface", { description->dwBackBufferCount }));
+        return Make<Surface>(
+            surface, directX.Step("CreateSurface", { description->dwSize == sizeof *description, description->dwFlags,
+                                                     description->ddsCaps.dwCaps, description->dwBackBufferCount }));
     }
     HRESULT RestoreDisplayMode() override { return directX.Step("RestoreDisplayMode"); }
     HRESULT SetCooperativeLevel(HWND, DWORD level) override { return directX.Step("SetCooperativeLevel", { level }); }

@@ -56,8 +56,8 @@ TEST_F(Display, FullScreenShowsTheFrameAlsoWithFiveBitsOfGreenAndAfterALoss)
         directX.greenMask = greenMask;
         ASSERT_TRUE(EnterFullScreen());
         EXPECT_EQ(directX.TakeCalls(),
-                  "DirectDrawCreate, SetCooperativeLevel 17, SetDisplayMode 640 480 16, CreateSurface 1, "
-                  "GetAttachedSurface, CreateClipper, SetHWnd, SetClipper, GetPixelFormat");
+                  "DirectDrawCreate, SetCooperativeLevel 17, SetDisplayMode 640 480 16, CreateSurface 1 33 8728 1, "
+                  "GetAttachedSurface 4, CreateClipper 0, SetHWnd 0, SetClipper, GetPixelFormat 1");
         DisplayPresent(frame);
         std::vector<uint16_t> expected(frame.pixels, frame.Row(HEIGHT));
         if (greenMask == 0x03E0)
@@ -68,7 +68,8 @@ TEST_F(Display, FullScreenShowsTheFrameAlsoWithFiveBitsOfGreenAndAfterALoss)
         directX.surfacesLost = false;
         directX.Fail("Lock");
         DisplayPresent(frame); // the back surface is still copied
-        EXPECT_EQ(directX.TakeCalls(), "Lock, Unlock, Blt, Restore, Lock, Unlock, Restore, Blt, Lock, Blt");
+        EXPECT_EQ(directX.TakeCalls(),
+                  "Lock 1, Unlock, Blt 16777216, Restore, Lock 1, Unlock, Restore, Blt 16777216, Lock 1, Blt 16777216");
         directX.Fail("none");
         DisplayRelease();
         EXPECT_EQ(directX.TakeCalls(), "RestoreDisplayMode, SetCooperativeLevel 8");

@@ -37,6 +37,9 @@ void AddProgram(StateFields& fields)
     fields.emplace("windowed", isWindowed);
     fields.emplace("lastError", lastError);
     fields.emplace("captureScreen", captureScreen);
+    const HCURSOR cursor = SetCursor(nullptr); // which tells the one before
+    SetCursor(cursor);
+    fields.emplace("cursor", std::to_string(requestedSection != nullptr && cursor != nullptr));
     Add(fields, "input",
         { FIELD(input, mouseX), FIELD(input, mouseY), FIELD(input, mouseLeftDown), FIELD(input, mouseRightDown),
           FIELD(input, lastKeyDown), FIELD(input, lastKeyUp), FIELD(input, hasFocus) });
