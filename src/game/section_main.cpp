@@ -16,32 +16,6 @@ constexpr int DAMPING_SHIFT = 5; ///< a wave keeps 31 of 32 parts of its height 
 constexpr int REFRACTION_SHIFT = 3;
 constexpr int MOUSE_REST_FRAMES = 5 * FRAMES_PER_SECOND;
 
-/// Where the mouse was last seen, and for how many frames it has rested there.
-int32_t lastMouseX = -1;
-int32_t lastMouseY = -1;
-int32_t mouseIdleFrames = 0;
-
-void CountMouseRest()
-{
-    if (input.mouseX == lastMouseX && input.mouseY == lastMouseY) {
-        ++mouseIdleFrames;
-        return;
-    }
-    lastMouseX = input.mouseX;
-    lastMouseY = input.mouseY;
-    mouseIdleFrames = 0;
-}
-
-/// Hides the cursor of a resting mouse, except while there are buttons to click.
-void ShowOrHideCursor(bool panelOpen)
-{
-    CountMouseRest();
-    if (mouseIdleFrames >= MOUSE_REST_FRAMES && !panelOpen)
-        SetCursor(nullptr);
-    else
-        SetCursor(LoadCursorA(nullptr, IDC_ARROW));
-}
-
 void TellPlayers(const CPond& pond)
 {
     for (int i = 0; i <= pond.players && !pond.snake[0].isPaused; ++i) {
@@ -90,6 +64,27 @@ bool CSectionMain::SectionProcess()
     TellPlayers(pond);
     if (pond.gameOver)
         LeaveForMenu(pond);
-    ShowOrHideCursor(pond.statusBar.panelOpen);
+    ShowOrHideCursor();
     return true;
+}
+
+void CSectionMain::CountMouseRest()
+{
+    if (input.mouseX == lastMouseX && input.mouseY == lastMouseY) {
+        ++mouseIdleFrames;
+        return;
+    }
+    lastMouseX = input.mouseX;
+    lastMouseY = input.mouseY;
+    mouseIdleFrames = 0;
+}
+
+/// Hides the cursor of a resting mouse, except while there are buttons to click.
+void CSectionMain::ShowOrHideCursor()
+{
+    CountMouseRest();
+    if (mouseIdleFrames >= MOUSE_REST_FRAMES && !pond.statusBar.panelOpen)
+        SetCursor(nullptr);
+    else
+        SetCursor(LoadCursorA(nullptr, IDC_ARROW));
 }

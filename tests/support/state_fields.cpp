@@ -40,6 +40,7 @@ void AddProgram(StateFields& fields)
     const HCURSOR cursor = SetCursor(nullptr); // which tells the one before
     SetCursor(cursor);
     fields.emplace("cursor", std::to_string(requestedSection != nullptr && cursor != nullptr));
+    fields.emplace("mouseIdleFrames", sectionMain.mouseIdleFrames);
     Add(fields, "input",
         { FIELD(input, mouseX), FIELD(input, mouseY), FIELD(input, mouseLeftDown), FIELD(input, mouseRightDown),
           FIELD(input, lastKeyDown), FIELD(input, lastKeyUp), FIELD(input, hasFocus) });
