@@ -2,6 +2,7 @@
 
 #include "app/frame_images.h"
 #include "app/game_window.h"
+#include "app/input.h"
 #include "app/scenes.h"
 #include "app/section.h"
 #include "doubles/system.h"
@@ -91,6 +92,12 @@ TEST_F(GameTest, RunsOneFrameEvery40MsAndNeverMakesUpLateOnes)
     requestedSection = &other;
     EXPECT_EQ(TickAfter(40), "bfffffe");
     EXPECT_EQ(other.notes, "bf") << "within one tick";
+    SDL_Event press = {};
+    press.button = { SDL_MOUSEBUTTONDOWN, 0, 0, 0, SDL_BUTTON_RIGHT, SDL_PRESSED, 1, 0, 7, 8 };
+    SDL_PushEvent(&press);
+    PostQuitMessage(5);
+    EXPECT_EQ(RunMessageLoop(), 5);
+    EXPECT_TRUE(input.mouseRightDown && input.mouseX == 7 && input.mouseY == 8);
     DestroyWindow(gameWindow);
     EXPECT_EQ(other.notes, "bfe");
     EXPECT_EQ(backBuffer.pixels, nullptr);

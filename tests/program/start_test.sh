@@ -83,8 +83,11 @@ for bad in alike missing; do
     cmp again.xpf Dat/Image.xpf || fail "a refusal changed the pack"
 done
 new_copy loose "$pictures/." Dat/Image
+echo >Dat/Image.xpf
 run_until TERM start_elsewhere
-grep -q 'Can not load sound' errors || fail "nobody hears of the missing sounds"
+for said in 'Dat\Image.xpf: Can not read pack file' 'Wav\popo.wav: Can not load sound'; do
+    grep -qxF "$said (in $PWD)" errors || fail "nobody hears of it: $said"
+done
 [ ! -s "$folder/said" ] || fail "a second copy said: $(cat "$folder/said")"
 # Without a display, told which or left to itself. What SDL loads for one leaves memory behind, which is none of ours.
 for driver in x11 ''; do
