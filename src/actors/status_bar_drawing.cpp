@@ -105,7 +105,7 @@ void CStatusBar::DrawPlayer(CImage& screen, int player)
 void CStatusBar::DrawStreak(CImage& screen, int player)
 {
     const CSnake& snake = pond->snake[player];
-    if (!IsInGame(player) || snake.lastColour < 0 || snake.lastColour >= ORDINARY_COLOURS)
+    if (!IsInGame(player) || snake.lastColour < 0)
         return;
     if (snake.streak == WARNING_STREAK && IsBlinkedOff(streakBlink))
         return;

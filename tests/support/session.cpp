@@ -171,7 +171,8 @@ void Session::Close()
         return;
     if (requestedSection != nullptr)
         DestroyWindow(gameWindow);
-    RunMessageLoop();
+    if (RunMessageLoop() != 0)
+        throw std::logic_error("the program ends with another code than 0");
     isOpen = false;
     input = InputState{};                                         // as in Frame
     Rebuild(game, "Tervalis", SCREEN_WIDTH, SCREEN_HEIGHT, true); // saves the settings
