@@ -126,7 +126,7 @@ void AddPond(StateFields& fields, CPond& pond)
         { FIELD(pond.shockwave, x), FIELD(pond.shockwave, y), FIELD(pond.shockwave, radius),
           FIELD(pond.shockwave, maxRadius) });
     for (int i = 0; i < 2; ++i)
-        fields.emplace(At("moon", i), std::to_string(pond.moonImages[i].opacity));
+        fields.emplace(At("moon", i), pond.moonImages[i].opacity);
     AddSnake(fields, "snake[0]", pond.snake[0]);
     AddSnake(fields, "snake[1]", pond.snake[1]);
     AddStatusBar(fields, pond.statusBar);
