@@ -12,9 +12,6 @@ void ApplyDisplayMode(bool windowed)
 void SwitchDisplayMode(HWND window, int width, int height, bool windowed)
 {
     WriteLog(windowed ? "Full Screen -> Windowed" : "Windowed -> Full Screen");
-    isWindowed = windowed;
-    if (DisplaySetMode(window, width, height, windowed))
-        return;
-    isWindowed = !windowed;
-    DisplaySetMode(window, width, height, !windowed);
+    if (!DisplaySetMode(window, width, height, windowed))
+        DisplaySetMode(window, width, height, !windowed);
 }

@@ -8,7 +8,7 @@
 using RowConverter = void (*)(const CImage& image, void* surface, int rowSkip);
 
 extern HWND displayWindow; ///< window of the last DisplaySetMode
-extern bool isWindowed;    ///< current mode; who switches flips it first
+extern bool isWindowed;    ///< the mode that was set last
 extern int displayWidth;   ///< size of the last DisplaySetMode, pixels
 extern int displayHeight;
 

@@ -5,10 +5,12 @@
 #include "app/input.h"
 #include "app/scenes.h"
 #include "app/section.h"
+#include "app/section_load.h"
 #include "doubles/system.h"
 #include "game/section_main.h"
 #include "gfx/error.h"
 #include "menu/section_menu.h"
+#include "platform/sdl/told_frame.h"
 #include "support/faults.h"
 #include "support/program_fixture.h"
 
@@ -136,6 +138,31 @@ TEST_F(GameTest, AStartThatFailsLeavesNoWindow)
         EXPECT_FALSE(nativeWindow.handle) << failing;
     }
     FailCall(Calls::PLANES, 0, false);
+}
+
+TEST_F(GameTest, TellsPadsWhatCanBeClickedAndWhoSteersHow)
+{
+    while (!statusBarLoaded)
+        sectionLoad.SectionProcess();
+    requestedSection = &sectionMenu;
+    session->Frame();
+    EndToldFrame();
+    ASSERT_EQ(Clickables().size(), 7u) << "the buttons of the main menu";
+    EXPECT_TRUE(Clickables()[6].left == 407 && Clickables()[6].bottom == 379 + 36);
+    EXPECT_TRUE(Players().empty());
+
+    sectionMenu.twoPlayers = 1;
+    requestedSection = &sectionMain;
+    while (!sectionMain.pond.snake[0].SnakeIsSwimming())
+        session->Frame();
+    EndToldFrame();
+    ASSERT_EQ(Players().size(), 2u);
+    EXPECT_TRUE(Players()[0].isMoving && Players()[1].keys.left == 'A');
+    input.lastKeyDown = VK_SPACE;
+    session->Frame();
+    session->Frame();
+    EndToldFrame();
+    EXPECT_TRUE(Players().empty() && Clickables().size() == 2) << "it pauses";
 }
 
 TEST_F(GameTest, LoadingMissesEachPlaneThatCannotBeHad)

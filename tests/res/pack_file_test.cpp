@@ -60,6 +60,7 @@ TEST_F(PackFile, ServesLooseFilesBeforeMembersAndTheEarlierOfTwoAlike)
     ASSERT_TRUE(Open("FPX_" + LittleEndian<uint32_t>(4) + Entry("\\one.bmp", DATA, 5) + Entry("\\empty", DATA + 5, 0) +
                      Entry("\\one.bmp", DATA + 5, 6) + Entry("\\two", DATA + 11, 1) + "firstsecond2"));
     EXPECT_TRUE(OpenPack("missing.xpf")) << "one pack is enough";
+    EXPECT_TRUE(packTable[0].Open("Dat\\Image.xpf")) << "which closes what was open";
     EXPECT_EQ(Load("Dat\\Image/Two"), "2");
     EXPECT_EQ(Load("Dat\\Image/One.BMP"), "first");
     EXPECT_EQ(file.offset, DATA);

@@ -4,6 +4,7 @@
 #include "platform/gdi.h"
 
 #include <cstdint>
+#include <cstring>
 
 namespace
 {
@@ -29,7 +30,7 @@ HFONT WINAPI CreateFontA(int height, int width, int, int, int, DWORD, DWORD, DWO
 
 HDC WINAPI CreateCompatibleDC(HDC)
 {
-    return reinterpret_cast<HDC>(new Cell{ 13, 5 });
+    return reinterpret_cast<HDC>(new Cell{ 7, 3 }); // no text of the game is as small
 }
 
 HGDIOBJ WINAPI SelectObject(HDC context, HGDIOBJ font)
@@ -65,10 +66,11 @@ BOOL WINAPI GetTextMetricsA(HDC context, TEXTMETRICA* metrics)
 
 /// A space is blank; every other character stands on the base line, capital letters higher than the others. Digits are
 /// equally wide.
-DWORD WINAPI GetGlyphOutlineA(HDC context, UINT character, UINT, GLYPHMETRICS* metrics, DWORD, LPVOID buffer,
-                              const MAT2*)
+DWORD WINAPI GetGlyphOutlineA(HDC context, UINT character, UINT format, GLYPHMETRICS* metrics, DWORD, LPVOID buffer,
+                              const MAT2* matrix)
 {
-    if (context == nullptr)
+    constexpr MAT2 identity = { { 0, 1 }, { 0, 0 }, { 0, 0 }, { 0, 1 } };
+    if (context == nullptr || format != GGO_GRAY4_BITMAP || std::memcmp(matrix, &identity, sizeof identity) != 0)
         return GDI_ERROR;
     const bool isBlank = character <= ' ';
     const bool isDigit = character >= '0' && character <= '9';
