@@ -60,7 +60,7 @@ struct Surface : Counted<IDirectDrawSurface> {
     {
         const auto from = static_cast<Surface*>(source)->pixels.begin();
         directX.screen.clear();
-        for (LONG y = 0; y < HEIGHT && from[PITCH * HEIGHT] == 0; ++y) // nothing was written behind the last row
+        for (LONG y = 0; y < HEIGHT && from[PITCH * HEIGHT] == 1; ++y) // nothing was written behind the last row
             directX.screen.insert(directX.screen.end(), from + y * PITCH, from + y * PITCH + WIDTH);
         return directX.Step("Blt", { flags });
     }
@@ -84,7 +84,7 @@ struct Surface : Counted<IDirectDrawSurface> {
     HRESULT SetClipper(IDirectDrawClipper*) override { return directX.Step("SetClipper"); }
     HRESULT Unlock(LPVOID) override { return directX.Step("Unlock"); }
 
-    std::vector<uint16_t> pixels = std::vector<uint16_t>(PITCH * (HEIGHT + 1));
+    std::vector<uint16_t> pixels = std::vector<uint16_t>(PITCH * (HEIGHT + 1), 1);
 };
 
 struct DirectDraw : Counted<IDirectDraw> {
