@@ -38,7 +38,7 @@ int ReadFormat(HMMIO file, WAVEFORMATEX** format)
     if (!*format)
         return WAVE_ERR_MEMORY;
     **format = header;
-    if (header.cbSize != 0 && !ReadExactly(file, *format + 1, header.cbSize))
+    if (!ReadExactly(file, *format + 1, header.cbSize))
         return WAVE_ERR_NOT_WAVE;
     return 0;
 }
