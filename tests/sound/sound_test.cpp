@@ -1,7 +1,6 @@
 #include "sound/sound.h"
 
 #include "doubles/directx.h"
-#include "sound/wave.h"
 #include "support/file_bytes.h"
 #include "support/temp_folder.h"
 
@@ -169,29 +168,5 @@ TEST_F(SoundTest, EachFailedLoadingStepLeavesSilence)
         EXPECT_EQ(SoundPlay(3, false), !directX.buffers.empty()) << row.path << ", " << row.failing;
         SoundRelease();
     }
-}
-TEST_F(SoundTest, ReadsAWaveInParts)
-{
-    WAVEFORMATEX other{};
-    WAVEFORMATEX* format = &other;
-    HMMIO file = nullptr;
-    MMCKINFO riff{};
-    MMCKINFO data{};
-    EXPECT_EQ(WaveOpen("none.wav", &file, &format, &riff), WAVE_ERR_CANNOT_OPEN);
-    EXPECT_EQ(format, nullptr);
-
-    folder.Write("a.wav", Wave(formatChunk + Chunk("data", "abcde") + Chunk("more", "fgh")));
-    ASSERT_EQ(WaveOpen("a.wav", &file, &format, &riff), 0);
-    ASSERT_EQ(WaveSeekData(file, &data, &riff), 0);
-    std::string bytes(99, '.');
-    uint8_t* const target = reinterpret_cast<uint8_t*>(bytes.data());
-    uint32_t copied = 0;
-    EXPECT_TRUE(WaveRead(file, 3, target, &data, &copied) == 0 && copied == 3 && data.cksize == 2);
-    EXPECT_TRUE(WaveRead(file, 6, target + 3, &data, &copied) == 0 && copied == 2 && data.cksize == 0);
-    EXPECT_EQ(bytes.substr(0, 6), "abcde.");
-    data.cksize = 99;
-    EXPECT_TRUE(WaveRead(file, 99, target, &data, &copied) == WAVE_ERR_CORRUPT && copied == 0);
-    WaveClose(&file, &format);
-    EXPECT_TRUE(!file && !format);
 }
 }
