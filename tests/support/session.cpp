@@ -82,6 +82,7 @@ Session::Session(int players, uint32_t seed) : folderBefore(std::filesystem::cur
     }
     std::filesystem::current_path(folder.Path()); // for the program has gone to its own
     ClearLog();
+    backBuffer.Fill(0x1234); // whatever it shows is drawn
     SoundSetMute(0);
     soundsHeard = {};
     input = InputState{};
