@@ -5,7 +5,6 @@
 #include "app/input.h"
 #include "app/scenes.h"
 #include "app/section.h"
-#include "app/section_load.h"
 #include "doubles/system.h"
 #include "game/section_main.h"
 #include "gfx/error.h"
@@ -144,24 +143,14 @@ TEST_F(GameTest, AStartThatFailsLeavesNoWindow)
     FailCall(Calls::PLANES, 0, false);
 }
 
-TEST_F(GameTest, TellsPadsWhatCanBeClickedAndWhoSteersHow)
+TEST_F(GameTest, TellsPadsWhoSteersHowAndWhatCanBeClicked)
 {
-    while (!statusBarLoaded)
-        sectionLoad.SectionProcess();
-    requestedSection = &sectionMenu;
-    session->Frame();
-    EndToldFrame();
-    ASSERT_EQ(Clickables().size(), 7u) << "the buttons of the main menu";
-    EXPECT_TRUE(Clickables()[6].left == 407 && Clickables()[6].bottom == 379 + 36);
-    EXPECT_TRUE(Players().empty());
-
-    sectionMenu.twoPlayers = 1;
-    requestedSection = &sectionMain;
+    session.emplace(1, 1); // a game for two
     while (!sectionMain.pond.snake[0].SnakeIsSwimming())
         session->Frame();
     EndToldFrame();
-    ASSERT_EQ(Players().size(), 2u);
-    EXPECT_TRUE(Players()[0].isMoving && Players()[1].keys.left == 'A');
+    ASSERT_TRUE(Players().size() == 2 && Clickables().size() == 3);
+    EXPECT_TRUE(Players()[0].isMoving && Players()[1].keys.left == 'A' && Clickables()[2].bottom == 433 + 14);
     input.lastKeyDown = VK_SPACE;
     session->Frame();
     session->Frame();

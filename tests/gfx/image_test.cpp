@@ -74,7 +74,7 @@ TEST(Image, DrawUsesItsArgumentsForTheCallOnlyAndNeverMoreThanThereIs)
     EXPECT_TRUE(source.x == 9 && source.y == 0 && source.width == 6 && source.height == 6);
 }
 
-TEST(Image, CopyAlphaCoversTheOverlapOnly)
+TEST(Image, CopiesAlphaToTheOverlapAndDrawsByKeyWhereThereIsNone)
 {
     CImage mask;
     CImage image;
@@ -83,11 +83,8 @@ TEST(Image, CopyAlphaCoversTheOverlapOnly)
     std::fill_n(mask.alpha, mask.pitch / 2 * mask.height, uint8_t{ 20 });
     image.CopyAlpha(mask);
     EXPECT_TRUE(image.AlphaRow(2)[2] == 20 && image.AlphaRow(2)[3] == 0);
-}
 
-TEST(Image, DrawReplacesAlphaRoutinesForGoodWhereThereIsNoAlphaPlane)
-{
-    CImage image;
+    image.Free();
     ASSERT_TRUE(image.Create(4, 4));
     image.blit = BlitAlpha;
     image.Draw(image);
