@@ -80,9 +80,11 @@ def start_browser():
 
 
 class Player:
-    def __init__(self, browser, url):
+    def __init__(self, browser, url, build):
         self.browser = browser
         self.url = url
+        self.build = build
+        self.script = read_script()
         self.console = []
 
     def open(self):
@@ -141,12 +143,7 @@ class Player:
         self.browser.find_element("id", name).click()
 
 
-def step(text):
-    print(time.strftime("%T"), text, flush=True)
-
-
-def play_a_game(player):
-    step("A game by keys, with pauses")
+def play_with_pauses(player):
     player.click(202, 176)
     player.await_line("CSectionMain::SectionBegin")
     player.await_play()
@@ -156,7 +153,7 @@ def play_a_game(player):
     player.press(Keys.SPACE)
     player.await_play()
 
-    step("A tab in front of it")
+    # A tab in front of it.
     other = player.browser.execute_cdp_cmd("Target.createTarget", {"url": "about:blank"})
     player.await_page("document.hidden")
     player.await_rest()
@@ -176,10 +173,9 @@ def colours(picture, step=1):
     return numpy.asarray(Image.open(picture).convert("RGB"))[::step, ::step] >> (3, 2, 3)
 
 
-def load_over_slow_line(player, script):
-    step("The first load over a line of 20 Mbit/s")
+def load_over_slow_line(player):
     with open(os.path.join(HERE, "frame_probe.js")) as file:
-        probe = f"{{const script = {json.dumps(script)};\n{file.read()}}}"
+        probe = f"{{const script = {json.dumps(player.script)};\n{file.read()}}}"
     added = player.browser.execute_cdp_cmd("Page.addScriptToEvaluateOnNewDocument", {"source": probe})
     player.browser.set_network_conditions(latency=20, download_throughput=LINE_BYTES, upload_throughput=LINE_BYTES)
     player.open()
@@ -190,22 +186,21 @@ def load_over_slow_line(player, script):
     assert Handler.wire_bytes <= LARGEST_LOAD
 
 
-def compare_with_desktop(player, script, desktop):
-    step("A game from its first frame to its place in the ranking, equal to the desktop's in every pixel")
-    names = [row[2] for row in script if row[1] == "shot"]
+def compare_game_with_desktop(player):
+    """From its first frame to its place in the ranking, equal in every pixel."""
+    names = [row[2] for row in player.script if row[1] == "shot"]
     player.await_page(f"Object.keys(shots).length === {len(names)}")
     factor = player.ask("canvas.width") // 640
     for name in names:
         shot = base64.b64decode(player.ask(f"shots['{name}']").split(",")[1])
-        expected = colours(os.path.join(desktop, name + ".png"))
+        expected = colours(os.path.join(player.build, "desktop", name + ".png"))
         assert (colours(io.BytesIO(shot), factor) == expected).all(), name
     player.await_line("CSectionMain::SectionEnd")
     player.press("Ann", Keys.ENTER, Keys.ENTER)
     player.await_rest()
 
 
-def change_options(player):
-    step("Out of the game, and another key")
+def leave_game_for_options(player):
     player.press(Keys.ESCAPE, Keys.ENTER)
     player.await_line("CSectionMenu::SectionBegin")
     player.click(507, 285)
@@ -213,7 +208,6 @@ def change_options(player):
 
 
 def cover_screen(player):
-    step("Full screen")
     for enter in (player.press_alt_enter, lambda: player.click_on("fullscreen")):
         enter()
         player.await_page("document.fullscreenElement !== null")
@@ -222,7 +216,6 @@ def cover_screen(player):
 
 
 def reload(player):
-    step("A reload")
     is_kept = """['"Up 1" = 73', '"Name 1" = "Ann"'].every((line) => localStorage['Tervalis/settings.toml'].includes(line))"""
     player.open()
     assert player.ask(is_kept)
@@ -233,13 +226,11 @@ def reload(player):
 
 
 def fail_to_start(player):
-    step("Damaged and missing files")
     for name, text in DAMAGED.items():
         for Handler.damaged, Handler.missing in ((name, None), (None, name)):
             player.open()
             player.click_on("play")
             player.await_message(text)
-    step("Browsers that cannot play it")
     for lack, text in LACKING.items():
         player.browser.execute_cdp_cmd("Page.addScriptToEvaluateOnNewDocument", {"source": lack})
         player.open()
@@ -260,11 +251,10 @@ def check_requests(player):
     assert all(url.startswith((player.url, "blob:", "data:")) for url in urls), urls
 
 
-def replay_recordings(browser, url):
-    step("The recorded games")
-    browser.set_script_timeout(5 * PATIENCE)
-    browser.get(url + "unit_tests.js")
-    code, lines = browser.execute_async_script("""
+def replay_recordings(player):
+    player.browser.set_script_timeout(5 * PATIENCE)
+    player.browser.get(serve(os.path.join(player.build, "tests")) + "unit_tests.js")
+    code, lines = player.browser.execute_async_script("""
         const lines = [];
         const say = (line) => lines.push(line);
         const script = document.createElement('script');
@@ -276,28 +266,19 @@ def replay_recordings(browser, url):
 
 
 def main(site, build):
-    browser = start_browser()
-    player = Player(browser, serve(site))
+    player = Player(start_browser(), serve(site), build)
     try:
-        script = read_script()
-        load_over_slow_line(player, script)
-        browser.save_screenshot(os.path.join(build, "menu.png"))
-        compare_with_desktop(player, script, os.path.join(build, "desktop"))
-        play_a_game(player)
-        browser.save_screenshot(os.path.join(build, "game.png"))
-        change_options(player)
-        cover_screen(player)
-        reload(player)
-        check_console(player)
-        fail_to_start(player)
-        check_requests(player)
-        replay_recordings(browser, serve(os.path.join(build, "tests")))
+        for act in (load_over_slow_line, compare_game_with_desktop, play_with_pauses, leave_game_for_options, cover_screen,
+                    reload, check_console, fail_to_start, check_requests, replay_recordings):
+            print(time.strftime("%T"), act.__name__.replace("_", " "), flush=True)
+            act(player)
+            player.browser.save_screenshot(os.path.join(build, act.__name__ + ".png"))
     except BaseException:
-        browser.save_screenshot(os.path.join(build, "failure.png"))
+        player.browser.save_screenshot(os.path.join(build, "failure.png"))
         print("\n".join(entry["message"] for entry in player.console[-20:]), file=sys.stderr)
         raise
     finally:
-        browser.quit()
+        player.browser.quit()
     print("The page does what it should.")
 
 
