@@ -22,16 +22,11 @@ HANDLE HandleOf(KernelObject* object)
 
 KernelObject* ObjectOf(HANDLE handle)
 {
-    return handle == INVALID_HANDLE_VALUE ? nullptr : static_cast<KernelObject*>(handle);
+    return static_cast<KernelObject*>(handle);
 }
 
 BOOL CloseHandle(HANDLE handle)
 {
-    KernelObject* object = ObjectOf(handle);
-    if (!object) {
-        SetLastError(ERROR_INVALID_HANDLE);
-        return FALSE;
-    }
-    delete object;
+    delete ObjectOf(handle);
     return TRUE;
 }

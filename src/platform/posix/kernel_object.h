@@ -13,5 +13,4 @@ struct KernelObject {
 /// The handle of a new object; CloseHandle takes it back.
 HANDLE HandleOf(KernelObject* object);
 
-/// Null when the handle is none.
 KernelObject* ObjectOf(HANDLE handle);

@@ -18,10 +18,8 @@ bool KeptFrame::SetSize(SDL_Point newSize)
     });
 }
 
-bool KeptFrame::Update(const SDL_Rect& area, const void* source, int rowBytes)
+void KeptFrame::Update(const SDL_Rect& area, const void* source, int rowBytes)
 {
-    if (area.x < 0 || area.y < 0 || area.x + area.w > size.x || area.y + area.h > size.y)
-        return false;
     const size_t bytes = static_cast<size_t>(area.w) * sizeof(uint16_t);
     const uint8_t* from = static_cast<const uint8_t*>(source);
     for (int row = area.y; row < area.y + area.h; ++row, from += rowBytes) {
@@ -31,7 +29,6 @@ bool KeptFrame::Update(const SDL_Rect& area, const void* source, int rowBytes)
         std::memcpy(to, from, bytes);
         changed[static_cast<size_t>(row)] = true;
     }
-    return true;
 }
 
 bool KeptFrame::HasChanges() const

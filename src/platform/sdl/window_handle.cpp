@@ -1,14 +1,8 @@
 #include "platform/sdl/native_window.h"
 
-NativeWindow nativeWindow;
+#include <utility>
 
-namespace
-{
-DWORD& StyleWord(NativeWindow& window, int index)
-{
-    return index == GWL_STYLE ? window.style : window.extendedStyle;
-}
-}
+NativeWindow nativeWindow;
 
 HWND NativeHandle()
 {
@@ -20,20 +14,17 @@ NativeWindow* WindowOf(HWND window)
     return window == NativeHandle() && nativeWindow.handle ? &nativeWindow : nullptr;
 }
 
-LONG GetWindowLongA(HWND handle, int index)
+/// There are no extended styles.
+LONG GetWindowLongA(HWND, int index)
 {
-    NativeWindow* window = WindowOf(handle);
-    return window ? static_cast<LONG>(StyleWord(*window, index)) : 0;
+    return index == GWL_STYLE ? static_cast<LONG>(nativeWindow.style) : 0;
 }
 
 /// A style counts in the reckoning of sizes only. Frames are not taken off and put on again: the style without one is
 /// that of full screen, where no window has a frame.
-LONG SetWindowLongA(HWND handle, int index, LONG value)
+LONG SetWindowLongA(HWND, int, LONG value)
 {
-    const LONG before = GetWindowLongA(handle, index);
-    if (NativeWindow* window = WindowOf(handle))
-        StyleWord(*window, index) = static_cast<DWORD>(value);
-    return before;
+    return static_cast<LONG>(std::exchange(nativeWindow.style, static_cast<DWORD>(value)));
 }
 
 HMENU GetMenu(HWND)
