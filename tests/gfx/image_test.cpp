@@ -83,6 +83,9 @@ TEST(Image, CopiesAlphaToTheOverlapAndDrawsByKeyWhereThereIsNone)
     std::fill_n(mask.alpha, mask.pitch / 2 * mask.height, uint8_t{ 20 });
     image.CopyAlpha(mask);
     EXPECT_TRUE(image.AlphaRow(2)[2] == 20 && image.AlphaRow(2)[3] == 0);
+    mask.x = 1;
+    mask.y = 2;
+    EXPECT_TRUE(image.Copy(mask) && image.x == 1 && image.y == 2 && image.Row(8)[2] == 26);
 
     image.Free();
     ASSERT_TRUE(image.Create(4, 4));
