@@ -27,10 +27,13 @@ std::vector<Stored> ReadValues(HKEY key)
         Stored& value = values.emplace_back();
         BYTE bytes[256];
         DWORD size = sizeof bytes;
+        DWORD wholeSize = 0;
         value.result = RegQueryValueExA(key, name, nullptr, &value.type, bytes, &size);
         if (value.result != static_cast<LONG>(ERROR_SUCCESS))
             continue;
         value.bytes.assign(bytes, bytes + size);
+        RegQueryValueExA(key, name, nullptr, nullptr, nullptr, &wholeSize);
+        Require(wholeSize == size);
     }
     return values;
 }
@@ -73,8 +76,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     Require(ReadValues(key) == before);
     BYTE bytes[64];
     DWORD kept = sizeof bytes;
-    DWORD type = 0;
-    Require(RegQueryValueExA(key, "No Sound", nullptr, &type, bytes, &kept) == static_cast<LONG>(ERROR_SUCCESS));
+    Require(RegQueryValueExA(key, "No Sound", nullptr, nullptr, bytes, &kept) == static_cast<LONG>(ERROR_SUCCESS));
     Require(std::equal(bytes, bytes + kept, data) && kept == stored);
     RegCloseKey(key);
     return 0;

@@ -45,6 +45,8 @@ struct BITMAPINFO {
 struct TEXTMETRICA {
     LONG tmHeight;
     LONG tmAscent;
+    LONG tmDescent;
+    LONG tmAveCharWidth;
 };
 
 struct GLYPHMETRICS {
@@ -69,8 +71,8 @@ struct MAT2 {
 
 HGDIOBJ GetStockObject(int object);
 
-/// Copies RGB565 pixels, top row first, to the window; `bits` begin with the first row that is wanted. The width
-/// of `info` is even. Returns the number of rows set. The frame is on the screen when the call returns.
+/// Copies 16-bit bit-field pixels (masks behind the header, RGB565) to the context's window. Returns the number
+/// of rows set, 0 on failure. The frame is on the screen when the call returns.
 int SetDIBitsToDevice(HDC context, int x, int y, DWORD width, DWORD height, int sourceX, int sourceY, UINT startScan,
                       UINT scanLines, LPCVOID bits, const BITMAPINFO* info, UINT colourUse);
 

@@ -16,6 +16,7 @@ constexpr DWORD MMIO_READ = 0;
 constexpr DWORD MMIO_ALLOCBUF = 0x00010000;
 constexpr UINT MMIO_FINDCHUNK = 0x0010;
 constexpr MMRESULT MMSYSERR_NOERROR = 0;
+constexpr MMRESULT MMIOERR_CANNOTREAD = 261;
 constexpr MMRESULT MMIOERR_CANNOTSEEK = 263;
 constexpr MMRESULT MMIOERR_CHUNKNOTFOUND = 265;
 
@@ -63,9 +64,9 @@ DWORD timeGetTime();
 /// Opens a file for buffered reading. Paths are resolved as CreateFileA does. Null on failure.
 HMMIO mmioOpenA(LPSTR path, MMIOINFO* info, DWORD flags);
 MMRESULT mmioClose(HMMIO file, UINT flags);
-/// Bytes read, fewer at the file's end and where it cannot be read.
+/// Bytes read, fewer at the file's end, -1 on failure.
 LONG mmioRead(HMMIO file, char* buffer, LONG size);
-/// The new position. `origin` is SEEK_SET.
+/// The new position, -1 on failure. `origin` is SEEK_SET.
 LONG mmioSeek(HMMIO file, LONG offset, int origin);
 /// Enters the next chunk, or with MMIO_FINDCHUNK the next one of `chunk->ckid` inside `parent`.
 MMRESULT mmioDescend(HMMIO file, MMCKINFO* chunk, const MMCKINFO* parent, UINT flags);

@@ -15,7 +15,7 @@ constexpr DWORD KEY_ALL_ACCESS = 0xF003F;
 constexpr DWORD REG_SZ = 1;
 constexpr DWORD REG_DWORD = 4;
 
-/// Opens a key of the user's, making it when it is missing. Returns an error code, 0 for success.
+/// Opens a key, making it when it is missing. Returns an error code, 0 for success.
 LONG RegCreateKeyExA(HKEY parent, LPCSTR subKey, DWORD reserved, LPSTR keyClass, DWORD options, DWORD access,
                      SECURITY_ATTRIBUTES* security, HKEY* key, DWORD* disposition);
 /// ERROR_FILE_NOT_FOUND when there is no such value, ERROR_MORE_DATA when it is longer than `*size`.

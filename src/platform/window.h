@@ -140,7 +140,7 @@ HWND CreateWindowExA(DWORD extendedStyle, LPCSTR className, LPCSTR title, DWORD 
                      int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter);
 /// Sends WM_DESTROY, then closes the window.
 BOOL DestroyWindow(HWND window);
-/// SW_MINIMIZE alone.
+/// SW_MINIMIZE alone. False for any other.
 BOOL ShowWindow(HWND window, int command);
 BOOL SetWindowPos(HWND window, HWND insertAfter, int x, int y, int width, int height, UINT flags);
 LONG GetWindowLongA(HWND window, int index);

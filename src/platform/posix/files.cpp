@@ -1,51 +1,144 @@
 #include "platform/posix/kernel_object.h"
 #include "platform/posix/out_of_memory.h"
 #include "platform/posix/paths.h"
-#include "platform/posix/read_file.h"
 
+#include <cerrno>
+#include <cstdint>
+#include <fcntl.h>
 #include <memory>
+#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
+constexpr DWORD FAILED = 0xFFFFFFFF; ///< what sizes and positions are on failure
+
 struct OpenFile final : KernelObject {
-    Descriptor descriptor;
-    int64_t position = 0;
+    ~OpenFile() override
+    {
+        if (descriptor >= 0)
+            close(descriptor);
+    }
+
+    int descriptor = -1;
 };
 
-OpenFile& FileOf(HANDLE handle)
+/// Null, with the error set, when the handle is no open file.
+OpenFile* FileOf(HANDLE handle)
 {
-    return *static_cast<OpenFile*>(ObjectOf(handle));
+    OpenFile* file = dynamic_cast<OpenFile*>(ObjectOf(handle));
+    if (!file)
+        SetLastError(ERROR_INVALID_HANDLE);
+    return file;
+}
+
+DWORD OpenError()
+{
+    return errno == EACCES || errno == EPERM ? ERROR_ACCESS_DENIED : ERROR_FILE_NOT_FOUND;
+}
+
+bool IsRegularFile(int descriptor)
+{
+    struct stat status = {};
+    return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+}
+
+/// Splits a 64-bit size or position; without room for its high half only the low one is given.
+DWORD LowHalf(int64_t value, DWORD* high)
+{
+    if (high)
+        *high = static_cast<DWORD>(value >> 32);
+    return static_cast<DWORD>(value);
+}
+
+/// The bytes read into the buffer, fewer than `size` only at the file's end; none on a read error.
+std::optional<size_t> ReadFully(int descriptor, char* buffer, size_t size)
+{
+    size_t done = 0;
+    while (done < size) {
+        const ssize_t part = read(descriptor, buffer + done, size - done);
+        if (part == 0)
+            break;
+        if (part > 0)
+            done += static_cast<size_t>(part);
+        else if (errno != EINTR)
+            return std::nullopt;
+    }
+    return done;
+}
+
+HANDLE FailToOpen(DWORD error)
+{
+    SetLastError(error);
+    return INVALID_HANDLE_VALUE;
+}
+
+HANDLE OpenExisting(LPCSTR path)
+{
+    auto file = std::make_unique<OpenFile>();
+    // Without blocking: a pipe that lies under a picture's name must not stop the game.
+    file->descriptor = open(ResolvePath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+    if (file->descriptor < 0)
+        return FailToOpen(OpenError());
+    if (!IsRegularFile(file->descriptor))
+        return FailToOpen(ERROR_ACCESS_DENIED);
+    return HandleOf(file.release());
 }
 }
 
-HANDLE CreateFileA(LPCSTR path, DWORD, DWORD, SECURITY_ATTRIBUTES*, DWORD, DWORD, HANDLE)
+HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD, SECURITY_ATTRIBUTES*, DWORD disposition, DWORD, HANDLE)
 {
-    return OrOutOfMemory(INVALID_HANDLE_VALUE, [path] {
-        auto file = std::make_unique<OpenFile>();
-        file->descriptor.fd = OpenRegularFile(ResolvePath(path).c_str());
-        return file->descriptor.fd < 0 ? INVALID_HANDLE_VALUE : HandleOf(file.release());
-    });
+    if (access != GENERIC_READ || disposition != OPEN_EXISTING)
+        return FailToOpen(ERROR_ACCESS_DENIED);
+    return OrOutOfMemory(INVALID_HANDLE_VALUE, [path] { return OpenExisting(path); });
 }
 
 BOOL ReadFile(HANDLE handle, LPVOID buffer, DWORD size, LPDWORD bytesRead, OVERLAPPED*)
 {
-    OpenFile& file = FileOf(handle);
-    const auto done = ReadAt(file.descriptor.fd, file.position, static_cast<char*>(buffer), size);
-    if (!done)
+    if (bytesRead)
+        *bytesRead = 0;
+    const OpenFile* file = FileOf(handle);
+    if (!file)
         return FALSE;
-    file.position += static_cast<int64_t>(*done);
-    *bytesRead = static_cast<DWORD>(*done);
+    const std::optional<size_t> done = ReadFully(file->descriptor, static_cast<char*>(buffer), size);
+    if (!done) {
+        SetLastError(ERROR_READ_FAULT);
+        return FALSE;
+    }
+    if (bytesRead)
+        *bytesRead = static_cast<DWORD>(*done);
     return TRUE;
 }
 
-DWORD SetFilePointer(HANDLE handle, LONG distance, LONG*, DWORD)
+DWORD SetFilePointer(HANDLE handle, LONG distance, LONG* distanceHigh, DWORD method)
 {
-    const DWORD position = static_cast<DWORD>(distance);
-    FileOf(handle).position = position;
-    return position;
+    const OpenFile* file = FileOf(handle);
+    if (!file)
+        return FAILED;
+    int64_t offset = distance;
+    if (distanceHigh)
+        offset = static_cast<int64_t>(*distanceHigh) << 32 | static_cast<DWORD>(distance);
+    // The three methods (start, current position, end) are numbered as lseek's.
+    const off_t position = lseek(file->descriptor, offset, static_cast<int>(method));
+    if (position < 0) {
+        SetLastError(ERROR_INVALID_HANDLE);
+        return FAILED;
+    }
+    SetLastError(ERROR_SUCCESS);
+    DWORD high = 0;
+    const DWORD low = LowHalf(position, &high);
+    if (distanceHigh)
+        *distanceHigh = static_cast<LONG>(high);
+    return low;
 }
 
-DWORD GetFileSize(HANDLE handle, LPDWORD)
+DWORD GetFileSize(HANDLE handle, LPDWORD sizeHigh)
 {
-    return static_cast<DWORD>(lseek(FileOf(handle).descriptor.fd, 0, SEEK_END));
+    const OpenFile* file = FileOf(handle);
+    struct stat status = {};
+    if (!file || fstat(file->descriptor, &status) != 0)
+        return FAILED;
+    SetLastError(ERROR_SUCCESS);
+    return LowHalf(status.st_size, sizeHigh);
 }

@@ -68,6 +68,7 @@ bool FontFace::Scale(int cellHeight, int width)
         return false;
     height = cellHeight;
     ascent = static_cast<int>(std::lround(cellHeight * static_cast<double>(units.ascent) / cell));
+    averageWidth = static_cast<int>(std::lround(units.averageWidth * pixelsPerEmX / em));
     return true;
 }
 

@@ -21,6 +21,7 @@ public:
 
     int ascent = 0; ///< pixels of the cell above the baseline
     int height = 0; ///< of the cell
+    int averageWidth = 0;
 
 private:
     struct LibraryDeleter {

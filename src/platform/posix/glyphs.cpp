@@ -39,6 +39,8 @@ MemoryContext* ContextOf(HDC context)
     return reinterpret_cast<MemoryContext*>(context);
 }
 
+int stockBrush = BLACK_BRUSH;
+
 /// Fonts live until they are deleted or the process ends, so the table is never destroyed.
 union FontTable {
     FontTable() : fonts() {}
@@ -70,19 +72,19 @@ void CopyCoverage(const FT_Bitmap& bitmap, BYTE* target)
 
 GLYPHMETRICS MetricsOf(const FT_GlyphSlotRec& glyph)
 {
+    const bool isBlank = glyph.bitmap.width == 0 || glyph.bitmap.rows == 0;
     GLYPHMETRICS metrics = {};
-    metrics.gmBlackBoxX = glyph.bitmap.width;
-    metrics.gmBlackBoxY = glyph.bitmap.rows;
-    metrics.gmptGlyphOrigin = { glyph.bitmap_left, glyph.bitmap_top };
+    metrics.gmBlackBoxX = isBlank ? 1 : glyph.bitmap.width;
+    metrics.gmBlackBoxY = isBlank ? 1 : glyph.bitmap.rows;
+    metrics.gmptGlyphOrigin = { isBlank ? 0 : glyph.bitmap_left, isBlank ? 0 : glyph.bitmap_top };
     metrics.gmCellIncX = static_cast<short>((glyph.advance.x + 32) >> 6);
     return metrics;
 }
 }
 
-/// Nothing here paints with brushes: windows begin with a black frame.
-HGDIOBJ GetStockObject(int)
+HGDIOBJ GetStockObject(int object)
 {
-    return nullptr;
+    return object == BLACK_BRUSH ? &stockBrush : nullptr;
 }
 
 HDC CreateCompatibleDC(HDC)
@@ -93,24 +95,28 @@ HDC CreateCompatibleDC(HDC)
 BOOL DeleteDC(HDC context)
 {
     delete ContextOf(context);
-    return TRUE;
+    return context != nullptr;
 }
 
 /// Fonts are the only objects that go into a memory context.
 HGDIOBJ SelectObject(HDC context, HGDIOBJ object)
 {
+    if (context == nullptr || object == nullptr || object == &stockBrush)
+        return nullptr;
     return std::exchange(ContextOf(context)->font, static_cast<FontFace*>(object));
 }
 
 BOOL DeleteObject(HGDIOBJ object)
 {
     std::erase_if(table.fonts, [object](const auto& font) { return font.get() == object; });
-    return TRUE;
+    return object != nullptr;
 }
 
 HFONT CreateFontA(int height, int width, int, int, int weight, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD,
                   LPCSTR face)
 {
+    if (height <= 0 || width < 0)
+        return nullptr;
     return OrOutOfMemory<HFONT>(nullptr, [=]() -> HFONT {
         std::unique_ptr<FontFace> font = FontFace::Find(face, weight, height, width);
         if (font == nullptr)
@@ -121,22 +127,25 @@ HFONT CreateFontA(int height, int width, int, int, int weight, DWORD, DWORD, DWO
 
 BOOL GetTextMetricsA(HDC context, TEXTMETRICA* metrics)
 {
-    const FontFace* font = ContextOf(context)->font;
-    if (font == nullptr)
+    const FontFace* font = context != nullptr ? ContextOf(context)->font : nullptr;
+    if (font == nullptr || metrics == nullptr)
         return FALSE;
-    *metrics = { font->height, font->ascent };
+    *metrics = { font->height, font->ascent, font->height - font->ascent, font->averageWidth };
     return TRUE;
 }
 
-DWORD GetGlyphOutlineA(HDC context, UINT character, UINT, GLYPHMETRICS* metrics, DWORD bufferSize, LPVOID buffer,
-                       const MAT2*)
+DWORD GetGlyphOutlineA(HDC context, UINT character, UINT format, GLYPHMETRICS* metrics, DWORD bufferSize, LPVOID buffer,
+                       const MAT2* transform)
 {
-    const FT_GlyphSlotRec* glyph = ContextOf(context)->font->Render(ToUnicode(character));
+    FontFace* font = context != nullptr ? ContextOf(context)->font : nullptr;
+    if (font == nullptr || format != GGO_GRAY4_BITMAP || metrics == nullptr || transform == nullptr)
+        return GDI_ERROR;
+    const FT_GlyphSlotRec* glyph = font->Render(ToUnicode(character));
     if (glyph == nullptr)
         return GDI_ERROR;
     *metrics = MetricsOf(*glyph);
     const DWORD size = RowBytes(glyph->bitmap) * glyph->bitmap.rows;
-    if (buffer == nullptr)
+    if (buffer == nullptr || bufferSize == 0)
         return size;
     if (bufferSize < size)
         return GDI_ERROR;

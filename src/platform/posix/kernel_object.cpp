@@ -22,11 +22,16 @@ HANDLE HandleOf(KernelObject* object)
 
 KernelObject* ObjectOf(HANDLE handle)
 {
-    return static_cast<KernelObject*>(handle);
+    return handle == INVALID_HANDLE_VALUE ? nullptr : static_cast<KernelObject*>(handle);
 }
 
 BOOL CloseHandle(HANDLE handle)
 {
-    delete ObjectOf(handle);
+    KernelObject* object = ObjectOf(handle);
+    if (!object) {
+        SetLastError(ERROR_INVALID_HANDLE);
+        return FALSE;
+    }
+    delete object;
     return TRUE;
 }

@@ -13,4 +13,5 @@ struct KernelObject {
 /// The handle of a new object; CloseHandle takes it back.
 HANDLE HandleOf(KernelObject* object);
 
+/// Null when the handle is none.
 KernelObject* ObjectOf(HANDLE handle);

@@ -173,6 +173,13 @@ void Mixer::Stop(Voice& voice)
     cursor.active = false;
 }
 
+void Mixer::SetPosition(Voice& voice, uint32_t byteOffset)
+{
+    const uint64_t position = uint64_t{ byteOffset / voice.format.FrameBytes() } << 32;
+    const std::lock_guard lock(mutex);
+    voice.cursor.at = position < voice.end ? position : 0;
+}
+
 void Mixer::Mix(int16_t* target, size_t frames, bool audible)
 {
     const std::lock_guard lock(mutex);

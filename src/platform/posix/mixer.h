@@ -54,6 +54,8 @@ public:
     void Play(Voice& voice, bool loop);
     /// Stops the voice, keeping its position.
     void Stop(Voice& voice);
+    /// Moves the voice to the frame that holds that byte, or to its start if none does.
+    void SetPosition(Voice& voice, uint32_t byteOffset);
 
     /// Mixes the next frames of all voices. While not audible they go on silently.
     void Mix(int16_t* target, size_t frames, bool audible);

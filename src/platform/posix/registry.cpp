@@ -48,10 +48,15 @@ LONG Told(LONG result, const char* file)
     return result;
 }
 
+bool IsOpenKey(HKEY key)
+{
+    return key != nullptr && key != HKEY_CURRENT_USER;
+}
+
 /// The folder of a key's file: "Software\Tervalis" lies in "Tervalis". Empty when there is none.
 std::string KeyFolder(LPCSTR subKey)
 {
-    const std::string_view name = subKey;
+    const std::string_view name = subKey != nullptr ? subKey : "";
     return SettingsFolder(std::string(name.substr(name.find_last_of("\\/") + 1))); // nothing found is -1
 }
 
@@ -190,11 +195,17 @@ LONG OpenKey(LPCSTR subKey, HKEY* key)
     return Code(ERROR_SUCCESS);
 }
 
+/// Hands a value out as the system does: only its size, or all of it.
 LONG CopyValue(const Value& value, DWORD* type, BYTE* data, DWORD* size)
 {
+    if (type != nullptr)
+        *type = value.type;
+    if (size == nullptr)
+        return Code(ERROR_SUCCESS);
     const DWORD room = *size;
-    *type = value.type;
     *size = static_cast<DWORD>(value.bytes.size());
+    if (data == nullptr)
+        return Code(ERROR_SUCCESS);
     if (room < *size)
         return Code(ERROR_MORE_DATA);
     value.bytes.copy(reinterpret_cast<char*>(data), value.bytes.size());
@@ -212,23 +223,30 @@ LONG Guard(HKEY key, Access access)
 
 }
 
-LONG RegCreateKeyExA(HKEY, LPCSTR subKey, DWORD, LPSTR, DWORD, DWORD, SECURITY_ATTRIBUTES*, HKEY* key, DWORD*)
+LONG RegCreateKeyExA(HKEY parent, LPCSTR subKey, DWORD, LPSTR, DWORD, DWORD, SECURITY_ATTRIBUTES*, HKEY* key, DWORD*)
 {
+    if (parent != HKEY_CURRENT_USER || key == nullptr)
+        return Code(ERROR_INVALID_HANDLE);
     return OrOutOfMemory(Code(ERROR_NOT_ENOUGH_MEMORY), [=] { return OpenKey(subKey, key); });
 }
 
 LONG RegQueryValueExA(HKEY key, LPCSTR name, DWORD*, DWORD* type, BYTE* data, DWORD* size)
 {
+    if (!IsOpenKey(key) || (data != nullptr && size == nullptr))
+        return Code(ERROR_INVALID_HANDLE);
     return Guard(key, [=] {
-        const auto value = Fetch(key->values, name);
+        const auto value = Fetch(key->values, name != nullptr ? name : "");
         return value ? CopyValue(*value, type, data, size) : Code(ERROR_FILE_NOT_FOUND);
     });
 }
 
 LONG RegSetValueExA(HKEY key, LPCSTR name, DWORD, DWORD type, const BYTE* data, DWORD size)
 {
+    if (!IsOpenKey(key) || (data == nullptr && size != 0))
+        return Code(ERROR_INVALID_HANDLE);
     return Guard(key, [=] {
-        Store(key->values, name, Value{ type, std::string(reinterpret_cast<const char*>(data), size) });
+        const std::string bytes = size != 0 ? std::string(reinterpret_cast<const char*>(data), size) : "";
+        Store(key->values, name != nullptr ? name : "", Value{ type, bytes });
         key->changed = true;
         return Code(ERROR_SUCCESS);
     });
@@ -236,6 +254,8 @@ LONG RegSetValueExA(HKEY key, LPCSTR name, DWORD, DWORD type, const BYTE* data, 
 
 LONG RegCloseKey(HKEY key)
 {
+    if (!IsOpenKey(key))
+        return Code(ERROR_INVALID_HANDLE);
     const std::unique_ptr<HKEY__> closing(key);
     if (!closing->isWhole)
         return Code(ERROR_NOT_ENOUGH_MEMORY);

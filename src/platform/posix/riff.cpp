@@ -1,9 +1,15 @@
 #include "platform/multimedia.h"
 #include "platform/posix/out_of_memory.h"
 #include "platform/posix/paths.h"
-#include "platform/posix/read_file.h"
 
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
 #include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
 
 struct HMMIO__ {
     static constexpr size_t BUFFER_BYTES = 64 * 1024;
@@ -15,6 +21,11 @@ struct HMMIO__ {
     }
     HMMIO__(const HMMIO__&) = delete;
     HMMIO__& operator=(const HMMIO__&) = delete;
+    ~HMMIO__()
+    {
+        if (descriptor >= 0)
+            close(descriptor);
+    }
 
     int64_t Position() const { return int64_t{ info.lBufOffset } + (info.pchNext - info.pchBuffer); }
 
@@ -24,10 +35,19 @@ struct HMMIO__ {
         info.pchNext = info.pchEndRead = info.pchBuffer;
     }
 
-    /// The bytes read; what cannot be read, as beyond the last position of 32 bits, is taken for the file's end.
-    size_t Read(char* target, size_t size) { return ReadAt(descriptor.fd, info.lBufOffset, target, size).value_or(0); }
+    /// Reads the stretch behind the buffered one, nothing at the file's end. False if the file cannot be read.
+    bool Refill()
+    {
+        DropBuffer(int64_t{ info.lBufOffset } + (info.pchEndRead - info.pchBuffer));
+        ssize_t bytes;
+        do {
+            bytes = pread(descriptor, info.pchBuffer, BUFFER_BYTES, info.lBufOffset);
+        } while (bytes < 0 && errno == EINTR);
+        info.pchEndRead += std::max<ssize_t>(bytes, 0);
+        return bytes >= 0;
+    }
 
-    Descriptor descriptor;
+    int descriptor = -1;
     MMIOINFO info{};
     char buffer[BUFFER_BYTES];
 };
@@ -56,11 +76,23 @@ bool HasFormType(const MMCKINFO& chunk)
     return chunk.ckid == RIFF_ID || chunk.ckid == LIST_ID;
 }
 
+/// Opens a regular file whose every position fits into 32 bits; -1 for anything else.
+int OpenFile(const char* path)
+{
+    const int descriptor = open(ResolvePath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor < 0)
+        return -1;
+    struct stat status;
+    if (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_size <= LAST_POSITION)
+        return descriptor;
+    close(descriptor);
+    return -1;
+}
+
 MMRESULT SeekTo(HMMIO file, int64_t position)
 {
-    if (position > LAST_POSITION)
+    if (position > LAST_POSITION || mmioSeek(file, static_cast<LONG>(position), SEEK_SET) == -1)
         return MMIOERR_CANNOTSEEK;
-    file->DropBuffer(position);
     return MMSYSERR_NOERROR;
 }
 
@@ -71,9 +103,7 @@ MMRESULT ReadChunkHeader(HMMIO file, MMCKINFO& chunk)
     DWORD header[2];
     if (mmioRead(file, reinterpret_cast<char*>(header), sizeof header) != sizeof header)
         return MMIOERR_CHUNKNOTFOUND;
-    chunk.ckid = header[0];
-    chunk.cksize = header[1];
-    chunk.dwDataOffset = static_cast<DWORD>(file->Position());
+    chunk = { header[0], header[1], 0, static_cast<DWORD>(file->Position()), 0 };
     if (HasFormType(chunk) &&
         mmioRead(file, reinterpret_cast<char*>(&chunk.fccType), sizeof chunk.fccType) != sizeof chunk.fccType)
         return MMIOERR_CHUNKNOTFOUND;
@@ -85,8 +115,8 @@ HMMIO mmioOpenA(LPSTR path, MMIOINFO*, DWORD)
 {
     return OrOutOfMemory<HMMIO>(nullptr, [path] {
         auto file = std::make_unique<HMMIO__>();
-        file->descriptor.fd = OpenRegularFile(ResolvePath(path).c_str());
-        return file->descriptor.fd < 0 ? nullptr : file.release();
+        file->descriptor = OpenFile(path);
+        return file->descriptor < 0 ? nullptr : file.release();
     });
 }
 
@@ -98,15 +128,31 @@ MMRESULT mmioClose(HMMIO file, UINT)
 
 LONG mmioRead(HMMIO file, char* target, LONG size)
 {
-    file->DropBuffer(file->Position());
-    const size_t bytes = file->Read(target, static_cast<size_t>(size));
-    file->DropBuffer(file->Position() + static_cast<int64_t>(bytes));
-    return static_cast<LONG>(bytes);
+    MMIOINFO& info = file->info;
+    LONG done = 0;
+    while (done < size) {
+        if (info.pchNext == info.pchEndRead && !file->Refill())
+            return -1;
+        const LONG count = std::min(size - done, static_cast<LONG>(info.pchEndRead - info.pchNext));
+        if (count == 0)
+            break;
+        std::memcpy(target + done, info.pchNext, static_cast<size_t>(count));
+        info.pchNext += count;
+        done += count;
+    }
+    return done;
 }
 
-LONG mmioSeek(HMMIO file, LONG offset, int)
+LONG mmioSeek(HMMIO file, LONG offset, int origin)
 {
-    file->DropBuffer(offset);
+    if (origin != SEEK_SET || offset < 0)
+        return -1;
+    MMIOINFO& info = file->info;
+    const LONG inBuffer = offset - info.lBufOffset;
+    if (inBuffer >= 0 && inBuffer <= info.pchEndRead - info.pchBuffer)
+        info.pchNext = info.pchBuffer + inBuffer;
+    else
+        file->DropBuffer(offset);
     return offset;
 }
 
@@ -145,9 +191,7 @@ MMRESULT mmioSetInfo(HMMIO file, const MMIOINFO* info, UINT)
 
 MMRESULT mmioAdvance(HMMIO file, MMIOINFO* info, UINT)
 {
-    file->info = *info;
-    file->DropBuffer(file->Position());
-    file->info.pchEndRead += file->Read(file->buffer, sizeof file->buffer);
+    const bool read = file->Refill();
     *info = file->info;
-    return MMSYSERR_NOERROR;
+    return read ? MMSYSERR_NOERROR : MMIOERR_CANNOTREAD;
 }

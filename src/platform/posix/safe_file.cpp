@@ -1,7 +1,6 @@
 #include "platform/posix/safe_file.h"
 
 #include "platform/kernel.h"
-#include "platform/posix/read_file.h"
 
 #include <cerrno>
 #include <climits>
@@ -16,9 +15,23 @@ namespace
 
 constexpr mode_t USER_FILE = 0600;
 constexpr mode_t USER_FOLDER = 0700;
+constexpr int ASIDE_NAMES = 1000;
 constexpr int MAX_LINKS = 40;
 constexpr int LOCK_TRIES = 20;
 constexpr useconds_t LOCK_WAIT_US = 25000;
+
+/// An open file, closed at the end of its scope.
+struct Descriptor {
+    explicit Descriptor(int opened) : fd(opened) {}
+    ~Descriptor()
+    {
+        if (fd >= 0)
+            close(fd);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    int fd;
+};
 
 LONG Code(DWORD code)
 {
@@ -100,14 +113,24 @@ LONG WriteNewFile(const std::string& path, const std::string& content)
 
 LONG ReadSmallFile(const std::string& path, size_t limit, std::string& content)
 {
-    const Descriptor file(OpenRegularFile(path.c_str()));
-    if (file.fd < 0)
+    // Without O_NONBLOCK a pipe in the file's place would stop the program here.
+    const Descriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    struct stat status = {};
+    if (file.fd < 0 || fstat(file.fd, &status) != 0)
         return LastCode(ERROR_READ_FAULT);
+    if (!S_ISREG(status.st_mode))
+        return Code(ERROR_READ_FAULT);
     content.resize(limit);
-    const std::optional<size_t> size = ReadAt(file.fd, 0, content.data(), limit);
-    if (!size)
-        return LastCode(ERROR_READ_FAULT);
-    content.resize(*size);
+    size_t size = 0;
+    while (size < limit) {
+        const ssize_t count = read(file.fd, content.data() + size, limit - size);
+        if (count == 0)
+            break;
+        if (count < 0 && errno != EINTR)
+            return LastCode(ERROR_READ_FAULT);
+        size += count > 0 ? static_cast<size_t>(count) : 0;
+    }
+    content.resize(size);
     return Code(ERROR_SUCCESS);
 }
 
@@ -137,7 +160,7 @@ LONG ReplaceSmallFile(const std::string& path, const std::string& content)
 
 LONG SetFileAside(const std::string& path)
 {
-    for (int number = 1;; ++number) {
+    for (int number = 1; number <= ASIDE_NAMES; ++number) {
         const std::string aside = path + ".damaged" + (number == 1 ? "" : "." + std::to_string(number));
         // Making the name first, and only if it is new, keeps rename() from replacing what was set aside before.
         const Descriptor reserved(open(aside.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, USER_FILE));
@@ -151,6 +174,7 @@ LONG SetFileAside(const std::string& path)
         unlink(aside.c_str());
         return result;
     }
+    return Code(ERROR_ALREADY_EXISTS);
 }
 
 LONG MakeFolders(const std::string& path)

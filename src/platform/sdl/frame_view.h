@@ -11,13 +11,15 @@
 class CFrameView
 {
 public:
-    /// Until the window is about to be destroyed. False when it cannot be drawn into.
+    /// False when the window cannot be drawn into.
     bool Open(SDL_Window* target);
+    /// Before the window is destroyed.
+    void Close();
     /// A black frame of that size; the same size keeps the frame. False when there is no memory for it.
     bool SetFrameSize(SDL_Point newSize) { return frame.SetSize(newSize); }
     SDL_Point FrameSize() const { return frame.size; }
-    /// Replaces a part that lies within the frame; `rowBytes` is from row to row of `pixels`.
-    void Update(const SDL_Rect& area, const void* pixels, int rowBytes) { frame.Update(area, pixels, rowBytes); }
+    /// Replaces part of the frame; `rowBytes` is from row to row of `pixels`. False when it does not lie within.
+    bool Update(const SDL_Rect& area, const void* pixels, int rowBytes) { return frame.Update(area, pixels, rowBytes); }
     /// Whether something of the frame has changed since it was shown.
     bool HasChanges() const { return frame.HasChanges(); }
     /// Puts on the screen what has changed of the frame since it was shown.

@@ -18,8 +18,10 @@ bool KeptFrame::SetSize(SDL_Point newSize)
     });
 }
 
-void KeptFrame::Update(const SDL_Rect& area, const void* source, int rowBytes)
+bool KeptFrame::Update(const SDL_Rect& area, const void* source, int rowBytes)
 {
+    if (area.x < 0 || area.y < 0 || area.x + area.w > size.x || area.y + area.h > size.y)
+        return false;
     const size_t bytes = static_cast<size_t>(area.w) * sizeof(uint16_t);
     const uint8_t* from = static_cast<const uint8_t*>(source);
     for (int row = area.y; row < area.y + area.h; ++row, from += rowBytes) {
@@ -29,6 +31,7 @@ void KeptFrame::Update(const SDL_Rect& area, const void* source, int rowBytes)
         std::memcpy(to, from, bytes);
         changed[static_cast<size_t>(row)] = true;
     }
+    return true;
 }
 
 bool KeptFrame::HasChanges() const

@@ -12,8 +12,8 @@ struct KeptFrame {
 
     /// A black frame of that size, all of it changed; the same size keeps the frame. False when there is no memory.
     bool SetSize(SDL_Point newSize);
-    /// Replaces a part that lies within the frame; `rowBytes` is from row to row of `source`.
-    void Update(const SDL_Rect& area, const void* source, int rowBytes);
+    /// Replaces part of the frame; `rowBytes` is from row to row of `source`. False when it does not lie within.
+    bool Update(const SDL_Rect& area, const void* source, int rowBytes);
     bool HasChanges() const;
     const uint16_t* Row(int row) const { return pixels.data() + static_cast<ptrdiff_t>(row) * size.x; }
 };

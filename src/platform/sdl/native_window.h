@@ -10,6 +10,7 @@ struct NativeWindow {
     SDL_Window* handle = nullptr; ///< null when there is no window
     WNDPROC procedure = nullptr;
     DWORD style = 0;
+    DWORD extendedStyle = 0;
     SDL_Point clientSize = {};     ///< pixels of the frame, as the game set it
     int factor = 1;                ///< by which the window shows it; the window manager may have another mind
     SDL_Point clientPosition = {}; ///< on the desktop, as it was set last

@@ -6,6 +6,7 @@
 #include "platform/sdl/signals.h"
 #include "platform/sdl/zoom.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace
@@ -26,29 +27,20 @@ RECT FrameOf(DWORD style)
 SDL_Point ClientSize(int width, int height, DWORD style)
 {
     const RECT frame = FrameOf(style);
-    return { width - frame.left - frame.right, height - frame.top - frame.bottom };
+    return { std::max<int>(1, width - frame.left - frame.right), std::max<int>(1, height - frame.top - frame.bottom) };
 }
-
-struct Hint {
-    const char* name;
-    const char* value;
-};
-
-constexpr Hint hints[] = {
-    { SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0" },          // closing goes through the window procedure
-    { SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1" },           // the click that activates is also a click
-    { SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0" }, // or the whole desktop changes with our window
-    { SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1" },
-    { SDL_HINT_APP_NAME, "Tervalis" },
-};
 
 void SetHints()
 {
-    for (const Hint& hint : hints)
-        SDL_SetHint(hint.name, hint.value);
+    SDL_SetHint(SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0");          // closing goes through the window procedure
+    SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");           // the click that activates is also a click
+    SDL_SetHint(SDL_HINT_MOUSE_AUTO_CAPTURE, "1");                 // moves outside are seen while a button is held
+    SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0"); // or the whole desktop changes with our window
+    SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
+    SDL_SetHint(SDL_HINT_APP_NAME, "Tervalis");
     // The class of the window, by which a desktop finds the name and the icon that belong to it.
-    for (const char* const variable : { "SDL_VIDEO_X11_WMCLASS", "SDL_VIDEO_WAYLAND_WMCLASS" })
-        SDL_setenv(variable, TERVALIS_ID, 1);
+    SDL_setenv("SDL_VIDEO_X11_WMCLASS", TERVALIS_ID, 1);
+    SDL_setenv("SDL_VIDEO_WAYLAND_WMCLASS", TERVALIS_ID, 1);
 }
 
 /// The window is resizable only because window managers offer no maximise box otherwise. KeepClientSize undoes what
@@ -67,9 +59,10 @@ bool OpenWindow(LPCSTR title)
 void CloseWindow()
 {
     StopPads();
-    SDL_Window* const closing = nativeWindow.handle;
-    nativeWindow = {}; // what shows its frames goes before the window does
-    SDL_DestroyWindow(closing);
+    nativeWindow.view.Close();
+    if (nativeWindow.handle)
+        SDL_DestroyWindow(nativeWindow.handle);
+    nativeWindow = {};
     ForgetEvents();
     IgnoreEndingSignals(); // which SDL would let end the program at once from here on
     SDL_QuitSubSystem(SDL_INIT_VIDEO);
@@ -96,6 +89,7 @@ void ShowFirstTime(NativeWindow& window)
     SDL_PumpEvents();
     // Its real frame is known now, and the client area can go to where it goes after every later change of mode.
     SDL_SetWindowPosition(window.handle, window.clientPosition.x, window.clientPosition.y);
+    window.view.ShowAll();
 }
 
 /// The release of a button goes elsewhere once the window has gone, SDL then takes the button as held, and the next
@@ -119,9 +113,11 @@ ATOM RegisterClassA(const WNDCLASSA* windowClass)
     return 1;
 }
 
-HWND CreateWindowExA(DWORD, LPCSTR, LPCSTR title, DWORD style, int, int, int width, int height, HWND, HMENU, HINSTANCE,
-                     LPVOID)
+HWND CreateWindowExA(DWORD extendedStyle, LPCSTR, LPCSTR title, DWORD style, int, int, int width, int height, HWND,
+                     HMENU, HINSTANCE, LPVOID)
 {
+    if (nativeWindow.handle || !registeredProcedure)
+        return nullptr;
     SetHints();
     EndOnHangUp();
     if (!StartVideo()) {
@@ -131,6 +127,7 @@ HWND CreateWindowExA(DWORD, LPCSTR, LPCSTR title, DWORD style, int, int, int wid
     }
     nativeWindow.procedure = registeredProcedure;
     nativeWindow.style = style;
+    nativeWindow.extendedStyle = extendedStyle;
     nativeWindow.clientSize = ClientSize(width, height, style);
     if (!OpenWindow(title)) {
         std::fprintf(stderr, "%s: cannot make a window: %s\n", title, SDL_GetError());
@@ -153,25 +150,31 @@ BOOL DestroyWindow(HWND handle)
     return TRUE;
 }
 
-BOOL ShowWindow(HWND, int)
+BOOL ShowWindow(HWND handle, int command)
 {
+    const NativeWindow* window = WindowOf(handle);
+    if (!window || command != SW_MINIMIZE)
+        return FALSE;
     AwaitReleasedMouse();
-    SDL_MinimizeWindow(nativeWindow.handle);
+    SDL_MinimizeWindow(window->handle);
     return TRUE;
 }
 
 /// The order among other windows is left to the window manager: full screen comes to the front by itself.
-BOOL SetWindowPos(HWND, HWND, int x, int y, int width, int height, UINT flags)
+BOOL SetWindowPos(HWND handle, HWND, int x, int y, int width, int height, UINT flags)
 {
-    NativeWindow& window = nativeWindow;
-    if (!(flags & SWP_NOSIZE)) { // nor is it moved then
-        window.clientSize = ClientSize(width, height, window.style);
-        ChooseFactor(window);
-        SetClientSize(window, window.clientSize);
-        SetOuterPosition(window, x, y);
+    NativeWindow* window = WindowOf(handle);
+    if (!window)
+        return FALSE;
+    if (!(flags & SWP_NOSIZE)) {
+        window->clientSize = ClientSize(width, height, window->style);
+        ChooseFactor(*window);
+        SetClientSize(*window, window->clientSize);
     }
-    if ((flags & SWP_SHOWWINDOW) && !(window.style & WS_VISIBLE))
-        ShowFirstTime(window);
+    if (!(flags & SWP_NOMOVE))
+        SetOuterPosition(*window, x, y);
+    if ((flags & SWP_SHOWWINDOW) && !(window->style & WS_VISIBLE))
+        ShowFirstTime(*window);
     return TRUE;
 }
 
@@ -185,14 +188,14 @@ BOOL AdjustWindowRectEx(RECT* rectangle, DWORD style, BOOL, DWORD)
     return TRUE;
 }
 
-/// What uncovers or sizes a window shows its frame again (events.cpp).
 BOOL RedrawWindow(HWND, const RECT*, HRGN, UINT)
 {
+    nativeWindow.view.ShowAll();
     return TRUE;
 }
 
 int GetSystemMetrics(int index)
 {
     const SDL_Rect screen = WindowScreen(nativeWindow.handle);
-    return index == SM_CXSCREEN ? screen.w : screen.h;
+    return index == SM_CXSCREEN ? screen.w : index == SM_CYSCREEN ? screen.h : 0;
 }

@@ -1,8 +1,14 @@
 #include "platform/sdl/native_window.h"
 
-#include <utility>
-
 NativeWindow nativeWindow;
+
+namespace
+{
+DWORD& StyleWord(NativeWindow& window, int index)
+{
+    return index == GWL_STYLE ? window.style : window.extendedStyle;
+}
+}
 
 HWND NativeHandle()
 {
@@ -14,17 +20,20 @@ NativeWindow* WindowOf(HWND window)
     return window == NativeHandle() && nativeWindow.handle ? &nativeWindow : nullptr;
 }
 
-/// There are no extended styles.
-LONG GetWindowLongA(HWND, int index)
+LONG GetWindowLongA(HWND handle, int index)
 {
-    return index == GWL_STYLE ? static_cast<LONG>(nativeWindow.style) : 0;
+    NativeWindow* window = WindowOf(handle);
+    return window ? static_cast<LONG>(StyleWord(*window, index)) : 0;
 }
 
 /// A style counts in the reckoning of sizes only. Frames are not taken off and put on again: the style without one is
 /// that of full screen, where no window has a frame.
-LONG SetWindowLongA(HWND, int, LONG value)
+LONG SetWindowLongA(HWND handle, int index, LONG value)
 {
-    return static_cast<LONG>(std::exchange(nativeWindow.style, static_cast<DWORD>(value)));
+    const LONG before = GetWindowLongA(handle, index);
+    if (NativeWindow* window = WindowOf(handle))
+        StyleWord(*window, index) = static_cast<DWORD>(value);
+    return before;
 }
 
 HMENU GetMenu(HWND)

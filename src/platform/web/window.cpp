@@ -15,9 +15,9 @@ WNDPROC registeredProcedure = nullptr;
 void CloseWindow()
 {
     StopPads();
-    SDL_Window* const closing = nativeWindow.handle;
-    nativeWindow = {}; // what shows its frames goes before the window does
-    SDL_DestroyWindow(closing);
+    nativeWindow.view.Close();
+    SDL_DestroyWindow(nativeWindow.handle);
+    nativeWindow = {};
     ForgetEvents();
     SDL_QuitSubSystem(SDL_INIT_VIDEO);
 }

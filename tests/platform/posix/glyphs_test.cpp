@@ -43,12 +43,14 @@ TEST_F(GlyphTest, AreTightBoxesWithinTheCell)
     TEXTMETRICA text = {};
     ASSERT_TRUE(GetTextMetricsA(dc, &text));
     EXPECT_EQ(text.tmHeight, 13);
+    EXPECT_EQ(text.tmAscent + text.tmDescent, text.tmHeight);
+    EXPECT_EQ(text.tmAveCharWidth, 5);
     for (const char c : std::string("0123456789AMWgjy")) {
         const std::vector<BYTE> bytes = Get(static_cast<UINT>(c));
         const DWORD rowBytes = (metrics.gmBlackBoxX + 3) & ~3U;
         ASSERT_EQ(bytes.size(), rowBytes * metrics.gmBlackBoxY) << c;
         EXPECT_LE(metrics.gmptGlyphOrigin.y, text.tmAscent) << c;
-        EXPECT_GE(metrics.gmptGlyphOrigin.y - static_cast<LONG>(metrics.gmBlackBoxY), text.tmAscent - 13) << c;
+        EXPECT_GE(metrics.gmptGlyphOrigin.y - static_cast<LONG>(metrics.gmBlackBoxY), -text.tmDescent) << c;
         const BYTE most = *std::max_element(bytes.begin(), bytes.end());
         EXPECT_TRUE(most > 8 && most <= 16) << "a bold stroke is more than half covered";
         EXPECT_NE(std::count(bytes.begin(), bytes.begin() + rowBytes, 0), rowBytes) << "empty first row " << c;

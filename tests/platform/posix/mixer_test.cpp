@@ -120,6 +120,7 @@ TEST_F(MixerTest, MixesWhileVoicesComeAndGo)
     for (int i = 0; i < 300; ++i) {
         Voice& voice = Play(Ramp(1000), i % 2 == 0);
         mixer.Stop(lasting);
+        mixer.SetPosition(lasting, 2);
         mixer.Play(lasting, true);
         mixer.RemoveVoice(&voice);
     }

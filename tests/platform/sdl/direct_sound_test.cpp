@@ -106,6 +106,7 @@ TEST_F(DirectSoundTest, PutsTheSamplesOutOnTheDeviceThatFollowsALostOne)
     ASSERT_EQ(buffer->Lock(0, 0, &memory, &bytes, nullptr, nullptr, DSBLOCK_ENTIREBUFFER), DS_OK);
     ASSERT_EQ(bytes, samples.size());
     samples.copy(static_cast<char*>(memory), bytes);
+    EXPECT_NE(buffer->SetCurrentPosition(bytes), DS_OK) << "behind the end";
     EXPECT_EQ(buffer->Play(0, 0, DSBPLAY_LOOPING), DS_OK);
     folder.Write("next", "");
     std::filesystem::rename("next", OUTPUT);
