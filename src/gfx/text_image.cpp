@@ -141,17 +141,11 @@ CGlyph& CTextImage::TakeFreeSlot(uint32_t code, int place)
     return glyphs[count++];
 }
 
-/// The key used least recently. Nothing is older than 1, so the search ends there.
+/// The key used least recently.
 int CTextImage::OldestKey() const
 {
-    int oldest = 0;
-    for (int i = 0; i < count; ++i) {
-        if (keys[i].lastUse == 1)
-            return i;
-        if (keys[i].lastUse < keys[oldest].lastUse)
-            oldest = i;
-    }
-    return oldest;
+    const auto isOlder = [](const Key& a, const Key& b) { return a.lastUse < b.lastUse; };
+    return static_cast<int>(std::min_element(keys.get(), keys.get() + count, isOlder) - keys.get());
 }
 
 CGlyph& CTextImage::ReplaceOldest(uint32_t code, int place)
