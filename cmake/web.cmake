@@ -35,7 +35,7 @@ target_compile_options(tervalis_gfx PRIVATE -mbulk-memory) # rows are copied by 
 target_compile_options(tervalis_common INTERFACE -include ${CMAKE_CURRENT_SOURCE_DIR}/src/platform/web/vector_shift.h)
 
 # What the browser shares with the desktop; web/ has the rest.
-set(POSIX_FILES clock files font_face glyphs kernel_object mixer paths process registry riff toml)
+set(POSIX_FILES clock files font_face glyphs kernel_object mixer paths process read_file registry riff toml)
 set(SDL_FILES direct_draw direct_sound events frame_fit frame_view gdi_display kept_frame keyboard message_loop messages
     mouse pad_pointer pads present sound_output stick told_frame virtual_keys
     window_handle)

@@ -1,12 +1,11 @@
 #include "platform/posix/kernel_object.h"
 #include "platform/posix/out_of_memory.h"
 #include "platform/posix/paths.h"
+#include "platform/posix/read_file.h"
 
 #include <cerrno>
 #include <cstdint>
-#include <fcntl.h>
 #include <memory>
-#include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -38,34 +37,12 @@ DWORD OpenError()
     return errno == EACCES || errno == EPERM ? ERROR_ACCESS_DENIED : ERROR_FILE_NOT_FOUND;
 }
 
-bool IsRegularFile(int descriptor)
-{
-    struct stat status = {};
-    return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
-}
-
 /// Splits a 64-bit size or position; without room for its high half only the low one is given.
 DWORD LowHalf(int64_t value, DWORD* high)
 {
     if (high)
         *high = static_cast<DWORD>(value >> 32);
     return static_cast<DWORD>(value);
-}
-
-/// The bytes read into the buffer, fewer than `size` only at the file's end; none on a read error.
-std::optional<size_t> ReadFully(int descriptor, char* buffer, size_t size)
-{
-    size_t done = 0;
-    while (done < size) {
-        const ssize_t part = read(descriptor, buffer + done, size - done);
-        if (part == 0)
-            break;
-        if (part > 0)
-            done += static_cast<size_t>(part);
-        else if (errno != EINTR)
-            return std::nullopt;
-    }
-    return done;
 }
 
 HANDLE FailToOpen(DWORD error)
@@ -77,12 +54,9 @@ HANDLE FailToOpen(DWORD error)
 HANDLE OpenExisting(LPCSTR path)
 {
     auto file = std::make_unique<OpenFile>();
-    // Without blocking: a pipe that lies under a picture's name must not stop the game.
-    file->descriptor = open(ResolvePath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+    file->descriptor = OpenRegularFile(ResolvePath(path).c_str());
     if (file->descriptor < 0)
         return FailToOpen(OpenError());
-    if (!IsRegularFile(file->descriptor))
-        return FailToOpen(ERROR_ACCESS_DENIED);
     return HandleOf(file.release());
 }
 }

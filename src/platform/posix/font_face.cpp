@@ -33,11 +33,6 @@ void FontFace::LibraryDeleter::operator()(FT_LibraryRec_* opened) const
     FT_Done_FreeType(opened);
 }
 
-void FontFace::FaceDeleter::operator()(FT_FaceRec_* opened) const
-{
-    FT_Done_Face(opened);
-}
-
 /// False for a file that is missing, damaged or has no Latin letters.
 bool FontFace::Open(const char* path, int index)
 {
@@ -45,17 +40,15 @@ bool FontFace::Open(const char* path, int index)
     if (FT_Init_FreeType(&newLibrary) != 0)
         return false;
     library.reset(newLibrary);
-    FT_Face newFace = nullptr;
-    if (FT_New_Face(newLibrary, path, index, &newFace) != 0)
+    if (FT_New_Face(newLibrary, path, index, &face) != 0)
         return false;
-    face.reset(newFace);
-    return FT_IS_SCALABLE(newFace) && FT_Select_Charmap(newFace, FT_ENCODING_UNICODE) == 0 &&
-           FT_Get_Char_Index(newFace, 'A') != 0 && FT_Get_Char_Index(newFace, '0') != 0;
+    return FT_IS_SCALABLE(face) && FT_Select_Charmap(face, FT_ENCODING_UNICODE) == 0 &&
+           FT_Get_Char_Index(face, 'A') != 0 && FT_Get_Char_Index(face, '0') != 0;
 }
 
 bool FontFace::Scale(int cellHeight, int width)
 {
-    const FaceUnits units = UnitsOf(face.get());
+    const FaceUnits units = UnitsOf(face);
     const int cell = units.ascent + units.descent;
     if (cell <= 0 || units.averageWidth <= 0)
         return false;
@@ -63,8 +56,7 @@ bool FontFace::Scale(int cellHeight, int width)
     const double pixelsPerEmY = std::round(cellHeight * em / cell);
     const double pixelsPerEmX = width > 0 ? width * em / units.averageWidth : pixelsPerEmY;
     constexpr FT_UInt POINTS_PER_INCH = 72; // so that a point is a pixel
-    if (FT_Set_Char_Size(face.get(), ToFixed(pixelsPerEmX), ToFixed(pixelsPerEmY), POINTS_PER_INCH, POINTS_PER_INCH) !=
-        0)
+    if (FT_Set_Char_Size(face, ToFixed(pixelsPerEmX), ToFixed(pixelsPerEmY), POINTS_PER_INCH, POINTS_PER_INCH) != 0)
         return false;
     height = cellHeight;
     ascent = static_cast<int>(std::lround(cellHeight * static_cast<double>(units.ascent) / cell));
@@ -75,7 +67,7 @@ bool FontFace::Scale(int cellHeight, int width)
 const FT_GlyphSlotRec_* FontFace::Render(uint32_t unicode)
 {
     constexpr FT_Int32 flags = FT_LOAD_RENDER | FT_LOAD_NO_BITMAP | FT_LOAD_TARGET_LIGHT;
-    if (FT_Load_Char(face.get(), unicode, flags) != 0 || face->glyph->bitmap.pixel_mode != FT_PIXEL_MODE_GRAY)
+    if (FT_Load_Char(face, unicode, flags) != 0 || face->glyph->bitmap.pixel_mode != FT_PIXEL_MODE_GRAY)
         return nullptr;
     return face->glyph;
 }

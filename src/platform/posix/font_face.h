@@ -27,13 +27,10 @@ private:
     struct LibraryDeleter {
         void operator()(FT_LibraryRec_* library) const;
     };
-    struct FaceDeleter {
-        void operator()(FT_FaceRec_* face) const;
-    };
 
     bool Open(const char* path, int index);
     bool Scale(int cellHeight, int width);
 
-    std::unique_ptr<FT_LibraryRec_, LibraryDeleter> library; ///< outlives the face
-    std::unique_ptr<FT_FaceRec_, FaceDeleter> face;
+    std::unique_ptr<FT_LibraryRec_, LibraryDeleter> library;
+    FT_FaceRec_* face = nullptr; ///< the library's
 };

@@ -1,14 +1,11 @@
 #include "platform/multimedia.h"
 #include "platform/posix/out_of_memory.h"
 #include "platform/posix/paths.h"
+#include "platform/posix/read_file.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
 #include <cstring>
-#include <fcntl.h>
 #include <memory>
-#include <sys/stat.h>
 #include <unistd.h>
 
 struct HMMIO__ {
@@ -39,12 +36,10 @@ struct HMMIO__ {
     bool Refill()
     {
         DropBuffer(int64_t{ info.lBufOffset } + (info.pchEndRead - info.pchBuffer));
-        ssize_t bytes;
-        do {
-            bytes = pread(descriptor, info.pchBuffer, BUFFER_BYTES, info.lBufOffset);
-        } while (bytes < 0 && errno == EINTR);
-        info.pchEndRead += std::max<ssize_t>(bytes, 0);
-        return bytes >= 0;
+        lseek(descriptor, info.lBufOffset, SEEK_SET);
+        const std::optional<size_t> bytes = ReadFully(descriptor, buffer, BUFFER_BYTES);
+        info.pchEndRead += bytes.value_or(0);
+        return bytes.has_value();
     }
 
     int descriptor = -1;
@@ -79,11 +74,8 @@ bool HasFormType(const MMCKINFO& chunk)
 /// Opens a regular file whose every position fits into 32 bits; -1 for anything else.
 int OpenFile(const char* path)
 {
-    const int descriptor = open(ResolvePath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (descriptor < 0)
-        return -1;
-    struct stat status;
-    if (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_size <= LAST_POSITION)
+    const int descriptor = OpenRegularFile(ResolvePath(path).c_str());
+    if (descriptor < 0 || lseek(descriptor, 0, SEEK_END) <= LAST_POSITION)
         return descriptor;
     close(descriptor);
     return -1;

@@ -1,6 +1,7 @@
 #include "platform/posix/safe_file.h"
 
 #include "platform/kernel.h"
+#include "platform/posix/read_file.h"
 
 #include <cerrno>
 #include <climits>
@@ -113,25 +114,13 @@ LONG WriteNewFile(const std::string& path, const std::string& content)
 
 LONG ReadSmallFile(const std::string& path, size_t limit, std::string& content)
 {
-    // Without O_NONBLOCK a pipe in the file's place would stop the program here.
-    const Descriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    struct stat status = {};
-    if (file.fd < 0 || fstat(file.fd, &status) != 0)
+    const Descriptor file(OpenRegularFile(path.c_str()));
+    if (file.fd < 0)
         return LastCode(ERROR_READ_FAULT);
-    if (!S_ISREG(status.st_mode))
-        return Code(ERROR_READ_FAULT);
     content.resize(limit);
-    size_t size = 0;
-    while (size < limit) {
-        const ssize_t count = read(file.fd, content.data() + size, limit - size);
-        if (count == 0)
-            break;
-        if (count < 0 && errno != EINTR)
-            return LastCode(ERROR_READ_FAULT);
-        size += count > 0 ? static_cast<size_t>(count) : 0;
-    }
-    content.resize(size);
-    return Code(ERROR_SUCCESS);
+    const std::optional<size_t> size = ReadFully(file.fd, content.data(), limit);
+    content.resize(size.value_or(0));
+    return size ? Code(ERROR_SUCCESS) : LastCode(ERROR_READ_FAULT);
 }
 
 LONG ReplaceSmallFile(const std::string& path, const std::string& content)

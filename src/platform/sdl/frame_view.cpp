@@ -22,11 +22,6 @@ bool CFrameView::Open(SDL_Window* target)
     return output != nullptr;
 }
 
-void CFrameView::Close()
-{
-    *this = {};
-}
-
 void CFrameView::Show(bool all)
 {
     if (!output || frame.pixels.empty())

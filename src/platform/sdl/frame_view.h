@@ -11,10 +11,8 @@
 class CFrameView
 {
 public:
-    /// False when the window cannot be drawn into.
+    /// Until the window is about to be destroyed. False when it cannot be drawn into.
     bool Open(SDL_Window* target);
-    /// Before the window is destroyed.
-    void Close();
     /// A black frame of that size; the same size keeps the frame. False when there is no memory for it.
     bool SetFrameSize(SDL_Point newSize) { return frame.SetSize(newSize); }
     SDL_Point FrameSize() const { return frame.size; }

@@ -154,7 +154,6 @@ void StopPads()
     }
     if (isStarted)
         SDL_QuitSubSystem(SDL_INIT_GAMECONTROLLER);
-    isStarted = false;
 }
 
 void PollPads()

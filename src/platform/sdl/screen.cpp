@@ -19,11 +19,11 @@ int ScreenIndex(SDL_Window* window)
 
 double PixelsPerUnit(SDL_Window* window)
 {
-    int units = 0;
-    int pixels = 0;
-    SDL_GetWindowSize(window, &units, nullptr);
-    SDL_GetWindowSizeInPixels(window, &pixels, nullptr);
-    return units > 0 && pixels > 0 ? static_cast<double>(pixels) / units : 1;
+    SDL_Point units = {};
+    SDL_Point pixels = {};
+    SDL_GetWindowSize(window, &units.x, &units.y);
+    SDL_GetWindowSizeInPixels(window, &pixels.x, &pixels.y);
+    return pixels.x > 0 ? static_cast<double>(pixels.x) / units.x : 1;
 }
 }
 

@@ -30,17 +30,27 @@ SDL_Point ClientSize(int width, int height, DWORD style)
     return { std::max<int>(1, width - frame.left - frame.right), std::max<int>(1, height - frame.top - frame.bottom) };
 }
 
+struct Hint {
+    const char* name;
+    const char* value;
+};
+
+constexpr Hint hints[] = {
+    { SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0" },          // closing goes through the window procedure
+    { SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1" },           // the click that activates is also a click
+    { SDL_HINT_MOUSE_AUTO_CAPTURE, "1" },                 // moves outside are seen while a button is held
+    { SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0" }, // or the whole desktop changes with our window
+    { SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1" },
+    { SDL_HINT_APP_NAME, "Tervalis" },
+};
+
 void SetHints()
 {
-    SDL_SetHint(SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0");          // closing goes through the window procedure
-    SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");           // the click that activates is also a click
-    SDL_SetHint(SDL_HINT_MOUSE_AUTO_CAPTURE, "1");                 // moves outside are seen while a button is held
-    SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0"); // or the whole desktop changes with our window
-    SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
-    SDL_SetHint(SDL_HINT_APP_NAME, "Tervalis");
+    for (const Hint& hint : hints)
+        SDL_SetHint(hint.name, hint.value);
     // The class of the window, by which a desktop finds the name and the icon that belong to it.
-    SDL_setenv("SDL_VIDEO_X11_WMCLASS", TERVALIS_ID, 1);
-    SDL_setenv("SDL_VIDEO_WAYLAND_WMCLASS", TERVALIS_ID, 1);
+    for (const char* const variable : { "SDL_VIDEO_X11_WMCLASS", "SDL_VIDEO_WAYLAND_WMCLASS" })
+        SDL_setenv(variable, TERVALIS_ID, 1);
 }
 
 /// The window is resizable only because window managers offer no maximise box otherwise. KeepClientSize undoes what
@@ -59,10 +69,10 @@ bool OpenWindow(LPCSTR title)
 void CloseWindow()
 {
     StopPads();
-    nativeWindow.view.Close();
-    if (nativeWindow.handle)
-        SDL_DestroyWindow(nativeWindow.handle);
-    nativeWindow = {};
+    SDL_Window* const closing = nativeWindow.handle;
+    nativeWindow = {}; // what shows its frames goes before the window does
+    if (closing)
+        SDL_DestroyWindow(closing);
     ForgetEvents();
     IgnoreEndingSignals(); // which SDL would let end the program at once from here on
     SDL_QuitSubSystem(SDL_INIT_VIDEO);

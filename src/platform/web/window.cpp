@@ -15,9 +15,9 @@ WNDPROC registeredProcedure = nullptr;
 void CloseWindow()
 {
     StopPads();
-    nativeWindow.view.Close();
-    SDL_DestroyWindow(nativeWindow.handle);
-    nativeWindow = {};
+    SDL_Window* const closing = nativeWindow.handle;
+    nativeWindow = {}; // what shows its frames goes before the window does
+    SDL_DestroyWindow(closing);
     ForgetEvents();
     SDL_QuitSubSystem(SDL_INIT_VIDEO);
 }

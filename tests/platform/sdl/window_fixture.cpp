@@ -52,7 +52,7 @@ std::string Describe(UINT message, WPARAM wParam, LPARAM lParam)
     }
     const auto place = [](WORD word) { return std::to_string(static_cast<int16_t>(word)); };
     if (message >= WM_MOUSEMOVE && message <= WM_RBUTTONUP)
-        return sign + place(LOWORD(lParam)) + "," + place(HIWORD(lParam));
+        return sign + place(LOWORD(lParam)) + "," + place(HIWORD(lParam)) + (wParam != 0 ? "?" : "");
     return sign + (wParam != 0 ? code : "") + (lParam != 0 ? "?" : "");
 }
 
