@@ -70,13 +70,6 @@ void LackEachPlane(Load load)
     }
     FailCall(Calls::PLANES, 0, false);
 }
-
-template <typename Owner>
-void LackEachPlaneOf(Owner& owner)
-{
-    for (bool done = false; !done && !testing::Test::HasFatalFailure();)
-        LackEachPlane([&] { return owner.DataLoad(done); });
-}
 }
 
 TEST_F(GameTest, RunsOneFrameEvery40MsAndNeverMakesUpLateOnes)
@@ -161,9 +154,13 @@ TEST_F(GameTest, TellsPadsWhoSteersHowAndWhatCanBeClicked)
 TEST_F(GameTest, LoadingMissesEachPlaneThatCannotBeHad)
 {
     CPond& pond = sectionMain.pond;
-    LackEachPlaneOf(sectionMenu);
-    LackEachPlaneOf(pond);
-    LackEachPlaneOf(pond.statusBar);
+    const auto lackEachPlaneOf = [](auto& owner) {
+        for (bool done = false; !done && !HasFatalFailure();)
+            LackEachPlane([&] { return owner.DataLoad(done); });
+    };
+    lackEachPlaneOf(sectionMenu);
+    lackEachPlaneOf(pond);
+    lackEachPlaneOf(pond.statusBar);
     LackEachPlane([&] { return pond.snake[1].SnakeInit(100, &pond, 2, 'W', 'S', 'A', 'D'); });
     LackEachPlane([] { return sectionMain.SectionBegin(); });
     sectionMain.SectionEnd();

@@ -26,19 +26,17 @@ mkdir -p "$folder/bin" "$HOME" "$program"
 mkdir -m 700 "$XDG_RUNTIME_DIR"
 touch "$folder/errors"
 
-# Wine's first start, which makes its folder, fails now and then by itself.
-starts_wine() {
-    wineserver -k
-    rm -rf "$WINEPREFIX"
-    WINEDEBUG='' timeout 300 wineboot --init >"$folder/errors" 2>&1
-}
-
 id=$(sed -n 's/^StartupWMClass=//p' "${archive%/*.exe}"/packaging/*.desktop)
 if is_wine; then
     # A sound card that swallows everything, so that the sounds are loaded and played.
     export ALSA_CONFIG_PATH=$folder/asound.conf
     printf 'pcm.!default { type null }\nctl.!default { type null }\n' >"$ALSA_CONFIG_PATH"
-    starts_wine || starts_wine || fail "Wine does not start"
+    tries=0 # the first start, which makes Wine's folder, fails now and then by itself
+    until WINEDEBUG='' timeout 300 wineboot --init >>"$folder/errors" 2>&1; do
+        [ $((++tries)) -lt 3 ] || fail "Wine does not start"
+        wineserver -k
+        rm -rf "$WINEPREFIX"
+    done
     timeout 300 wine "$archive" /S "/D=Z:${program//\//\\}" || fail "it cannot be installed"
     tr -d '\0' <"$program/tervalis.exe" | grep -aqF "$id" || fail "no task bar knows the program"
     # shellcheck disable=SC2016 # for the script that is written

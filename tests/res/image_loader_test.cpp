@@ -128,8 +128,7 @@ TEST(JpegLoader, ReadsGreyLevelsAndRefusesInks)
         ASSERT_EQ(Load(image, grey), ENGINE_NO_ERROR);
         EXPECT_EQ(image.Row(7)[7], level / 8 * 2048 + level / 4 * 32 + level / 8) << level;
     }
-    CImage none;
-    EXPECT_EQ(Load(none, EncodeJpeg(Bytes(SIDE * SIDE * 4, 90), SIDE, SIDE, TJPF_CMYK)), ENGINE_LOAD_IMAGE);
+    EXPECT_EQ(Load(image, EncodeJpeg(Bytes(SIDE * SIDE * 4, 90), SIDE, SIDE, TJPF_CMYK)), ENGINE_LOAD_IMAGE);
 }
 
 TEST(JpegLoader, EachDamageHasItsCode)

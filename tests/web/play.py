@@ -1,9 +1,7 @@
 #!/usr/bin/env python3
-"""Plays the home page's game in Chromium as a player does.
-
-    play.py SITE BUILD      the folder to serve, and that of the build: tests/unit_tests.js, desktop/*.png (what tools/tour
-                            makes of game.txt) and the place for screenshots
-"""
+# Plays the home page's game in Chromium as a player does.
+#     play.py SITE BUILD      the folder to serve, and that of the build: tests/unit_tests.js, desktop/*.png (what
+#                             tools/tour makes of game.txt) and the place for screenshots
 
 import base64
 import functools
