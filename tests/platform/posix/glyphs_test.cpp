@@ -60,6 +60,10 @@ TEST_F(GlyphTest, AreTightBoxesWithinTheCell)
 
 TEST_F(GlyphTest, StayWithinTheBufferAndFollowTheWindowsCodePage)
 {
+    const std::vector<BYTE> bar = Get('|');
+    const DWORD row = (metrics.gmBlackBoxX + 3) & ~3U;
+    EXPECT_TRUE(std::equal(bar.begin() + row, bar.end() - 2 * row, bar.begin() + 2 * row)) << "all its rows are alike";
+
     std::vector<BYTE> small(8, GUARD);
     EXPECT_EQ(Get('W', 8, small.data()), GDI_ERROR);
     EXPECT_EQ(std::count(small.begin(), small.end(), GUARD), 8);
