@@ -26,12 +26,11 @@ int ReadFactor(const std::string& program)
     return factor && *factor > 0 && *factor <= LARGEST ? static_cast<int>(*factor) : 0;
 }
 
-LONG WriteFactor(const std::string& program, int factor)
+bool WriteFactor(const std::string& program, int factor)
 {
     const std::string folder = SettingsFolder(program);
-    if (folder.empty() || MakeFolders(folder) != 0)
-        return 0;
-    return ReplaceSmallFile(FileIn(folder), FormatToml(toml::table{ { "factor", factor } }));
+    return !folder.empty() && MakeFolders(folder) == 0 &&
+           ReplaceSmallFile(FileIn(folder), FormatToml(toml::table{ { "factor", factor } })) == 0;
 }
 }
 
@@ -43,5 +42,5 @@ int RememberedFactor(const std::string& program)
 void RememberFactor(const std::string& program, int factor)
 {
     if (factor != RememberedFactor(program))
-        OrOutOfMemory(LONG{ 0 }, [&] { return WriteFactor(program, factor); });
+        OrOutOfMemory(false, [&] { return WriteFactor(program, factor); });
 }

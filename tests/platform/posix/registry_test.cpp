@@ -98,6 +98,7 @@ TEST_F(RegistryTest, EveryValueComesBackByteForByte)
     }
     EXPECT_EQ(Load("w"), (Stored{ REG_SZ, dots }));
     EXPECT_TRUE(folder.Read(SETTINGS_FILE).starts_with("v = { ")) << "on a line of its own";
+    EXPECT_EQ(fs::status(SETTINGS_FILE).permissions(), fs::perms{ 0600 }) << "for nobody else";
 }
 
 TEST_F(RegistryTest, ReadsWhatAHandMayHaveWrittenAndKeepsIt)
