@@ -34,9 +34,8 @@ LACKING = {
 }
 
 
+# Compresses as real servers do.
 class Handler(http.server.SimpleHTTPRequestHandler):
-    """Compresses as real servers do."""
-
     wire_bytes = 0
     damaged = None  # the name of a file
     missing = None  # of another
@@ -105,8 +104,8 @@ class Player:
     def await_message(self, text):
         self.await_page(f"document.getElementById('message').textContent.includes('{text}')")
 
+    # On the console, after the line that was awaited before.
     def await_line(self, line):
-        """On the console, after the line that was awaited before."""
         def is_new():
             entries = self.browser.get_log("browser")
             self.console += entries
@@ -166,8 +165,8 @@ def read_script():
     return [[int(frame), *rest] for frame, *rest in rows]
 
 
+# Of each pixel, or of one in STEP by STEP, in the game's 5, 6 and 5 bits.
 def colours(picture, step=1):
-    """Of each pixel, or of one in STEP by STEP, in the game's 5, 6 and 5 bits."""
     return numpy.asarray(Image.open(picture).convert("RGB"))[::step, ::step] >> (3, 2, 3)
 
 
@@ -184,8 +183,8 @@ def load_over_slow_line(player):
     assert Handler.wire_bytes <= LARGEST_LOAD
 
 
+# From its first frame to its place in the ranking, equal in every pixel.
 def compare_game_with_desktop(player):
-    """From its first frame to its place in the ranking, equal in every pixel."""
     names = [row[2] for row in player.script if row[1] == "shot"]
     player.await_page(f"Object.keys(shots).length === {len(names)}")
     factor = player.ask("canvas.width") // 640
