@@ -74,25 +74,25 @@ TEST(Image, DrawUsesItsArgumentsForTheCallOnlyAndNeverMoreThanThereIs)
     EXPECT_TRUE(source.x == 9 && source.y == 0 && source.width == 6 && source.height == 6);
 }
 
-TEST(Image, CopiesAlphaToTheOverlapAndDrawsByKeyWhereThereIsNone)
+TEST(Image, DrawsByKeyWithoutAlphaAndCopiesAlphaToTheOverlap)
 {
     CImage mask;
+    CImage part;
     CImage image;
     MakeNumbered(mask, 3, 9);
-    ASSERT_TRUE(image.Create(9, 3));
     std::fill_n(mask.alpha, mask.pitch / 2 * mask.height, uint8_t{ 20 });
-    image.CopyAlpha(mask);
-    EXPECT_TRUE(image.AlphaRow(2)[2] == 20 && image.AlphaRow(2)[3] == 0);
-    mask.x = 1;
-    mask.y = 2;
-    EXPECT_TRUE(image.Copy(mask) && image.x == 1 && image.y == 2 && image.Row(8)[2] == 26);
-
-    image.Free();
-    ASSERT_TRUE(image.Create(4, 4));
+    ASSERT_TRUE(part.CreateView(mask, 0, 0, 3, 2) && image.Create(9, 3));
     image.blit = BlitAlpha;
     image.Draw(image);
     EXPECT_EQ(image.blit, BlitColorKey);
     image.blit = BlitAlphaOpacity;
     image.Draw(image);
     EXPECT_EQ(image.blit, BlitOpacityColorKey);
+
+    image.CopyAlpha(part);
+    EXPECT_TRUE(image.AlphaRow(1)[2] == 20 && image.AlphaRow(1)[3] == 0 && image.AlphaRow(2)[0] == 0);
+    CImage copy;
+    mask.x = 1;
+    mask.y = 2;
+    EXPECT_TRUE(copy.Copy(mask) && copy.x == 1 && copy.y == 2 && copy.Row(8)[2] == 26);
 }
