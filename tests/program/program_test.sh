@@ -123,7 +123,7 @@ else
     xdotool click 1 # as quick as it may be, it falls into a frame
     await "the window is minimised" is_minimised
     [ "$(timeout $PATIENCE cat "$folder/browsed")" = "$program/docs/index.html" ] || fail "another page was opened"
-    [ -z "$(pgrep -P "$pid")" ] || fail "the browser is left to the program"
+    await "the browser is nobody's child" eval '! pgrep -P "$pid" >/dev/null'
     wmctrl -a Tervalis
     point_at 10 10
     await "the window is back" shows_menu
