@@ -92,7 +92,7 @@ TEST(Image, DrawsByKeyWithoutAlphaAndCopiesAlphaToTheOverlap)
     image.CopyAlpha(part);
     EXPECT_TRUE(image.AlphaRow(1)[2] == 20 && image.AlphaRow(1)[3] == 0 && image.AlphaRow(2)[0] == 0);
     CImage copy;
-    mask.x = 1;
-    mask.y = 2;
-    EXPECT_TRUE(copy.Copy(mask) && copy.x == 1 && copy.y == 2 && copy.Row(8)[2] == 26);
+    image.x = 1;
+    image.y = 2;
+    EXPECT_TRUE(copy.Copy(image) && copy.x == 1 && copy.y == 2 && copy.blit == image.blit && copy.AlphaRow(1)[2] == 20);
 }
