@@ -127,10 +127,7 @@ struct SoundBuffer : Counted<IDirectSoundBuffer> {
                                            format->nAvgBytesPerSec, format->nBlockAlign, format->wBitsPerSample });
     }
     HRESULT Stop() override { return directX.Step("Stop", { number }); }
-    HRESULT Unlock(LPVOID, DWORD first, LPVOID, DWORD second) override
-    {
-        return directX.Step("UnlockSound", { first, second });
-    }
+    HRESULT Unlock(LPVOID, DWORD one, LPVOID, DWORD two) override { return directX.Step("UnlockSound", { one, two }); }
     HRESULT Restore() override { return directX.Step("RestoreSound"); }
 
     std::string bytes;

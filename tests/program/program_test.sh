@@ -31,12 +31,9 @@ if is_wine; then
     # A sound card that swallows everything, so that the sounds are loaded and played.
     export ALSA_CONFIG_PATH=$folder/asound.conf
     printf 'pcm.!default { type null }\nctl.!default { type null }\n' >"$ALSA_CONFIG_PATH"
-    for _ in first second third; do # the first start, which makes Wine's folder, fails now and then by itself
-        WINEDEBUG='' timeout 300 wineboot --init >>"$folder/errors" 2>&1 && break
-        wineserver -k
-        rm -rf "$WINEPREFIX"
-    done
-    [ -d "$WINEPREFIX" ] || fail "Wine does not start"
+    # The first start, which makes Wine's folder, fails now and then by itself.
+    start_wine() { WINEDEBUG='' timeout 300 wineboot --init >>"$folder/errors" 2>&1; }
+    start_wine || { wineserver -k; rm -rf "$WINEPREFIX" && start_wine; } || fail "Wine does not start"
     timeout 300 wine "$archive" /S "/D=Z:${program//\//\\}" || fail "it cannot be installed"
     tr -d '\0' <"$program/tervalis.exe" | grep -aqF "$id" || fail "no task bar knows the program"
     # shellcheck disable=SC2016 # for the script that is written

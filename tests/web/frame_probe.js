@@ -1,6 +1,6 @@
-// Runs before the page's own code: lets the game begin with the seed 7 and plays in its frames the rows of `script`, which
-// are those that tools/tour takes: [frame, verb, argument...]. A click is a tap, and the key to the left a swipe. Keeps the
-// pictures of the frames of a "shot".
+// Goes ahead of all other scripts. Stops the clock, which seeds the game, and does what `script` says, each action in its
+// frame: [frame, verb, argument...], as tools/tour takes them. A click is a tap, and the key to the left a swipe. A "shot"
+// keeps the picture.
 Date.now = () => 7000;
 window.shots = {};
 

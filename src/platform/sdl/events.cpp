@@ -41,7 +41,7 @@ bool IsFocusAboutToGo()
     SDL_Event waiting[MOST];
     const int count = SDL_PeepEvents(waiting, MOST, SDL_PEEKEVENT, SDL_WINDOWEVENT, SDL_WINDOWEVENT);
     const auto losesFocus = [](const SDL_Event& event) { return event.window.event == SDL_WINDOWEVENT_FOCUS_LOST; };
-    return std::any_of(waiting, waiting + std::max(count, 0), losesFocus);
+    return count > 0 && std::any_of(waiting, waiting + count, losesFocus);
 }
 
 /// The maximise box and a double click on the title are commands to the game, which covers the whole screen then.

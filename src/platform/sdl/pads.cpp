@@ -154,6 +154,7 @@ void StopPads()
     }
     if (isStarted)
         SDL_QuitSubSystem(SDL_INIT_GAMECONTROLLER);
+    isStarted = false;
 }
 
 void PollPads()

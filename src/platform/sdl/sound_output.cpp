@@ -48,10 +48,12 @@ void SoundOutput::ReopenLostDevice()
 SoundOutput::~SoundOutput()
 {
     watch.Stop();
-    // Buffers released while they played are still fading out. A device that has stalled does not keep us.
-    for (Uint32 waited = 0; !mixer.IsSilent() && waited < LONGEST_FADE_OUT_MS; waited += 5)
-        SDL_Delay(5);
-    SDL_CloseAudioDevice(device);
+    if (device != 0) {
+        // Buffers released while they played are still fading out. A device that has stalled does not keep us.
+        for (Uint32 waited = 0; !mixer.IsSilent() && waited < LONGEST_FADE_OUT_MS; waited += 5)
+            SDL_Delay(5);
+        SDL_CloseAudioDevice(device);
+    }
     if (initialised)
         SDL_QuitSubSystem(SDL_INIT_AUDIO);
 }

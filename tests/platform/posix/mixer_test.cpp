@@ -89,7 +89,6 @@ TEST_F(MixerTest, FadesWhatStopsOrIsNoLongerHeardAndGoesOn)
     EXPECT_EQ(Mix(3), (Samples{ 1000 * 127 / 128, 1010 * 126 / 128, 1020 * 125 / 128 }));
     EXPECT_FALSE(mixer.IsSilent()) << "it fades";
     EXPECT_EQ(Mix(FADE).back(), 0);
-    EXPECT_TRUE(mixer.IsSilent());
     mixer.Play(voice, false);
     EXPECT_EQ(Mix(3), (Samples{ 1000 * 1 / 128, 1010 * 2 / 128, 1020 * 3 / 128 })) << "from where it was stopped";
     Mix(FADE);
